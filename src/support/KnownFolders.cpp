@@ -1,0 +1,42 @@
+#include "support/KnownFolders.h"
+
+#include "support/Paths.h"
+#include "support/Platform.h"
+
+#include <array>
+
+namespace {
+
+using PathBuffer = std::array<char16_t, Platform::maxPath>;
+
+template <class FolderFunction>
+QString ask(FolderFunction folderFunction, int csidl) {
+    PathBuffer buffer{};
+    if (folderFunction(csidl, buffer.data()) < 0) {
+        return QString();
+    }
+    buffer.back() = u'\0';
+    return QString::fromUtf16(buffer.data());
+}
+
+int csidlOf(int kind) {
+    switch (kind) {
+    case FolderKind::commonAppData:
+        return Platform::csidlCommonAppData;
+    case FolderKind::personal:
+        return Platform::csidlPersonal;
+    default:
+        return Platform::csidlLocalAppData;
+    }
+}
+
+} // namespace
+
+QString knownFolderPath(int csidl) {
+    return ask(Platform::folderPath, csidl);
+}
+
+QString makeMakerFolderPath(int kind, const QString& sub) {
+    const QString folder = ask(Platform::ownFolderPath, csidlOf(kind));
+    return Paths::join(Paths::join(folder, QStringLiteral("Veltrane")), sub);
+}
