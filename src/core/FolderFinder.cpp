@@ -1,0 +1,39 @@
+#include "core/FolderFinder.h"
+
+#include "core/LocationFilling.h"
+#include "support/Logger.h"
+#include "support/Paths.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace Finders {
+
+FolderFinder::FolderFinder(Logger* logger, const QString& folder, const QStringList& executables)
+    : AbstractFinder(logger)
+    , m_folder(folder)
+    , m_executables(executables) {}
+
+bool FolderFinder::find(GameLocation& location) {
+    const QDir dir(m_folder);
+    if (!dir.exists()) {
+        return false;
+    }
+
+    resetLocation(location);
+    bool found = false;
+    for (const QString& executable : qAsConst(m_executables)) {
+        const QString path = dir.absoluteFilePath(executable);
+        if (!QFileInfo::exists(path)) {
+            continue;
+        }
+        const QString native = Paths::toNative(path);
+        location.installFolder = Paths::toNative(dir.absolutePath());
+        addExecutable(location, native, native);
+        logger().logAlways("Folder: %ls", qUtf16Printable(path));
+        found = true;
+    }
+    return found;
+}
+
+} // namespace Finders

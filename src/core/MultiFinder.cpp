@@ -1,0 +1,72 @@
+#include "core/MultiFinder.h"
+
+namespace Finders {
+
+namespace {
+
+void takeOver(std::vector<std::unique_ptr<IGameFinder>>& finders, std::unique_ptr<IGameFinder>&& finder) {
+    if (finder) {
+        finders.push_back(std::move(finder));
+    }
+}
+
+} // namespace
+
+MultiFinder::MultiFinder(std::unique_ptr<IGameFinder>&& finder1, std::unique_ptr<IGameFinder>&& finder2,
+                         std::unique_ptr<IGameFinder>&& finder3, std::unique_ptr<IGameFinder>&& finder4,
+                         std::unique_ptr<IGameFinder>&& finder5, std::unique_ptr<IGameFinder>&& finder6,
+                         std::unique_ptr<IGameFinder>&& finder7, std::unique_ptr<IGameFinder>&& finder8,
+                         std::unique_ptr<IGameFinder>&& finder9, std::unique_ptr<IGameFinder>&& finder10,
+                         std::unique_ptr<IGameFinder>&& finder11) {
+    constexpr std::size_t mostFinders = 11;
+    m_finders.reserve(mostFinders); // so that nothing can throw once the first finder is taken over
+    takeOver(m_finders, std::move(finder1));
+    takeOver(m_finders, std::move(finder2));
+    takeOver(m_finders, std::move(finder3));
+    takeOver(m_finders, std::move(finder4));
+    takeOver(m_finders, std::move(finder5));
+    takeOver(m_finders, std::move(finder6));
+    takeOver(m_finders, std::move(finder7));
+    takeOver(m_finders, std::move(finder8));
+    takeOver(m_finders, std::move(finder9));
+    takeOver(m_finders, std::move(finder10));
+    takeOver(m_finders, std::move(finder11));
+}
+
+MultiFinder::~MultiFinder() {
+    // The first member goes first, which the vector itself does not promise.
+    for (std::unique_ptr<IGameFinder>& finder : m_finders) {
+        finder.reset();
+    }
+}
+
+bool MultiFinder::find(GameLocation& location) {
+    for (const std::unique_ptr<IGameFinder>& finder : m_finders) {
+        if (finder->find(location)) {
+            return true;
+        }
+        if (!finder->userLocation().isEmpty()) {
+            return false;
+        }
+    }
+    return false;
+}
+
+QString MultiFinder::userLocation() {
+    QString location;
+    for (const std::unique_ptr<IGameFinder>& finder : m_finders) {
+        location = finder->userLocation();
+        if (!location.isEmpty()) {
+            break;
+        }
+    }
+    return location;
+}
+
+void MultiFinder::setUserLocation(const QString& path) {
+    for (const std::unique_ptr<IGameFinder>& finder : m_finders) {
+        finder->setUserLocation(path);
+    }
+}
+
+} // namespace Finders
