@@ -1,0 +1,25 @@
+#pragma once
+
+#include "core/IGameFinderFactory.h"
+
+#include <QLibrary>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+/// The built plug-in, loaded as a host loads it.
+class PluginUnderTest {
+public:
+    PluginUnderTest()
+        : m_library(QStringLiteral(LURULUDRI_PLUGIN)) {
+        m_create = reinterpret_cast<CreateFactoryFunction>(m_library.resolve("Create"));
+        EXPECT_TRUE(m_create) << m_library.errorString().toStdString();
+    }
+
+    std::unique_ptr<IGameFinderFactory> create() const { return std::unique_ptr<IGameFinderFactory>(m_create()); }
+
+private:
+    QLibrary m_library;
+    CreateFactoryFunction m_create = nullptr;
+};

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "support/Platform.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+/// A registry key of the PC under test.
+struct TestKey {
+    Platform::RootKey root = Platform::RootKey::LocalMachine;
+    QString path;
+    quint32 view = 0; ///< a view flag as RegistryKey takes it
+};
+
+/// A PC to test with: a test says what is on it and then asks the code under test. In the native build it is a recorded
+/// PC in a temporary folder; in the Windows build it is the PC itself, its real registry and files. Whatever a test
+/// puts there goes when the TestPc does. One at a time.
+///
+/// Paths are Windows' own ("C:\\Games\\X"). Drives C, D and E exist.
+class TestPc {
+public:
+    TestPc();
+    ~TestPc();
+
+    // Registry
+    void key(const TestKey& key);
+    void value(const TestKey& key, const QString& name, const QString& text); ///< REG_SZ
+    void number(const TestKey& key, const QString& name, quint32 number);     ///< REG_DWORD
+    void value(const TestKey& key, const QString& name, quint32 type, const QByteArray& bytes);
+
+    // Files and folders, with the folders on the way
+    void file(const QString& path, const QByteArray& contents = {});
+    void folder(const QString& path);
+    void shortcut(const QString& path, const QString& target);
+    void removeFile(const QString& path);
+
+    // This library's log files
+    static QString logFolder();
+    static QString logPath(const QString& logger);
+    static void clearLogs();
+
+    /// The log's bytes; empty when there is none.
+    static QByteArray log(const QString& logger);
+
+    /// The log's lines as "A: text", without their times and without the banners.
+    static QStringList messages(const QString& logger);
+
+private:
+    Q_DISABLE_COPY_MOVE(TestPc)
+
+    class World;
+    std::unique_ptr<World> m_world;
+};
+
+/// How this world spells a path of the file system that is outside the PC under test, a log file's say.
+QString ownPath(const QString& folder, const QString& name);

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// The contents of a shortcut file to a local target, as the shell writes it: a header and the link information with
+/// the path in ANSI and in Unicode (learn.microsoft.com/openspecs/windows_protocols/ms-shllink).
+QByteArray shellLinkTo(const QString& target);

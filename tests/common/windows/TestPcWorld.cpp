@@ -1,0 +1,167 @@
+#include "common/TestPc.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <windows.h>
+
+#include <vector>
+
+namespace {
+
+const wchar_t* wide(const QString& text) {
+    return reinterpret_cast<const wchar_t*>(text.utf16());
+}
+
+HKEY rootHandle(Platform::RootKey root) {
+    switch (root) {
+    case Platform::RootKey::CurrentUser:
+        return HKEY_CURRENT_USER;
+    case Platform::RootKey::ClassesRoot:
+        return HKEY_CLASSES_ROOT;
+    case Platform::RootKey::Users:
+        return HKEY_USERS;
+    case Platform::RootKey::LocalMachine:
+        break;
+    }
+    return HKEY_LOCAL_MACHINE;
+}
+
+REGSAM accessOf(const TestKey& key) {
+    return KEY_ALL_ACCESS | static_cast<REGSAM>(key.view == 0 ? KEY_WOW64_64KEY : KEY_WOW64_32KEY);
+}
+
+/// One more path component at a time: "A", "A\B", "A\B\C".
+template <class Each>
+void eachParent(const QString& path, QChar separator, Each each) {
+    for (int end = path.indexOf(separator); end >= 0; end = path.indexOf(separator, end + 1)) {
+        each(path.left(end));
+    }
+    each(path);
+}
+
+} // namespace
+
+/// The PC that the test runs on, and what to take off it again.
+class TestPc::World {
+public:
+    World() = default;
+
+    ~World() {
+        for (auto value = m_values.rbegin(); value != m_values.rend(); ++value) {
+            const HKEY key = open(value->first);
+            ::RegDeleteValueW(key, wide(value->second));
+            ::RegCloseKey(key);
+        }
+        for (auto key = m_keys.rbegin(); key != m_keys.rend(); ++key) {
+            ::RegDeleteKeyExW(rootHandle(key->root), wide(key->path), accessOf(*key) & ~REGSAM(KEY_ALL_ACCESS), 0);
+        }
+        for (auto path = m_paths.rbegin(); path != m_paths.rend(); ++path) {
+            if (QFileInfo(*path).isDir()) {
+                QDir(*path).removeRecursively();
+            } else {
+                QFile::remove(*path);
+            }
+        }
+    }
+
+    /// The key, made where it is missing.
+    HKEY make(const TestKey& key) {
+        eachParent(key.path, '\\', [this, &key](const QString& path) {
+            const TestKey parent{key.root, path, key.view};
+            HKEY handle = nullptr;
+            DWORD disposition = 0;
+            if (::RegCreateKeyExW(rootHandle(key.root), wide(path), 0, nullptr, 0, accessOf(key), nullptr, &handle,
+                                  &disposition) != ERROR_SUCCESS) {
+                qFatal("cannot make the key %s", qUtf8Printable(path));
+            }
+            ::RegCloseKey(handle);
+            if (disposition == REG_CREATED_NEW_KEY) {
+                m_keys.push_back(parent);
+            }
+        });
+        return open(key);
+    }
+
+    void setValue(const TestKey& key, const QString& name, DWORD type, const void* data, std::size_t size) {
+        const HKEY handle = make(key);
+        if (::RegSetValueExW(handle, wide(name), 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size)) !=
+            ERROR_SUCCESS) {
+            qFatal("cannot set the value %s", qUtf8Printable(name));
+        }
+        ::RegCloseKey(handle);
+        m_values.emplace_back(key, name);
+    }
+
+    void makeFolder(const QString& path) {
+        eachParent(QDir::fromNativeSeparators(path), '/', [this](const QString& folder) {
+            if (!QFileInfo::exists(folder + '/') && QDir().mkdir(folder)) {
+                m_paths.push_back(folder);
+            }
+        });
+    }
+
+    void remember(const QString& path) { m_paths.push_back(path); }
+
+private:
+    static HKEY open(const TestKey& key) {
+        HKEY handle = nullptr;
+        if (::RegOpenKeyExW(rootHandle(key.root), wide(key.path), 0, accessOf(key), &handle) != ERROR_SUCCESS) {
+            qFatal("cannot open the key %s", qUtf8Printable(key.path));
+        }
+        return handle;
+    }
+
+    std::vector<std::pair<TestKey, QString>> m_values;
+    std::vector<TestKey> m_keys;
+    std::vector<QString> m_paths;
+};
+
+TestPc::TestPc()
+    : m_world(std::make_unique<World>()) {
+    clearLogs();
+}
+
+TestPc::~TestPc() = default;
+
+void TestPc::key(const TestKey& key) {
+    ::RegCloseKey(m_world->make(key));
+}
+
+void TestPc::value(const TestKey& key, const QString& name, const QString& text) {
+    m_world->setValue(key, name, REG_SZ, text.utf16(), (static_cast<std::size_t>(text.size()) + 1) * sizeof(wchar_t));
+}
+
+void TestPc::number(const TestKey& key, const QString& name, quint32 number) {
+    m_world->setValue(key, name, REG_DWORD, &number, sizeof number);
+}
+
+void TestPc::value(const TestKey& key, const QString& name, quint32 type, const QByteArray& bytes) {
+    m_world->setValue(key, name, type, bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
+
+void TestPc::file(const QString& path, const QByteArray& contents) {
+    m_world->makeFolder(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
+        qFatal("cannot write %s", qUtf8Printable(path));
+    }
+    m_world->remember(path);
+}
+
+void TestPc::folder(const QString& path) {
+    m_world->makeFolder(path);
+}
+
+void TestPc::shortcut(const QString& path, const QString& target) {
+    m_world->makeFolder(QFileInfo(path).path());
+    if (!QFile::link(target, path)) {
+        qFatal("cannot make the shortcut %s", qUtf8Printable(path));
+    }
+    m_world->remember(path);
+}
+
+void TestPc::removeFile(const QString& path) {
+    QFile::remove(path);
+}

@@ -1,0 +1,144 @@
+#include "core/FindersFactory.h"
+
+#include "common/PluginUnderTest.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "core/Locations.h"
+#include "core/ScriptedFinder.h"
+
+#include <QDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace {
+
+using ::testing::ElementsAre;
+
+const QString logName = "Quorvan.Finders";
+
+class FindersFactoryTest : public ::testing::Test {
+protected:
+    static std::unique_ptr<IGameFinder> combine(IGameFinderFactory& factory, std::unique_ptr<IGameFinder> first,
+                                                std::unique_ptr<IGameFinder> second) {
+        return factory.createMultiFinder(std::move(first), std::move(second), nullptr, nullptr, nullptr, nullptr,
+                                         nullptr, nullptr, nullptr, nullptr, nullptr);
+    }
+
+    TestPc pc;
+    const PluginUnderTest plugin;
+    GameLocation location = usedLocation();
+};
+
+TEST_F(FindersFactoryTest, CreateMakesAFactoryWhoseFolderFinderFindsAGame) {
+    pc.file("D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe");
+    const auto factory = plugin.create();
+    const auto finder = factory->createFolderFinder("D:\\Spiele\\Käferrennen", {"bin\\win64\\kaefer.exe"});
+    ASSERT_TRUE(finder);
+    EXPECT_TRUE(finder->find(location));
+    EXPECT_EQ(location, (GameLocation{"D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe",
+                                      "D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe",
+                                      {"D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe"},
+                                      "D:\\Spiele\\Käferrennen",
+                                      false}));
+    EXPECT_THAT(pc.messages(logName), ElementsAre("A: Folder: D:/Spiele/Käferrennen/bin\\win64\\kaefer.exe"));
+}
+
+TEST_F(FindersFactoryTest, ALogFileFramesTheFactorysLife) {
+    {
+        const auto factory = plugin.create();
+        EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
+        EXPECT_EQ(pc.log(logName).count("LOG DESTROYED"), 0);
+    }
+    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
+    EXPECT_EQ(pc.log(logName).count("LOG DESTROYED"), 1);
+}
+
+TEST_F(FindersFactoryTest, NothingIsLookedUpWhenAFactoryIsMade) {
+    const auto factory = plugin.create();
+    EXPECT_THAT(QDir(pc.logFolder()).entryList(QDir::Files), ElementsAre(logName + ".log"))
+        << "each index has a log of its own when it is built";
+}
+
+TEST_F(FindersFactoryTest, TwoFactoriesShareNothing) {
+    pc.file("C:\\Games\\X\\a.exe");
+    auto first = plugin.create();
+    const auto second = plugin.create();
+    const auto finder = second->createFolderFinder("C:\\Games\\X", {"a.exe"});
+    first.reset();
+    EXPECT_TRUE(finder->find(location));
+    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 2);
+    EXPECT_EQ(pc.log(logName).count("LOG DESTROYED"), 1);
+}
+
+TEST_F(FindersFactoryTest, AMultiFinderOfElevenNullsFindsNothing) {
+    const auto factory = plugin.create();
+    const auto finder = combine(*factory, nullptr, nullptr);
+    ASSERT_TRUE(finder);
+    EXPECT_FALSE(finder->find(location));
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(finder->userLocation(), "");
+}
+
+TEST_F(FindersFactoryTest, AMultiFinderTriesFolderAfterFolder) {
+    pc.folder("C:\\Games\\X");
+    pc.file("D:\\Games\\X\\x.exe");
+    const auto factory = plugin.create();
+    const auto finder = combine(*factory, factory->createFolderFinder("C:\\Games\\X", {"x.exe"}),
+                                factory->createFolderFinder("D:\\Games\\X", {"x.exe"}));
+    EXPECT_TRUE(finder->find(location));
+    EXPECT_EQ(location.installFolder, "D:\\Games\\X");
+    EXPECT_THAT(location.executablePaths, ElementsAre("D:\\Games\\X\\x.exe"));
+}
+
+TEST_F(FindersFactoryTest, AMultiFinderTakesTheHostsOwnFindersToo) {
+    QStringList notes;
+    const auto factory = plugin.create();
+    std::unique_ptr<IGameFinder> own = std::make_unique<ScriptedFinder>(
+        "own", ScriptedFinder::Script{true, "D:\\Chosen", "D:\\Chosen"}, &notes);
+    auto finder = combine(*factory, nullptr, std::move(own));
+    EXPECT_TRUE(finder->find(location));
+    EXPECT_EQ(finder->userLocation(), "D:\\Chosen");
+    finder.reset();
+    EXPECT_THAT(notes, ElementsAre("own find", "own destroyed"));
+}
+
+/// The number of a virtual operation's slot. In the C++ ABI of both compilers a pointer to a virtual member function
+/// holds its offset in the table, plus one; a destructor takes two entries.
+template <class Operation>
+std::ptrdiff_t slotOf(Operation operation) {
+    std::ptrdiff_t offset = 0;
+    std::memcpy(&offset, &operation, sizeof offset);
+    return (offset - 1) / static_cast<std::ptrdiff_t>(sizeof(void*)) - 1;
+}
+
+TEST(InterfaceTest, TheFindersOperationsKeepTheirSlots) {
+    EXPECT_EQ(slotOf(&IGameFinder::find), 1);
+    EXPECT_EQ(slotOf(&IGameFinder::userLocation), 2);
+    EXPECT_EQ(slotOf(&IGameFinder::setUserLocation), 3);
+}
+
+TEST(InterfaceTest, TheFactorysOperationsKeepTheirSlots) {
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createUninstallFinder), 1);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createGameForWindowFinder), 2);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createSteamFinder), 3);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createMultiFinder), 4);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createStartMenuFinder), 5);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createFolderFinder), 6);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createOculusStoreFinder), 7);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createEpicStoreFinder), 8);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createUniversalAppFinder), 9);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::createUserProvidedLocationFinder), 10);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::oculusLibraryFolders), 11);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::oculusRuntimeFolder), 12);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::steamExecutablePath), 13);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::steamConfigFolder), 14);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::varjoRuntimeFolder), 15);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::openXrActiveRuntime), 16);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::lumavexStandaloneLocation), 17);
+    EXPECT_EQ(slotOf(&IGameFinderFactory::steamVrFolder), 18);
+}
+
+} // namespace

@@ -1,0 +1,138 @@
+#include "core/FolderFinder.h"
+
+#include "core/GameLocation.h"
+#include "support/Logger.h"
+
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "core/Locations.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class FolderFinderTest : public ::testing::Test {
+protected:
+    bool find(const QString& folder, const QStringList& executables) {
+        return Finders::FolderFinder(&logger, folder, executables).find(location);
+    }
+
+    TestPc pc;
+    Logger logger = Logger::create("Test");
+    GameLocation location = usedLocation();
+};
+
+TEST_F(FolderFinderTest, FindsEveryExecutableInTheOrderGiven) {
+    pc.file("D:\\Games\\X\\b.exe");
+    pc.file("D:\\Games\\X\\a.exe");
+    EXPECT_TRUE(find("D:\\Games\\X", {"a.exe", "missing.exe", "b.exe"}));
+    EXPECT_EQ(location, (GameLocation{"D:\\Games\\X\\a.exe",
+                                      "D:\\Games\\X\\a.exe",
+                                      {"D:\\Games\\X\\a.exe", "D:\\Games\\X\\b.exe"},
+                                      "D:\\Games\\X",
+                                      false}));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Folder: D:/Games/X/a.exe", "A: Folder: D:/Games/X/b.exe"));
+}
+
+TEST_F(FolderFinderTest, LeavesTheRecordAloneWhenTheFolderIsMissing) {
+    pc.file("C:\\Games\\file");
+    EXPECT_FALSE(find("C:\\Games\\X", {"a.exe"}));
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_FALSE(find("C:\\Games\\file", {"a.exe"})) << "a file is no folder";
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_FALSE(find("Q:\\Games", {"a.exe"})) << "no such drive";
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+}
+
+TEST_F(FolderFinderTest, ResetsTheRecordWhenNoExecutableExists) {
+    pc.folder("C:\\Games\\X");
+    EXPECT_FALSE(find("C:\\Games\\X", {"a.exe"}));
+    EXPECT_EQ(location, GameLocation());
+    location = usedLocation();
+    EXPECT_FALSE(find("C:\\Games\\X", {}));
+    EXPECT_EQ(location, GameLocation());
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+}
+
+TEST_F(FolderFinderTest, TheInstallFolderIsTheGivenOneEvenForAnExecutableBelowIt) {
+    pc.file("D:\\Games\\X\\bin\\win64\\x.exe");
+    EXPECT_TRUE(find("D:\\Games\\X", {"bin\\win64\\x.exe"}));
+    EXPECT_EQ(location.installFolder, "D:\\Games\\X");
+    EXPECT_EQ(location.launchCommand, "D:\\Games\\X\\bin\\win64\\x.exe");
+    EXPECT_THAT(location.executablePaths, ElementsAre("D:\\Games\\X\\bin\\win64\\x.exe"));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Folder: D:/Games/X/bin\\win64\\x.exe"));
+}
+
+TEST_F(FolderFinderTest, AnAbsolutePathStandsForItself) {
+    pc.folder("C:\\Games\\X");
+    pc.file("D:\\Elsewhere\\x.exe");
+    EXPECT_TRUE(find("C:\\Games\\X", {"D:\\Elsewhere\\x.exe", "D:/Elsewhere/x.exe"}));
+    EXPECT_EQ(location.installFolder, "C:\\Games\\X");
+    EXPECT_THAT(location.executablePaths, ElementsAre("D:\\Elsewhere\\x.exe", "D:\\Elsewhere\\x.exe"));
+}
+
+TEST_F(FolderFinderTest, TheFolderMayBeSpelledInAnyWay) {
+    pc.file("C:\\Games\\X\\a.exe");
+    for (const char* folder : {"C:/Games/X", "c:\\games\\x", "C:\\Games\\X\\", "C:\\Games\\\\X//", "C:\\Games\\.\\Y\\..\\X"}) {
+        EXPECT_TRUE(find(folder, {"A.EXE"})) << folder;
+        EXPECT_EQ(location.installFolder.toLower(), "c:\\games\\x") << folder;
+        EXPECT_EQ(location.launchCommand.toLower(), "c:\\games\\x\\a.exe") << folder;
+    }
+    EXPECT_TRUE(find("c:\\games\\x", {"A.EXE"}));
+    EXPECT_EQ(location.launchCommand, "c:\\games\\x\\A.EXE") << "as it was asked for";
+}
+
+TEST_F(FolderFinderTest, FindsNamesOutsideTheCodePage) {
+    const QString folder = QString::fromUtf8("C:\\Spiele\\Käferrennen 競走 \xF0\x9F\x8E\xAE");
+    pc.file(folder + QString::fromUtf8("\\競走.exe"));
+    EXPECT_TRUE(find(folder, {QString::fromUtf8("競走.exe")}));
+    EXPECT_EQ(location.launchCommand, folder + QString::fromUtf8("\\競走.exe"));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Folder: " + QDir::fromNativeSeparators(folder).replace('\\', '/') +
+                                                 QString::fromUtf8("/競走.exe")));
+}
+
+TEST_F(FolderFinderTest, ADirectoryOfTheRightNameCountsAsWell) {
+    pc.folder("C:\\Games\\X\\a.exe");
+    EXPECT_TRUE(find("C:\\Games\\X", {"a.exe"}));
+    EXPECT_EQ(location.launchCommand, "C:\\Games\\X\\a.exe");
+}
+
+TEST_F(FolderFinderTest, AnEmptyFolderIsTheCurrentDirectory) {
+    const QString current = QDir::toNativeSeparators(QDir::currentPath());
+    const QString program = QDir::current().relativeFilePath(QCoreApplication::applicationFilePath());
+    EXPECT_TRUE(find("", {program}));
+    EXPECT_EQ(location.installFolder, current);
+    location = usedLocation();
+    EXPECT_FALSE(find("", {"no such program.exe"}));
+    EXPECT_EQ(location, GameLocation()) << "it was searched like any other";
+}
+
+TEST_F(FolderFinderTest, LooksAgainAtEverySearch) {
+    pc.folder("C:\\Games\\X");
+    Finders::FolderFinder finder(&logger, "C:\\Games\\X", {"a.exe"});
+    EXPECT_FALSE(finder.find(location));
+    pc.file("C:\\Games\\X\\a.exe");
+    EXPECT_TRUE(finder.find(location));
+    pc.removeFile("C:\\Games\\X\\a.exe");
+    EXPECT_FALSE(finder.find(location));
+}
+
+TEST_F(FolderFinderTest, KeepsNoUserLocation) {
+    pc.file("C:\\Games\\X\\a.exe");
+    Finders::FolderFinder finder(&logger, "C:\\Games\\X", {"a.exe"});
+    finder.setUserLocation("D:\\Elsewhere");
+    EXPECT_EQ(finder.userLocation(), "");
+    EXPECT_FALSE(finder.userLocation().isNull()) << "empty, as an empty text is";
+    EXPECT_TRUE(finder.find(location));
+    EXPECT_EQ(location.installFolder, "C:\\Games\\X");
+}
+
+} // namespace
