@@ -21,7 +21,9 @@ QString TestPc::logPath(const QString& logger) {
     return ownPath(logFolder(), logger + ".log");
 }
 
-void TestPc::clearLogs() { QDir(logFolder()).removeRecursively(); }
+void TestPc::clearLogs() {
+    QDir(logFolder()).removeRecursively();
+}
 
 QByteArray TestPc::log(const QString& logger) {
     QFile file(logPath(logger));

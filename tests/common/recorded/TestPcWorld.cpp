@@ -76,8 +76,7 @@ private:
 
     /// The rest of the PC. The version is the one that the test programs have on Windows.
     static void describe(const QString& path) {
-        const QJsonObject host{{"executable", QCoreApplication::applicationFilePath()},
-                               {"version", "3.1.4159.65535"}};
+        const QJsonObject host{{"executable", QCoreApplication::applicationFilePath()}, {"version", "3.1.4159.65535"}};
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly)) {
             qFatal("cannot write the recorded PC");

@@ -1,0 +1,50 @@
+#include "allocation/SystemMemory.h"
+
+#include <cerrno>
+#include <cstdlib>
+
+// The program's own malloc, calloc and realloc come before the C library's, for every library in the process. They
+// hand on to the functions that LURULUDRI_MALLOC_PREFIX names: the C library's or the sanitizer's.
+
+#define LURULUDRI_JOIN_AGAIN(prefix, name) prefix##name
+#define LURULUDRI_JOIN(prefix, name) LURULUDRI_JOIN_AGAIN(prefix, name)
+#define LURULUDRI_REAL(name) LURULUDRI_JOIN(LURULUDRI_MALLOC_PREFIX, name)
+
+extern "C" {
+void* LURULUDRI_REAL(malloc)(std::size_t size);
+void* LURULUDRI_REAL(calloc)(std::size_t count, std::size_t size);
+void* LURULUDRI_REAL(realloc)(void* memory, std::size_t size);
+int __lsan_do_recoverable_leak_check() __attribute__((weak));
+
+__attribute__((visibility("default"))) void* malloc(std::size_t size) {
+    if (SystemMemory::mayAllocate()) {
+        return LURULUDRI_REAL(malloc)(size);
+    }
+    errno = ENOMEM;
+    return nullptr;
+}
+
+__attribute__((visibility("default"))) void* calloc(std::size_t count, std::size_t size) {
+    if (SystemMemory::mayAllocate()) {
+        return LURULUDRI_REAL(calloc)(count, size);
+    }
+    errno = ENOMEM;
+    return nullptr;
+}
+
+__attribute__((visibility("default"))) void* realloc(void* memory, std::size_t size) {
+    if (SystemMemory::mayAllocate()) {
+        return LURULUDRI_REAL(realloc)(memory, size);
+    }
+    errno = ENOMEM;
+    return nullptr;
+}
+}
+
+void* SystemMemory::allocate(std::size_t size) noexcept {
+    return std::malloc(size);
+}
+
+bool SystemMemory::nothingLeaked() {
+    return __lsan_do_recoverable_leak_check == nullptr || __lsan_do_recoverable_leak_check() == 0;
+}
