@@ -6,19 +6,22 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <new>
 
 namespace {
 
-/// Calls `attempt` with its first, second, third … allocation failing, until it makes no more of them. Returns how
-/// many attempts ended with std::bad_alloc; any other exception ends the test.
-template <class Attempt>
-int failEachAllocation(Attempt attempt) {
+/// Makes and destroys a factory with its first, second, third … allocation failing, until it makes no more of them.
+/// Calls `prepare` before each attempt and keeps what it returns until after it. Returns how many attempts ended with
+/// std::bad_alloc; any other exception ends the test.
+template <class Prepare>
+int failEachAllocation(Prepare prepare) {
     int exceptions = 0;
     for (int countdown = 0;; ++countdown) {
+        [[maybe_unused]] const auto prepared = prepare();
         const FailingAllocation failing(countdown);
         try {
-            attempt();
+            const Finders::FindersFactory factory;
         } catch (const std::bad_alloc&) {
             ++exceptions;
             continue;
@@ -29,20 +32,26 @@ int failEachAllocation(Attempt attempt) {
     }
 }
 
-class AllocationTest : public ::testing::Test {
-protected:
-    TestPc pc;
-};
-
-TEST_F(AllocationTest, WithoutMemoryCreateThrowsAndLeaksNothing) {
+TEST(AllocationTest, WithoutMemoryCreateThrowsAndLeaksNothing) {
+    const TestPc pc;
     { const Finders::FindersFactory first; } // what Qt and the C++ library keep for themselves is made now
-    const int exceptions = failEachAllocation([] { const Finders::FindersFactory factory; });
+    const int exceptions = failEachAllocation([] { return nullptr; });
     EXPECT_GT(exceptions, 5) << "does the library under test allocate by the test's operator new?";
     EXPECT_TRUE(FailingAllocation::nothingLeaked());
 
-    pc.clearLogs();
+    TestPc::clearLogs();
     { const Finders::FindersFactory factory; }
     EXPECT_TRUE(TestPc::log("Quorvan.Finders").contains("LOG CREATED")) << "memory is back, and so is the log";
+}
+
+TEST(AllocationTest, TheFirstCreateOfAllBearsItAsWell) {
+    const int exceptions = failEachAllocation([] {
+        auto pc = std::make_unique<TestPc>(); // one that was never asked before
+        pc->number({Platform::RootKey::CurrentUser, "Software\\Veltrane\\Quorvan.Finders"}, "LogLevel", 1);
+        return pc;
+    });
+    EXPECT_GT(exceptions, 5);
+    EXPECT_TRUE(FailingAllocation::nothingLeaked());
 }
 
 } // namespace

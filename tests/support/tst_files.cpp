@@ -67,7 +67,8 @@ TEST_F(FilesTest, TextIsWrittenInUtf8WithWindowsLineEnds) {
     ASSERT_TRUE(stream);
     stream->write("Käfer ");
     stream->write("競走\n\n");
-    stream->write("\xF0\x9F\x8E\xAE" "\n");
+    stream->write("\xF0\x9F\x8E\xAE"
+                  "\n");
     stream->flush();
     EXPECT_EQ(read("text"), "Käfer 競走\r\n\r\n\xF0\x9F\x8E\xAE\r\n") << "on disk before it is closed";
 }
@@ -97,7 +98,9 @@ TEST_F(FilesTest, SeveralStreamsMayAppendToOneFile) {
     EXPECT_EQ(read("text"), "1\r\n2\r\n3\r\n");
 }
 
-QByteArray utf16(const QString& text) { return {reinterpret_cast<const char*>(text.utf16()), text.size() * 2}; }
+QByteArray utf16(const QString& text) {
+    return {reinterpret_cast<const char*>(text.utf16()), text.size() * 2};
+}
 
 TEST_F(FilesTest, UnicodeTextBeginsWithOneByteOrderMark) {
     for (const char* line : {"Käfer 競走\n", "\xF0\x9F\x8E\xAE\n"}) {

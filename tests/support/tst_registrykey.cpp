@@ -21,9 +21,13 @@ constexpr quint32 regQword = 11;
 
 const QString path = "Software\\TestMaker\\Röhre"; // below HKEY_LOCAL_MACHINE unless a test says otherwise
 
-QByteArray utf16(const QString& text) { return {reinterpret_cast<const char*>(text.utf16()), text.size() * 2}; }
+QByteArray utf16(const QString& text) {
+    return {reinterpret_cast<const char*>(text.utf16()), text.size() * 2};
+}
 
-QByteArray littleEndian(quint32 number) { return {reinterpret_cast<const char*>(&number), sizeof number}; }
+QByteArray littleEndian(quint32 number) {
+    return {reinterpret_cast<const char*>(&number), sizeof number};
+}
 
 class RegistryKeyTest : public ::testing::Test {
 protected:

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace Host {
+
+struct FinderType;
+
+/// One finder of a game, as the catalogue describes it. Which of the values mean something, and under which names the
+/// catalogue has them, says the type.
+struct FinderEntry {
+    const FinderType* type = nullptr; ///< never null in a catalogue that was read; lives as long as the program
+    QString subject;                  ///< what the finder searches for: a name, a title, an identifier, a folder
+    QString folderName;
+    QStringList executables;
+    int matchMode = 0;
+    std::vector<FinderEntry> finders; ///< the finders within a multi finder
+};
+
+struct Game {
+    QString name;
+    std::vector<FinderEntry> finders; ///< in the order in which they are tried
+};
+
+using Catalogue = std::vector<Game>;
+
+/// Why a catalogue cannot be used.
+struct CatalogueFault {
+    int line = 0; ///< line and column count from 1; both 0 when the fault is not one of the JSON text
+    int column = 0;
+    QString message;
+};
+
+/// The number of finders that one multi finder holds.
+constexpr std::size_t mostFinders = 11;
+
+/// The catalogue that a JSON text describes (docs/catalogue.md). No value when it has a fault; `fault` is then the
+/// first one.
+std::optional<Catalogue> parseCatalogue(const QByteArray& json, CatalogueFault& fault);
+
+/// The same for a file.
+std::optional<Catalogue> readCatalogue(const QString& file, CatalogueFault& fault);
+
+/// The games of these names, each once and in the catalogue's order, letter case ignored; all when there are no names.
+/// No value when a name is not in the catalogue; `unknown` is then that name.
+std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringList& names, QString& unknown);
+
+} // namespace Host

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QLibrary>
+#include <QString>
+#include <QtGlobal>
+
+#include <memory>
+
+class IGameFinderFactory;
+
+namespace Host {
+
+/// The plug-in's file in memory. Unloads it at its end: everything that came out of the plug-in must be gone by then,
+/// texts included, because they may lie in the file.
+class Plugin {
+public:
+    /// The file may be given without its suffix.
+    explicit Plugin(const QString& file);
+    ~Plugin();
+
+    /// Loads the file and makes a factory. Null when it cannot; `fault` then says why.
+    std::unique_ptr<IGameFinderFactory> createFactory(QString& fault);
+
+private:
+    Q_DISABLE_COPY_MOVE(Plugin)
+
+    QLibrary m_library;
+};
+
+} // namespace Host

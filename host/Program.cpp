@@ -1,0 +1,108 @@
+#include "host/Program.h"
+
+#include "core/IGameFinderFactory.h"
+#include "host/Answers.h"
+#include "host/Catalogue.h"
+#include "host/CommandLine.h"
+#include "host/Console.h"
+#include "host/Plugin.h"
+#include "host/RecordedPc.h"
+#include "host/Report.h"
+
+#include <memory>
+#include <new>
+#include <optional>
+
+namespace Host {
+
+namespace {
+
+ExitStatus fail(const QString& message) {
+    Console::complain(message);
+    return failed;
+}
+
+ExitStatus print(const QString& text, ExitStatus status) {
+    return Console::print(text) ? status : fail(QStringLiteral("the answers could not be written"));
+}
+
+QString describe(const QString& file, const CatalogueFault& fault) {
+    return fault.line > 0 ? QStringLiteral("%1:%2:%3: %4")
+                                .arg(file, QString::number(fault.line), QString::number(fault.column), fault.message)
+                          : QStringLiteral("%1: %2").arg(file, fault.message);
+}
+
+/// The games to ask for. No value after a fault, of which the user has been told.
+std::optional<Catalogue> loadGames(const Options& options) {
+    CatalogueFault fault;
+    const std::optional<Catalogue> catalogue = readCatalogue(options.catalogue, fault);
+    if (!catalogue) {
+        Console::complain(describe(options.catalogue, fault));
+        return std::nullopt;
+    }
+    QString unknown;
+    std::optional<Catalogue> games = selectGames(*catalogue, options.games, unknown);
+    if (!games) {
+        Console::complain(QStringLiteral("%1: no game is named \"%2\"").arg(options.catalogue, unknown));
+    }
+    return games;
+}
+
+ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& games) {
+    QString fault;
+    const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault);
+    if (!factory) {
+        return fail(fault);
+    }
+    const Answers answers = ask(*factory, games);
+    return print(options.json ? renderJson(answers) : renderTables(answers),
+                 answers.allGamesFound() ? allFound : someNotFound);
+}
+
+ExitStatus askPlugin(const Options& options, const Catalogue& games) {
+    Plugin plugin(options.plugin);
+    try {
+        return askWithin(plugin, options, games);
+    } catch (const std::bad_alloc&) {
+        // Here and not further out: what the plug-in throws is destroyed by code of the plug-in.
+        return failForMemory();
+    }
+}
+
+ExitStatus run(const Options& options) {
+    const std::optional<Catalogue> games = loadGames(options);
+    if (!games) {
+        return failed;
+    }
+    const RecordedPc pc = chooseRecordedPc(options.pc);
+    if (!pc.fault.isEmpty()) {
+        return fail(pc.fault);
+    }
+    for (const QString& problem : pc.problems) {
+        Console::complain(problem);
+    }
+    const ExitStatus status = askPlugin(options, *games);
+    return pc.problems.isEmpty() ? status : failed;
+}
+
+} // namespace
+
+ExitStatus failForMemory() {
+    return fail(QStringLiteral("out of memory"));
+}
+
+ExitStatus runProgram(const QStringList& arguments) {
+    const CommandLine commandLine = parseCommandLine(arguments);
+    switch (commandLine.action) {
+    case CommandLine::Action::Run:
+        return run(commandLine.options);
+    case CommandLine::Action::PrintText:
+        return print(commandLine.text, allFound);
+    case CommandLine::Action::Refuse:
+        break;
+    }
+    Console::complain(commandLine.text);
+    return fail(QStringLiteral("try luruludri-find --help"));
+}
+
+} // namespace Host

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QStringList>
+
+namespace Host {
+
+enum ExitStatus {
+    allFound = 0,
+    someNotFound = 1,
+    failed = 2, ///< wrong use, or something that the program reads is missing or broken
+};
+
+/// The whole program, given its arguments. Needs the application object.
+ExitStatus runProgram(const QStringList& arguments);
+
+/// Tells the user that memory ran out, which is how `runProgram` and its caller end on std::bad_alloc.
+ExitStatus failForMemory();
+
+} // namespace Host

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace Host {
+
+struct Answers;
+
+/// The answers for people: a table of the games, when there are any, and one of the runtimes.
+QString renderTables(const Answers& answers);
+
+/// The answers for programs: a JSON object, described in docs/catalogue.md.
+QString renderJson(const Answers& answers);
+
+} // namespace Host

@@ -1,0 +1,19 @@
+#include "host/Console.h"
+#include "host/Program.h"
+
+#include <QCoreApplication>
+#include <QLatin1String>
+
+#include <new>
+
+int main(int argc, char* argv[]) {
+    const Host::Console console;
+    try {
+        QCoreApplication application(argc, argv);
+        QCoreApplication::setApplicationName(QStringLiteral("luruludri-find"));
+        QCoreApplication::setApplicationVersion(QLatin1String(LURULUDRI_VERSION));
+        return Host::runProgram(QCoreApplication::arguments());
+    } catch (const std::bad_alloc&) {
+        return Host::failForMemory();
+    }
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace Recorded {
+
+/// Text in Windows-1252, the ANSI code page of a recorded PC; "?" for what it lacks.
+QByteArray toAnsi(const QString& text);
+
+/// The text of bytes in Windows-1252.
+QString fromAnsi(const QByteArray& bytes);
+
+} // namespace Recorded

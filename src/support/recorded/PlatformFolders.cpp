@@ -1,0 +1,68 @@
+#include "support/recorded/RecordedPc.h"
+
+#include <QFile>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <cstring>
+
+#include <unistd.h>
+
+namespace Platform {
+
+namespace {
+
+constexpr qint32 successful = 0;
+constexpr qint32 failed = static_cast<qint32>(0x80004005); // E_FAIL
+
+// Copies a path into one of the buffers of maxPath characters.
+bool copyPath(const QString& path, char16_t* buffer) {
+    if (path.isEmpty() || path.size() >= static_cast<int>(maxPath)) {
+        return false;
+    }
+    std::memcpy(buffer, path.utf16(), (static_cast<size_t>(path.size()) + 1) * sizeof(char16_t));
+    return true;
+}
+
+QString ownExecutable() {
+    char path[4096];
+    const ssize_t size = ::readlink("/proc/self/exe", path, sizeof path);
+    return size > 0 ? QFile::decodeName(QByteArray(path, static_cast<int>(size))) : QString();
+}
+
+} // namespace
+
+qint32 folderPath(int csidl, char16_t* buffer) {
+    return copyPath(Recorded::currentPc()->description().shellFolders.value(csidl), buffer) ? successful : failed;
+}
+
+qint32 ownFolderPath(int /*csidl*/, char16_t* buffer) {
+    return copyPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation), buffer) ? successful
+                                                                                                   : failed;
+}
+
+quint32 moduleFileName(char16_t* buffer, quint32 size) {
+    const QString& recorded = Recorded::currentPc()->description().hostExecutable;
+    const QString path = recorded.isEmpty() ? ownExecutable() : recorded;
+    if (path.isEmpty() || size == 0) {
+        return 0;
+    }
+    const quint32 length = std::min(static_cast<quint32>(path.size()), size - 1);
+    std::memcpy(buffer, path.utf16(), length * sizeof(char16_t));
+    buffer[length] = u'\0';
+    return length < static_cast<quint32>(path.size()) ? size : length;
+}
+
+QProcessEnvironment systemEnvironment() {
+    const auto pc = Recorded::currentPc();
+    return pc->isActive() ? pc->description().environment : QProcessEnvironment::systemEnvironment();
+}
+
+bool volumeName(const QString& mountPoint, char16_t* buffer) {
+    if (mountPoint.size() != 3 || !mountPoint.endsWith(QLatin1String(":\\"))) {
+        return false;
+    }
+    return copyPath(Recorded::currentPc()->description().volumes.value(mountPoint.at(0).toUpper()), buffer);
+}
+
+} // namespace Platform

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+#include <QProcessEnvironment>
+#include <QString>
+
+#include <optional>
+
+namespace Recorded {
+
+/// What a shortcut file (.lnk) says about its target. What it doesn't say is empty.
+struct ShellLink {
+    QString expandable;  ///< may hold environment variables, "%ProgramFiles%\X\X.exe"
+    QString localPath;   ///< "C:\Games\X\X.exe"
+    QString networkPath; ///< "\\server\share\X.exe"
+    QString relativePath;
+};
+
+/// Reads a shortcut as learn.microsoft.com/openspecs/windows_protocols/ms-shllink describes it. Empty when `bytes` are
+/// none or are damaged. A list of shell items, which also tells the target but only to a shell, is not read.
+std::optional<ShellLink> parseShellLink(const QByteArray& bytes);
+
+/// Where `link` leads, as Qt writes it on Windows: "C:/Games/X/X.exe". `folder` is the one in which the shortcut lies.
+/// Empty when it leads nowhere.
+QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, const QString& folder);
+
+} // namespace Recorded

@@ -1,0 +1,61 @@
+#include "FindProgram.h"
+
+#include "common/QtPrinters.h"
+#include "support/Recording.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+namespace {
+
+constexpr int longestRunMs = 60000;
+
+QString textOf(const QByteArray& utf8) {
+    return QString::fromUtf8(utf8).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+} // namespace
+
+FindProgram::FindProgram()
+    : m_folder(QDir::tempPath() + QStringLiteral("/finde-Käfer-XXXXXX")) {
+    EXPECT_TRUE(m_folder.isValid()) << m_folder.errorString().toStdString();
+    m_environment.remove(QString::fromLatin1(Recording::environmentVariable));
+    m_environment.insert(QStringLiteral("LURULUDRI_FAKE_LOG"), m_folder.filePath(QStringLiteral("fake.log")));
+}
+
+QString FindProgram::file(const QString& name, const QByteArray& content) const {
+    const QString path = m_folder.filePath(name);
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    EXPECT_EQ(file.write(content), content.size());
+    return path;
+}
+
+void FindProgram::setFakeMode(const char* mode) {
+    m_environment.insert(QStringLiteral("LURULUDRI_FAKE_MODE"), QString::fromLatin1(mode));
+}
+
+FindRun FindProgram::run(const QStringList& arguments) const {
+    return runBare(QStringList{QStringLiteral("--plugin"), QStringLiteral(LURULUDRI_FAKE_PLUGIN)} + arguments);
+}
+
+FindRun FindProgram::runBare(const QStringList& arguments) const {
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.start(QStringLiteral(LURULUDRI_FIND), arguments);
+    EXPECT_TRUE(process.waitForFinished(longestRunMs)) << process.errorString().toStdString();
+    const bool exited = process.exitStatus() == QProcess::NormalExit && process.error() == QProcess::UnknownError;
+    return {exited ? process.exitCode() : -1, textOf(process.readAllStandardOutput()),
+            textOf(process.readAllStandardError())};
+}
+
+QStringList FindProgram::fakeLog() const {
+    QFile file(m_folder.filePath(QStringLiteral("fake.log")));
+    return file.open(QIODevice::ReadOnly) ? textOf(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+                                          : QStringList();
+}

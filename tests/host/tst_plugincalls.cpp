@@ -1,0 +1,155 @@
+#include "FindProgram.h"
+
+#include "common/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+/// A catalogue with one game that has these finders.
+QByteArray oneGame(const QByteArray& finders) {
+    return R"({"games": [{"name": "Käferrennen", "finders": [)" + finders + "]}]}";
+}
+
+/// The one call that this finder's entry leads to.
+QString callOf(const QByteArray& finder) {
+    const FindProgram program;
+    const FindRun run = program.run({program.file("games.json", oneGame(finder))});
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.exitStatus, 1);
+    return program.fakeLog().value(1);
+}
+
+TEST(PluginCalls, ArgumentsReachTheirSlots) {
+    EXPECT_EQ(callOf(R"({"type": "uninstall", "displayName": "Name", "executables": ["a", "b"], "matchMode": 7})"),
+              "uninstall(Name|a,b|7)");
+    EXPECT_EQ(callOf(R"({"type": "gameForWindow", "title": "Title", "executables": ["a", "b"]})"),
+              "gameForWindow(Title|a,b)");
+    EXPECT_EQ(callOf(R"({"type": "steam", "appId": "42", "installFolderName": "Folder", "executables": ["a", "b"]})"),
+              "steam(42|Folder|a,b)");
+    EXPECT_EQ(callOf(R"({"type": "startMenu", "name": "Name", "executables": ["a", "b"], "matchMode": 1})"),
+              "startMenu(Name|a,b|1)");
+    EXPECT_EQ(callOf(R"({"type": "folder", "folder": "D:\\Spiele\\Käfer", "executables": ["a", "b"]})"),
+              "folder(D:\\Spiele\\Käfer|a,b)");
+    EXPECT_EQ(callOf(R"({"type": "oculusStore", "appId": "4", "executables": ["a", "b"], "softwareFolder": "F"})"),
+              "oculusStore(4|a,b|F)");
+    EXPECT_EQ(callOf(R"({"type": "epicStore", "name": "Name", "executables": ["a", "b"], "matchMode": -1})"),
+              "epicStore(Name|a,b|-1)");
+    EXPECT_EQ(callOf(R"({"type": "universalApp", "packageFamily": "Family_1"})"), "universalApp(Family_1)");
+    EXPECT_EQ(callOf(R"({"type": "userProvidedLocation", "key": "Key", "executables": []})"),
+              "userProvidedLocation(Key|)");
+}
+
+TEST(PluginCalls, AMatchModeThatIsLeftOutIsZero) {
+    EXPECT_EQ(callOf(R"({"type": "epicStore", "name": "Name", "executables": []})"), "epicStore(Name||0)");
+}
+
+TEST(PluginCalls, FindersGoIntoOneMultiFinderInOrder) {
+    const FindProgram program;
+    program.run({program.file("games.json", oneGame(R"(
+        {"type": "universalApp", "packageFamily": "1"}, {"type": "steam", "appId": "2", "installFolderName": "",
+         "executables": []}, {"type": "folder", "folder": "3", "executables": []})"))});
+    EXPECT_EQ(program.fakeLog().mid(0, 5),
+              (QStringList{"Create", "universalApp(1)", "steam(2||)", "folder(3|)", "multi(11100000000)"}));
+}
+
+TEST(PluginCalls, ElevenFindersFillAllPlaces) {
+    const FindProgram program;
+    const QByteArray finder = R"({"type": "universalApp", "packageFamily": "x"})";
+    program.run({program.file("games.json", oneGame((finder + ',').repeated(10) + finder))});
+    EXPECT_EQ(program.fakeLog().value(12), "multi(11111111111)");
+}
+
+TEST(PluginCalls, NestedMultiFindersAreMadeFromTheInside) {
+    const FindProgram program;
+    const FindRun run = program.run({program.file("games.json", oneGame(R"({"type": "multi", "finders": [
+        {"type": "universalApp", "packageFamily": "1"}, {"type": "universalApp", "packageFamily": "installed"}]})"))});
+    EXPECT_EQ(program.fakeLog().mid(1, 4),
+              (QStringList{"universalApp(1)", "universalApp(installed)", "multi(11000000000)", "multi(10000000000)"}));
+    EXPECT_EQ(run.exitStatus, 0);
+}
+
+TEST(PluginCalls, FindersGoBeforeTheFactoryAndTheFactoryBeforeTheLibrary) {
+    const FindProgram program;
+    program.run({program.file("games.json", oneGame(R"({"type": "universalApp", "packageFamily": "installed"})"))});
+    EXPECT_EQ(program.fakeLog(), (QStringList{"Create", "universalApp(installed)", "multi(10000000000)", "~multi",
+                                              "~universalApp", "~Create", "unloaded"}));
+}
+
+TEST(PluginCalls, FindersThatThePluginDoesNotMakeAreLeftOut) {
+    FindProgram program;
+    program.setFakeMode("no finders");
+    const QString catalogue = program.file("games.json", oneGame(R"({"type": "universalApp", "packageFamily": "1"})"));
+    EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
+    EXPECT_EQ(program.fakeLog().value(1), "multi(00000000000)");
+
+    program.setFakeMode("no multi finder");
+    EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
+}
+
+TEST(PluginCalls, AnswersAreShownUnderTheirNames) {
+    const FindProgram program;
+    const QString catalogue = program.file("games.json", R"({"games": [
+        {"name": "Käferrennen", "finders": [{"type": "universalApp", "packageFamily": "installed"}]},
+        {"name": "Wal", "finders": [{"type": "universalApp", "packageFamily": "x"}]}]})");
+    const FindRun run = program.run({catalogue});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.output, "Game         Found  Folder           Started by\n"
+                          "Käferrennen  yes    D:\\Spiele\\Käfer  steam://launch/42/VR\n"
+                          "Wal          no\n"
+                          "\n"
+                          "Runtime              Where\n"
+                          "Steam client         slot 13\n"
+                          "Steam configuration  slot 14\n"
+                          "SteamVR              slot 18\n"
+                          "Oculus runtime       slot 12\n"
+                          "Oculus libraries     slot 11 first\n"
+                          "                     slot 11 second\n"
+                          "Varjo                slot 15\n"
+                          "OpenXR               slot 16\n"
+                          "Lumavex standalone   slot 17\n");
+}
+
+TEST(PluginCalls, AnswersInJsonAreUnderTheirOperations) {
+    const FindProgram program;
+    const QString catalogue = program.file("games.json", R"({"games": [
+        {"name": "Käferrennen", "finders": [{"type": "universalApp", "packageFamily": "installed"}]},
+        {"name": "Wal", "finders": [{"type": "universalApp", "packageFamily": "x"}]}]})");
+    const FindRun run = program.run({"--json", catalogue});
+    EXPECT_EQ(run.exitStatus, 1);
+    const QJsonDocument expected = QJsonDocument::fromJson(R"({
+        "version": 1,
+        "games": [
+            {"name": "Käferrennen", "found": true, "installFolder": "D:\\Spiele\\Käfer",
+             "launchCommand": "steam://launch/42/VR", "executablePath": "D:\\Spiele\\Käfer\\kaefer.exe",
+             "executablePaths": ["D:\\Spiele\\Käfer\\kaefer.exe", "D:\\Spiele\\b.exe"]},
+            {"name": "Wal", "found": false, "installFolder": "", "launchCommand": "", "executablePath": "",
+             "executablePaths": []}],
+        "runtimes": {"steamExecutablePath": "slot 13", "steamConfigFolder": "slot 14", "steamVrFolder": "slot 18",
+                     "oculusRuntimeFolder": "slot 12", "oculusLibraryFolders": ["slot 11 first", "slot 11 second"],
+                     "varjoRuntimeFolder": "slot 15", "openXrActiveRuntime": "slot 16",
+                     "lumavexStandaloneLocation": "slot 17"}})");
+    ASSERT_FALSE(expected.isNull());
+    EXPECT_EQ(run.output, QString::fromUtf8(expected.toJson()));
+}
+
+TEST(PluginCalls, WhatIsNotThereIsNotFound) {
+    FindProgram program;
+    program.setFakeMode("no runtimes");
+    const QString catalogue = program.file("games.json", R"({"games": []})");
+    const FindRun run = program.run({catalogue});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.output.count("not found\n"), 8);
+
+    const QJsonObject root = QJsonDocument::fromJson(program.run({"--json", catalogue}).output.toUtf8()).object();
+    EXPECT_EQ(root["games"].toArray().size(), 0);
+    EXPECT_EQ(root["runtimes"]["steamExecutablePath"].toString("absent"), "");
+    EXPECT_TRUE(root["runtimes"]["oculusLibraryFolders"].isArray());
+}
+
+} // namespace
