@@ -30,7 +30,7 @@ void declare(QCommandLineParser& parser, const Declared& declared) {
         text("Loads the plug-in Luruludri as a host does and asks it where games and VR runtimes are.\n\n"
              "Exit status: 0 when all games were found, 1 when some were not, 2 when the program was used wrongly or\n"
              "something that it reads is missing or broken."));
-    parser.addPositionalArgument(text("CATALOGUE"), text("The file that lists the games (docs/catalogue.md)."));
+    parser.addPositionalArgument(text("CATALOGUE"), text("The file that lists the games (docs/catalogue.md);\nthe one beside the program unless given."));
     parser.addOptions({declared.plugin, declared.pc, declared.game, declared.json, declared.help, declared.version});
 }
 
@@ -42,8 +42,8 @@ QString findFault(const QCommandLineParser& parser, const Declared& declared) {
         }
     }
     const QStringList catalogues = parser.positionalArguments();
-    if (catalogues.isEmpty() || catalogues.constFirst().isEmpty()) {
-        return text("no catalogue was given");
+    if (catalogues.contains(QString())) {
+        return text("the name of the catalogue is empty");
     }
     if (catalogues.size() > 1) {
         return text("surplus argument \"%1\"").arg(catalogues.at(1));
@@ -53,11 +53,12 @@ QString findFault(const QCommandLineParser& parser, const Declared& declared) {
 
 Options readOptions(const QCommandLineParser& parser, const Declared& declared) {
     Options options;
-    options.catalogue = parser.positionalArguments().constFirst();
+    const QDir programFolder(QCoreApplication::applicationDirPath());
+    const QStringList catalogues = parser.positionalArguments();
+    options.catalogue = catalogues.isEmpty() ? programFolder.filePath(text("catalogue.json")) : catalogues.constFirst();
     // Without a suffix: the library loader knows what libraries end in on this system.
-    options.plugin = parser.isSet(declared.plugin)
-                         ? parser.value(declared.plugin)
-                         : QDir(QCoreApplication::applicationDirPath()).filePath(text("Luruludri"));
+    options.plugin =
+        parser.isSet(declared.plugin) ? parser.value(declared.plugin) : programFolder.filePath(text("Luruludri"));
     if (parser.isSet(declared.pc)) {
         options.pc = parser.value(declared.pc);
     }

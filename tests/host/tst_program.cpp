@@ -42,6 +42,12 @@ TEST(Program, TheExitStatusTellsWhetherAllWereFound) {
     EXPECT_EQ(program.run({"--game", "Wal", catalogue}).exitStatus, 1);
 }
 
+TEST(Program, TheCatalogueBesideTheProgramIsAskedUnlessAnotherIsGiven) {
+    const FindRun run = FindProgram().run({});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.output.contains("Nordlicht Tactics")) << run.output.toStdString();
+}
+
 TEST(Program, OnlyTheGamesThatAreNamedAreAskedFor) {
     const FindProgram program;
     const QString catalogue = program.file("games.json", twoGames);
@@ -72,8 +78,7 @@ TEST(Program, HelpAndVersionNeedNothingElse) {
 TEST(Program, WrongArgumentsAreRefused) {
     const FindProgram program;
     const QString catalogue = program.file("games.json", twoGames);
-    expectRefusal(program.run({}), "no catalogue was given");
-    expectRefusal(program.run({""}), "no catalogue was given");
+    expectRefusal(program.run({""}), "the name of the catalogue is empty");
     expectRefusal(program.run({catalogue, "zwölf"}), "surplus argument \"zwölf\"");
     expectRefusal(program.run({catalogue, "--jason"}), "Unknown option 'jason'.");
     expectRefusal(program.run({catalogue, "--game"}), "Missing value after '--game'.");
