@@ -15,6 +15,10 @@ namespace Host {
 
 namespace {
 
+QString typeField() {
+    return QStringLiteral("type");
+}
+
 QString placeOf(const QString& place, const QString& field) {
     return place.isEmpty() ? field : place + QLatin1Char('.') + field;
 }
@@ -83,24 +87,11 @@ bool CatalogueReader::readGame(const QJsonValue& value, const QString& place, Ga
 }
 
 bool CatalogueReader::readFinder(const QJsonValue& value, const QString& place, FinderEntry& entry) {
-    const QString typeField = QStringLiteral("type");
     const QJsonObject object = value.toObject();
-    if (!expectType(value, place, QJsonValue::Object)) {
+    if (!expectType(value, place, QJsonValue::Object) || !readType(object, place, entry)) {
         return false;
     }
-    if (!object.contains(typeField)) {
-        return fail(place, QStringLiteral("\"type\" is missing"));
-    }
-    QString name;
-    if (!readValue(object[typeField], placeOf(place, typeField), name)) {
-        return false;
-    }
-    entry.type = findFinderType(name);
-    if (entry.type == nullptr) {
-        return fail(place, QStringLiteral("unknown type \"%1\" (known: %2)").arg(name, knownTypes()));
-    }
-
-    QStringList required = {typeField};
+    QStringList required = {typeField()};
     QStringList optional;
     for (const FinderField& field : entry.type->fields) {
         const bool isNumber = std::holds_alternative<int FinderEntry::*>(field.target);
@@ -109,6 +100,19 @@ bool CatalogueReader::readFinder(const QJsonValue& value, const QString& place, 
     return expectFields(object, place, required, optional) &&
            std::all_of(entry.type->fields.begin(), entry.type->fields.end(),
                        [&](const FinderField& field) { return readField(object, place, field, entry); });
+}
+
+bool CatalogueReader::readType(const QJsonObject& object, const QString& place, FinderEntry& entry) {
+    if (!object.contains(typeField())) {
+        return fail(place, QStringLiteral("\"type\" is missing"));
+    }
+    QString name;
+    if (!readValue(object[typeField()], placeOf(place, typeField()), name)) {
+        return false;
+    }
+    entry.type = findFinderType(name);
+    return entry.type != nullptr ||
+           fail(place, QStringLiteral("unknown type \"%1\" (known: %2)").arg(name, knownTypes()));
 }
 
 bool CatalogueReader::readField(const QJsonObject& object, const QString& place, const FinderField& field,

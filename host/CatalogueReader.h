@@ -28,6 +28,7 @@ public:
 private:
     bool readGame(const QJsonValue& value, const QString& place, Game& game);
     bool readFinder(const QJsonValue& value, const QString& place, FinderEntry& entry);
+    bool readType(const QJsonObject& object, const QString& place, FinderEntry& entry);
     bool readField(const QJsonObject& object, const QString& place, const FinderField& field, FinderEntry& entry);
     bool readValue(const QJsonValue& value, const QString& place, std::vector<FinderEntry>& finders);
     bool readValue(const QJsonValue& value, const QString& place, QStringList& texts);

@@ -30,7 +30,9 @@ void declare(QCommandLineParser& parser, const Declared& declared) {
         text("Loads the plug-in Luruludri as a host does and asks it where games and VR runtimes are.\n\n"
              "Exit status: 0 when all games were found, 1 when some were not, 2 when the program was used wrongly or\n"
              "something that it reads is missing or broken."));
-    parser.addPositionalArgument(text("CATALOGUE"), text("The file that lists the games (docs/catalogue.md);\nthe one beside the program unless given."));
+    parser.addPositionalArgument(
+        text("CATALOGUE"),
+        text("The file that lists the games (docs/catalogue.md);\nthe one beside the program unless given."));
     parser.addOptions({declared.plugin, declared.pc, declared.game, declared.json, declared.help, declared.version});
 }
 

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QLatin1String>
+#include <QtGlobal>
 
 #include <cstdio>
 
@@ -25,6 +26,14 @@ bool Console::print(const QString& text) {
 
 void Console::complain(const QString& message) {
     write(stderr, QLatin1String("luruludri-find: ") + oneLine(message) + QLatin1Char('\n'));
+}
+
+void Console::complainOfQtMessages() {
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
+        if (type != QtDebugMsg && type != QtInfoMsg) {
+            complain(message);
+        }
+    });
 }
 
 } // namespace Host

@@ -18,6 +18,10 @@ public:
     /// One line to the error stream, after the program's name.
     static void complain(const QString& message);
 
+    /// From now on, warnings and errors in Qt's message log, the plug-in's included, are complaints. The rest of that
+    /// log is of no use to who reads the answers.
+    static void complainOfQtMessages();
+
 private:
     Q_DISABLE_COPY_MOVE(Console)
 

@@ -8,6 +8,7 @@
 
 int main(int argc, char* argv[]) {
     const Host::Console console;
+    Host::Console::complainOfQtMessages();
     try {
         QCoreApplication application(argc, argv);
         QCoreApplication::setApplicationName(QStringLiteral("luruludri-find"));

@@ -47,11 +47,15 @@ need_packages() {
         die "could not install: ${missing[*]}"
 }
 
-native_packages=(cmake ninja-build g++ ccache qtbase5-dev qtbase5-private-dev)
-test_packages=(googletest binutils)
-windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make perl python3 patch xz-utils qt5-qmake
-    qtbase5-dev-tools ca-certificates)
-lint_packages=(clang-format clang-tidy shellcheck)
+# What is installed for what, named by those who source this.
+# shellcheck disable=SC2034
+{
+    native_packages=(cmake ninja-build g++ ccache qtbase5-dev qtbase5-private-dev)
+    test_packages=(googletest binutils)
+    windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make perl python3 patch xz-utils qt5-qmake
+        qtbase5-dev-tools ca-certificates)
+    lint_packages=(git clang-format clang-tidy shellcheck)
+}
 
 # Configures the preset $1 where that is still to be done, and builds the targets $2….
 build() {

@@ -110,10 +110,10 @@ public:
                              Finder&& finder6, Finder&& finder7, Finder&& finder8, Finder&& finder9, Finder&& finder10,
                              Finder&& finder11) override {
         std::vector<Finder> members;
-        QString slots;
+        QString places;
         for (Finder* finder : {&finder1, &finder2, &finder3, &finder4, &finder5, &finder6, &finder7, &finder8, &finder9,
                                &finder10, &finder11}) {
-            slots += QLatin1Char(*finder ? '1' : '0');
+            places += QLatin1Char(*finder ? '1' : '0');
             if (*finder) {
                 members.push_back(std::move(*finder));
             }
@@ -121,7 +121,7 @@ public:
         if (isMode("no multi finder")) {
             return nullptr;
         }
-        return std::make_unique<FakeFinder>(QStringLiteral("multi(%1)").arg(slots), false, std::move(members));
+        return std::make_unique<FakeFinder>(QStringLiteral("multi(%1)").arg(places), false, std::move(members));
     }
 
     Finder createStartMenuFinder(const QString& name, const QStringList& executables, int matchMode) override {
