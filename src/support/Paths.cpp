@@ -1,6 +1,7 @@
 #include "support/Paths.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace Paths {
 
@@ -15,6 +16,10 @@ bool isWindowsPath(const QString& path) {
     }
     const ushort letter = path.at(0).toUpper().unicode();
     return letter >= 'A' && letter <= 'Z';
+}
+
+QString withSlashes(QString path) {
+    return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
 
 } // namespace
@@ -34,6 +39,14 @@ QString toNative(const QString& path) {
 
 QString join(const QString& folder, const QString& name) {
     return folder + separatorFor(folder) + name;
+}
+
+QString cleaned(const QString& path) {
+    return toNative(QDir::cleanPath(withSlashes(path)));
+}
+
+QString absoluteFolderOf(const QString& path) {
+    return QFileInfo(withSlashes(path)).absolutePath();
 }
 
 } // namespace Paths

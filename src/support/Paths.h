@@ -17,4 +17,10 @@ QString toNative(const QString& path);
 /// `folder`, one native separator, `name`: never checks whether `folder` ends with a separator already.
 QString join(const QString& folder, const QString& name);
 
+/// QDir::cleanPath, with either separator in `path`, and then toNative.
+QString cleaned(const QString& path);
+
+/// QFileInfo::absolutePath, with either separator in `path`: the folder of `path`, with forward slashes.
+QString absoluteFolderOf(const QString& path);
+
 } // namespace Paths

@@ -133,6 +133,38 @@ bool deleteFile(const QString& path); // DeleteFileW
 /// MoveFileExW with MOVEFILE_REPLACE_EXISTING.
 bool moveFile(const QString& from, const QString& to);
 
+constexpr quint32 attributeHidden = 0x0002;
+constexpr quint32 attributeSystem = 0x0004;
+constexpr quint32 attributeFolder = 0x0010;
+constexpr quint32 attributeLink = 0x0400; ///< a junction or a symbolic link, as any reparse point is
+
+/// One entry of a folder as the folder tells it: the link itself, the shortcut itself.
+struct FolderEntry {
+    QString name;
+    quint32 attributes = 0;
+};
+
+struct ListingCloser {
+    void operator()(void* listing) const noexcept; // FindClose
+};
+
+/// Owns one listing on its way; null when the folder can't be listed.
+using ListingHandle = std::unique_ptr<void, ListingCloser>;
+
+/// FindFirstFileW of `folder`\*. The entries come in the file system's order, with "." and ".." in all folders but a
+/// drive's root.
+ListingHandle firstEntry(const QString& folder, FolderEntry& entry);
+bool nextEntry(const ListingHandle& listing, FolderEntry& entry); // FindNextFileW
+
+/// What tells two files or folders apart, however they are reached.
+struct FileIdentity {
+    quint64 volume = 0;
+    quint64 index = 0;
+};
+
+/// GetFileInformationByHandle of what `path` leads to. False when it can't be opened.
+bool fileIdentity(const QString& path, FileIdentity& identity);
+
 /// A C-runtime stream in text mode: each "\n" reaches the disk as CR LF, in every build. Writing never throws and
 /// never loses a line for its characters; errors of the disk are ignored, as nobody could be told.
 class TextStream {

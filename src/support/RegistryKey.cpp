@@ -58,11 +58,21 @@ bool RegistryKey::readDword(const char* valueName, quint32& value) {
 }
 
 bool RegistryKey::readString(const QString& valueName, QString& value) {
+    quint32 type = 0;
+    return readTyped(valueName, type, value);
+}
+
+QString RegistryKey::text(const QString& valueName) {
+    quint32 type = 0;
+    QString value;
+    return readTyped(valueName, type, value) && type == Platform::regSz ? value : QString();
+}
+
+bool RegistryKey::readTyped(const QString& valueName, quint32& type, QString& value) {
     if (!isOpen()) {
         return false;
     }
     std::array<char16_t, 255> buffer{};
-    quint32 type = 0;
     quint32 size = sizeof buffer;
     m_status = Platform::queryValue(m_handle, valueName, type, buffer.data(), size);
     if (m_status == Platform::errorMoreData && type == Platform::regSz) {

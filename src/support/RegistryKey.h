@@ -50,6 +50,9 @@ public:
     /// not plain text is longer than 510 bytes; `value` is then untouched.
     bool readString(const QString& valueName, QString& value);
 
+    /// Plain text only. Empty when there is no such value or it is of another type.
+    QString text(const QString& valueName);
+
     /// Appends the names of the direct sub-keys in the registry's order, but for names of more than 255 characters.
     /// False only when the key is not open; an error on the way keeps the names before it.
     bool subKeyNames(QStringList& names);
@@ -57,6 +60,7 @@ public:
 private:
     RegistryKey() = default;
 
+    bool readTyped(const QString& valueName, quint32& type, QString& value);
     bool readLongText(const QString& valueName, quint32 bytes, QString& value);
 
     Platform::KeyHandle m_handle;

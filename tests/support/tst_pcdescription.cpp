@@ -72,9 +72,9 @@ TEST_F(PcDescriptionTest, KnowsAPcWithoutPackagesFromOneThatCannotHaveAny) { EXP
 
 TEST_F(PcDescriptionTest, ReportsBrokenJson) {
     read("{\n\"volumes\": {\n  \"C\" \"x\"\n}}");
-    EXPECT_THAT(problems, ElementsAre("3: missing name separator"));
+    EXPECT_THAT(problems, ElementsAre("3: “:” is expected"));
     read("");
-    EXPECT_EQ(problems.size(), 1U);
+    EXPECT_THAT(problems, ElementsAre("1: a value is expected"));
 }
 
 TEST_F(PcDescriptionTest, ReportsABackslashThatIsNotDoubled) {
@@ -132,8 +132,8 @@ TEST_F(PcDescriptionTest, ReportsABadVersion) {
 
 TEST_F(PcDescriptionTest, ReportsAPackageWithoutItsNames) {
     const PcDescription pc = read("{\"packages\": [\n{\"family\": \"a\"}, 5, {\"family\": \"a\", \"fullName\": \"b\"}]}");
-    EXPECT_THAT(problems, ElementsAre("1: packages[0]: a “family” and a “fullName” are expected",
-                                      "1: packages[1]: an object is expected"));
+    EXPECT_THAT(problems, ElementsAre("2: packages[0]: a “family” and a “fullName” are expected",
+                                      "2: packages[1]: an object is expected"));
     EXPECT_EQ(pc.packages->size(), 1U);
 }
 

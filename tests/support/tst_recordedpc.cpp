@@ -145,7 +145,7 @@ TEST_F(RecordedPcTest, ReportsProblemsInTheOrderOfItsFiles) {
                 ElementsAre("/registry/a.reg:2: the line is neither a key nor a value",
                             "/registry/a.reg:3: the line is neither a key nor a value",
                             "/registry/b.reg:1: the first line is not “Windows Registry Editor Version 5.00”",
-                            "/registry/c.reg:0: the file cannot be read", "/pc.json:1: illegal value"));
+                            "/registry/c.reg:0: the file cannot be read", "/pc.json:1: an object is expected"));
 }
 
 // Folders, volumes, environment, host

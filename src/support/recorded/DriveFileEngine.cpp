@@ -6,6 +6,8 @@
 
 #include <QDateTime>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <unistd.h>
 
@@ -22,12 +24,10 @@ qint64 milliseconds(const timespec& time) {
 }
 
 bool isExecutable(const QString& path) {
-    for (const char* const suffix : {".exe", ".com", ".bat", ".pif", ".cmd"}) {
-        if (path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive)) {
-            return true;
-        }
-    }
-    return false;
+    static constexpr std::array suffixes = {".exe", ".com", ".bat", ".pif", ".cmd"};
+    return std::any_of(suffixes.begin(), suffixes.end(), [&path](const char* suffix) {
+        return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive);
+    });
 }
 
 // Qt asks Windows to work a path out only when it isn't clean already.

@@ -2,11 +2,7 @@
 
 #include "support/Platform.h"
 #include "support/recorded/DrivePath.h"
-#include "support/recorded/JsonPlaces.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "support/recorded/Json.h"
 
 #include <algorithm>
 #include <iterator>
@@ -32,165 +28,143 @@ bool hasControls(const QString& text) {
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x20; });
 }
 
-// Where a value stands in the description: the names of the members that lead to it, and the text for a report.
-struct Place {
-    QStringList names;
-    QString text;
+QString unknownName() {
+    return QStringLiteral("nothing of this name is known");
+}
 
-    Place member(const QString& name) const {
-        return {names + QStringList{name}, text.isEmpty() ? name : text + QLatin1Char('.') + name};
-    }
-
-    Place item(int index) const { return {names, text + QStringLiteral("[%1]").arg(index)}; }
-};
+QString placeOfItem(const QString& array, size_t index) {
+    return array + QStringLiteral("[%1]").arg(index);
+}
 
 class Reader {
 public:
-    Reader(const QByteArray& json, const QString& file, std::vector<Recording::Problem>& problems)
-        : m_json(json)
-        , m_file(file)
+    Reader(const QString& file, std::vector<Recording::Problem>& problems)
+        : m_file(file)
         , m_problems(problems) {}
 
-    PcDescription read();
+    PcDescription read(const QByteArray& json);
 
 private:
-    using Item = void (Reader::*)(const Place&, const QJsonValue&);
+    using Kind = JsonValue::Kind;
+    using Read = void (Reader::*)(const JsonValue&, const QString& place);
 
-    void readMember(const Place& place, const QJsonValue& value);
-    void readShellFolder(const Place& place, const QJsonValue& value);
-    void readVolume(const Place& place, const QJsonValue& value);
-    void readVariable(const Place& place, const QJsonValue& value);
-    void readPackage(const Place& place, const QJsonValue& value);
-    void readHost(const Place& place, const QJsonValue& value);
-    void readVersion(const Place& place, const QString& version);
+    void readMember(const JsonValue& value, const QString& place);
+    void readShellFolder(const JsonValue& value, const QString& place);
+    void readVolume(const JsonValue& value, const QString& place);
+    void readVariable(const JsonValue& value, const QString& place);
+    void readPackage(const JsonValue& value, const QString& place);
+    void readHost(const JsonValue& value, const QString& place);
+    void readVersion(const JsonValue& value, const QString& place);
 
-    void eachMember(const Place& place, const QJsonValue& value, Item item);
-    void eachItem(const Place& place, const QJsonValue& value, Item item);
-    QStringList paths(const Place& place, const QJsonValue& value);
-    QStringList texts(const Place& place, const QJsonValue& value);
-    QString text(const Place& place, const QJsonValue& value);
+    void eachMember(const JsonValue& object, const QString& place, Read readOne);
+    void eachItem(const JsonValue& array, const QString& place, Read readOne);
+    QStringList paths(const JsonValue& array, const QString& place);
+    QStringList texts(const JsonValue& array, const QString& place);
+    QString text(const JsonValue& value, const QString& place);
+    bool isOf(Kind kind, const JsonValue& value, const QString& place);
+    void report(const JsonValue& value, const QString& place, const QString& message);
 
-    void unknown(const Place& place) { report(place, QStringLiteral("nothing of this name is known")); }
-
-    void report(const Place& place, const QString& message);
-
-    const QByteArray& m_json;
     const QString& m_file;
     std::vector<Recording::Problem>& m_problems;
     PcDescription m_pc;
 };
 
-PcDescription Reader::read() {
-    QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(m_json, &error);
-    const int stray = strayBackslash(m_json);
-    if (error.error != QJsonParseError::NoError) {
-        m_problems.push_back({m_file, lineAt(m_json, error.offset), error.errorString()});
-    } else if (stray >= 0) {
-        m_problems.push_back(
-            {m_file, lineAt(m_json, stray), QStringLiteral("a backslash in a string must be doubled")});
-    } else if (!document.isObject()) {
-        m_problems.push_back({m_file, 1, QStringLiteral("an object is expected")});
+PcDescription Reader::read(const QByteArray& json) {
+    JsonFault fault;
+    if (const std::optional<JsonValue> value = parseJson(json, fault)) {
+        eachMember(*value, {}, &Reader::readMember);
     } else {
-        eachMember({}, document.object(), &Reader::readMember);
+        m_problems.push_back({m_file, fault.line, fault.message});
     }
     return std::move(m_pc);
 }
 
-void Reader::readMember(const Place& place, const QJsonValue& value) {
-    const QString& name = place.names.last();
-    if (name == QLatin1String("shellFolders")) {
-        eachMember(place, value, &Reader::readShellFolder);
-    } else if (name == QLatin1String("volumes")) {
-        eachMember(place, value, &Reader::readVolume);
-    } else if (name == QLatin1String("environment")) {
-        eachMember(place, value, &Reader::readVariable);
-    } else if (name == QLatin1String("packages")) {
+void Reader::readMember(const JsonValue& value, const QString& place) {
+    if (value.name == QLatin1String("shellFolders")) {
+        eachMember(value, place, &Reader::readShellFolder);
+    } else if (value.name == QLatin1String("volumes")) {
+        eachMember(value, place, &Reader::readVolume);
+    } else if (value.name == QLatin1String("environment")) {
+        eachMember(value, place, &Reader::readVariable);
+    } else if (value.name == QLatin1String("packages")) {
         m_pc.packages.emplace();
-        eachItem(place, value, &Reader::readPackage);
-    } else if (name == QLatin1String("host")) {
-        eachMember(place, value, &Reader::readHost);
-    } else if (name == QLatin1String("hidden")) {
-        m_pc.hidden = paths(place, value);
-    } else if (name == QLatin1String("system")) {
-        m_pc.system = paths(place, value);
+        eachItem(value, place, &Reader::readPackage);
+    } else if (value.name == QLatin1String("host")) {
+        eachMember(value, place, &Reader::readHost);
+    } else if (value.name == QLatin1String("hidden")) {
+        m_pc.hidden = paths(value, place);
+    } else if (value.name == QLatin1String("system")) {
+        m_pc.system = paths(value, place);
     } else {
-        unknown(place);
+        report(value, place, unknownName());
     }
 }
 
-void Reader::readShellFolder(const Place& place, const QJsonValue& value) {
-    const auto* const folder =
-        std::find_if(std::begin(folderNames), std::end(folderNames),
-                     [&place](const FolderName& known) { return place.names.last() == known.name; });
+void Reader::readShellFolder(const JsonValue& value, const QString& place) {
+    const auto* const folder = std::find_if(std::begin(folderNames), std::end(folderNames),
+                                            [&value](const FolderName& known) { return value.name == known.name; });
     if (folder == std::end(folderNames)) {
-        unknown(place);
+        report(value, place, unknownName());
     } else {
-        m_pc.shellFolders.insert(folder->csidl, text(place, value));
+        m_pc.shellFolders.insert(folder->csidl, text(value, place));
     }
 }
 
-void Reader::readVolume(const Place& place, const QJsonValue& value) {
-    const QString& drive = place.names.last();
-    if (drive.size() != 1 || !DrivePath::parse(drive + QLatin1Char(':'))) {
-        report(place, QStringLiteral("a drive letter is expected"));
+void Reader::readVolume(const JsonValue& value, const QString& place) {
+    if (value.name.size() != 1 || !DrivePath::parse(value.name + QLatin1Char(':'))) {
+        report(value, place, QStringLiteral("a drive letter is expected"));
         return;
     }
-    const QString name = text(place, value);
+    const QString name = text(value, place);
     if (name.startsWith(QLatin1String("\\\\?\\Volume{")) && name.endsWith(QLatin1String("}\\"))) {
-        m_pc.volumes.insert(drive.at(0).toUpper(), name);
-    } else if (value.isString()) {
-        report(place, QStringLiteral("“\\\\?\\Volume{…}\\” is expected"));
+        m_pc.volumes.insert(value.name.at(0).toUpper(), name);
+    } else if (value.kind == Kind::String) {
+        report(value, place, QStringLiteral("“\\\\?\\Volume{…}\\” is expected"));
     }
 }
 
-void Reader::readVariable(const Place& place, const QJsonValue& value) {
-    if (value.isString()) {
-        m_pc.environment.insert(place.names.last(), value.toString());
-    } else {
-        text(place, value);
+void Reader::readVariable(const JsonValue& value, const QString& place) {
+    if (isOf(Kind::String, value, place)) {
+        m_pc.environment.insert(value.name, value.text);
     }
 }
 
-void Reader::readPackage(const Place& place, const QJsonValue& value) {
-    const QJsonObject object = value.toObject();
-    if (!value.isObject()) {
-        report(place, QStringLiteral("an object is expected"));
+void Reader::readPackage(const JsonValue& value, const QString& place) {
+    if (!isOf(Kind::Object, value, place)) {
         return;
     }
     AppPackage package;
-    for (auto member = object.begin(); member != object.end(); ++member) {
-        const Place at = place.member(member.key());
-        if (member.key() == QLatin1String("family")) {
-            package.family = text(at, *member);
-        } else if (member.key() == QLatin1String("fullName")) {
-            package.fullName = text(at, *member);
-        } else if (member.key() == QLatin1String("applicationIds")) {
-            package.applicationIds = texts(at, *member);
+    for (const JsonValue& member : value.items) {
+        const QString at = place + QLatin1Char('.') + member.name;
+        if (member.name == QLatin1String("family")) {
+            package.family = text(member, at);
+        } else if (member.name == QLatin1String("fullName")) {
+            package.fullName = text(member, at);
+        } else if (member.name == QLatin1String("applicationIds")) {
+            package.applicationIds = texts(member, at);
         } else {
-            unknown(at);
+            report(member, at, unknownName());
         }
     }
     if (package.family.isEmpty() || package.fullName.isEmpty()) {
-        report(place, QStringLiteral("a “family” and a “fullName” are expected"));
+        report(value, place, QStringLiteral("a “family” and a “fullName” are expected"));
     } else {
         m_pc.packages->push_back(std::move(package));
     }
 }
 
-void Reader::readHost(const Place& place, const QJsonValue& value) {
-    const QString& name = place.names.last();
-    if (name == QLatin1String("executable")) {
-        m_pc.hostExecutable = text(place, value);
-    } else if (name == QLatin1String("version")) {
-        readVersion(place, text(place, value));
+void Reader::readHost(const JsonValue& value, const QString& place) {
+    if (value.name == QLatin1String("executable")) {
+        m_pc.hostExecutable = text(value, place);
+    } else if (value.name == QLatin1String("version")) {
+        readVersion(value, place);
     } else {
-        unknown(place);
+        report(value, place, unknownName());
     }
 }
 
-void Reader::readVersion(const Place& place, const QString& version) {
-    const QStringList parts = version.split(QLatin1Char('.'));
+void Reader::readVersion(const JsonValue& value, const QString& place) {
+    const QStringList parts = text(value, place).split(QLatin1Char('.'));
     quint64 number = 0;
     bool isGood = parts.size() == 4;
     for (const QString& part : parts) {
@@ -200,42 +174,36 @@ void Reader::readVersion(const Place& place, const QString& version) {
     }
     if (isGood) {
         m_pc.hostVersion = number;
-    } else if (!version.isEmpty()) {
-        report(place, QStringLiteral("four numbers up to 65535 are expected, as in “1.2.3.4”"));
+    } else if (value.kind == Kind::String) {
+        report(value, place, QStringLiteral("four numbers up to 65535 are expected, as in “1.2.3.4”"));
     }
 }
 
-void Reader::eachMember(const Place& place, const QJsonValue& value, Item item) {
-    if (!value.isObject()) {
-        report(place, QStringLiteral("an object is expected"));
+void Reader::eachMember(const JsonValue& object, const QString& place, Read readOne) {
+    if (!isOf(Kind::Object, object, place)) {
         return;
     }
-    const QJsonObject object = value.toObject();
-    for (auto member = object.begin(); member != object.end(); ++member) {
-        (this->*item)(place.member(member.key()), *member);
+    for (const JsonValue& member : object.items) {
+        (this->*readOne)(member, place.isEmpty() ? member.name : place + QLatin1Char('.') + member.name);
     }
 }
 
-void Reader::eachItem(const Place& place, const QJsonValue& value, Item item) {
-    if (!value.isArray()) {
-        report(place, QStringLiteral("an array is expected"));
+void Reader::eachItem(const JsonValue& array, const QString& place, Read readOne) {
+    if (!isOf(Kind::Array, array, place)) {
         return;
     }
-    const QJsonArray array = value.toArray();
-    for (int i = 0; i < array.size(); ++i) {
-        (this->*item)(place.item(i), array.at(i));
+    for (size_t i = 0; i < array.items.size(); ++i) {
+        (this->*readOne)(array.items[i], placeOfItem(place, i));
     }
 }
 
-QStringList Reader::texts(const Place& place, const QJsonValue& value) {
+QStringList Reader::texts(const JsonValue& array, const QString& place) {
     QStringList list;
-    if (!value.isArray()) {
-        report(place, QStringLiteral("an array is expected"));
+    if (!isOf(Kind::Array, array, place)) {
         return list;
     }
-    const QJsonArray array = value.toArray();
-    for (int i = 0; i < array.size(); ++i) {
-        const QString item = text(place.item(i), array.at(i));
+    for (size_t i = 0; i < array.items.size(); ++i) {
+        const QString item = text(array.items[i], placeOfItem(place, i));
         if (!item.isEmpty()) {
             list.append(item);
         }
@@ -243,12 +211,12 @@ QStringList Reader::texts(const Place& place, const QJsonValue& value) {
     return list;
 }
 
-QStringList Reader::paths(const Place& place, const QJsonValue& value) {
-    QStringList list = texts(place, value);
-    const auto isBad = [this, &place](const QString& path) {
+QStringList Reader::paths(const JsonValue& array, const QString& place) {
+    QStringList list = texts(array, place);
+    const auto isBad = [this, &array, &place](const QString& path) {
         const bool bad = !DrivePath::parse(path);
         if (bad) {
-            report(place, QStringLiteral("“%1” has no drive letter").arg(path));
+            report(array, place, QStringLiteral("“%1” has no drive letter").arg(path));
         }
         return bad;
     };
@@ -257,27 +225,38 @@ QStringList Reader::paths(const Place& place, const QJsonValue& value) {
 }
 
 // Empty when it is no text, or none that could be a name or a path.
-QString Reader::text(const Place& place, const QJsonValue& value) {
-    if (!value.isString()) {
-        report(place, QStringLiteral("a string is expected"));
+QString Reader::text(const JsonValue& value, const QString& place) {
+    if (!isOf(Kind::String, value, place)) {
         return {};
     }
-    if (hasControls(value.toString())) {
-        report(place, QStringLiteral("a control character; are all backslashes doubled?"));
+    if (hasControls(value.text)) {
+        report(value, place, QStringLiteral("a control character; are all backslashes doubled?"));
         return {};
     }
-    return value.toString();
+    return value.text;
 }
 
-void Reader::report(const Place& place, const QString& message) {
-    m_problems.push_back({m_file, lineOfMember(m_json, place.names), place.text + QLatin1String(": ") + message});
+bool Reader::isOf(Kind kind, const JsonValue& value, const QString& place) {
+    if (value.kind == kind) {
+        return true;
+    }
+    report(value, place,
+           kind == Kind::Object  ? QStringLiteral("an object is expected")
+           : kind == Kind::Array ? QStringLiteral("an array is expected")
+                                 : QStringLiteral("a string is expected"));
+    return false;
+}
+
+void Reader::report(const JsonValue& value, const QString& place, const QString& message) {
+    const QString text = place.isEmpty() ? message : place + QLatin1String(": ") + message;
+    m_problems.push_back({m_file, value.line, text});
 }
 
 } // namespace
 
 PcDescription parsePcDescription(const QByteArray& json, const QString& file,
                                  std::vector<Recording::Problem>& problems) {
-    return Reader(json, file, problems).read();
+    return Reader(file, problems).read(json);
 }
 
 } // namespace Recorded

@@ -92,7 +92,7 @@ Result openPackage(const char16_t* fullName, quint32 reserved, void** reference)
         const QString wanted = QString::fromUtf16(fullName);
         for (const Recorded::AppPackage& package : pc->description().packages.value_or(Recorded::AppPackages())) {
             if (package.fullName.compare(wanted, Qt::CaseInsensitive) == 0) {
-                *reference = new PackageReference{package.applicationIds};
+                *reference = std::make_unique<PackageReference>(PackageReference{package.applicationIds}).release();
                 return successful;
             }
         }

@@ -9,7 +9,7 @@ constexpr char32_t replacement = 0xFFFD;
 struct Form {
     unsigned char mask;
     unsigned char lead;
-    size_t length;
+    unsigned short length;
     char32_t least; // smaller numbers have a shorter form
 };
 

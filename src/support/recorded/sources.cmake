@@ -9,7 +9,7 @@ target_sources(
             support/recorded/DrivePath.cpp
             support/recorded/Drives.cpp
             support/recorded/HostFiles.cpp
-            support/recorded/JsonPlaces.cpp
+            support/recorded/Json.cpp
             support/recorded/Names.cpp
             support/recorded/Observer.cpp
             support/recorded/PcDescription.cpp
