@@ -1,14 +1,27 @@
 #include "core/FindersFactory.h"
 
+#include "catalogue/GameForWindowFinder.h"
 #include "catalogue/GamesExplorerIndex.h"
+#include "catalogue/StartMenuFinder.h"
 #include "catalogue/StartMenuIndex.h"
+#include "catalogue/UninstallFinder.h"
 #include "catalogue/UninstallIndex.h"
 #include "core/FolderFinder.h"
 #include "core/MultiFinder.h"
+#include "core/UserProvidedLocationFinder.h"
+#include "runtimes/RuntimeLocators.h"
+#include "steam/SteamFinder.h"
 #include "steam/SteamLibraryIndex.h"
+#include "steam/SteamLocator.h"
+#include "steam/SteamVrAlternativeFinder.h"
 #include "stores/EpicManifestIndex.h"
+#include "stores/EpicStoreFinder.h"
+#include "stores/OculusLibraries.h"
 #include "stores/OculusLibraryIndex.h"
+#include "stores/OculusStoreFinder.h"
+#include "stores/UniversalAppFinder.h"
 #include "support/Logger.h"
+#include "support/Paths.h"
 
 namespace Finders {
 
@@ -28,16 +41,21 @@ FindersFactory::FindersFactory()
 
 FindersFactory::~FindersFactory() = default;
 
-std::unique_ptr<IGameFinder> FindersFactory::createUninstallFinder(const QString&, const QStringList&, int) {
-    return nullptr;
+std::unique_ptr<IGameFinder> FindersFactory::createUninstallFinder(const QString& displayName,
+                                                                   const QStringList& executables, int matchMode) {
+    return std::make_unique<UninstallFinder>(&m_state->logger, &m_state->uninstallIndex, displayName, executables,
+                                             matchMode);
 }
 
-std::unique_ptr<IGameFinder> FindersFactory::createGameForWindowFinder(const QString&, const QStringList&) {
-    return nullptr;
+std::unique_ptr<IGameFinder> FindersFactory::createGameForWindowFinder(const QString& title,
+                                                                       const QStringList& executables) {
+    return std::make_unique<GameForWindowFinder>(&m_state->logger, &m_state->gamesExplorerIndex, title, executables);
 }
 
-std::unique_ptr<IGameFinder> FindersFactory::createSteamFinder(const QString&, const QString&, const QStringList&) {
-    return nullptr;
+std::unique_ptr<IGameFinder> FindersFactory::createSteamFinder(const QString& appId, const QString& installFolderName,
+                                                               const QStringList& executables) {
+    return std::make_unique<SteamFinder>(&m_state->logger, &m_state->uninstallIndex, &m_state->steamLibraryIndex, appId,
+                                         installFolderName, executables);
 }
 
 std::unique_ptr<IGameFinder>
@@ -52,61 +70,76 @@ FindersFactory::createMultiFinder(std::unique_ptr<IGameFinder>&& finder1, std::u
                                          std::move(finder9), std::move(finder10), std::move(finder11));
 }
 
-std::unique_ptr<IGameFinder> FindersFactory::createStartMenuFinder(const QString&, const QStringList&, int) {
-    return nullptr;
+std::unique_ptr<IGameFinder> FindersFactory::createStartMenuFinder(const QString& name, const QStringList& executables,
+                                                                   int matchMode) {
+    return std::make_unique<StartMenuFinder>(&m_state->logger, &m_state->startMenuIndex, name, executables, matchMode);
 }
 
 std::unique_ptr<IGameFinder> FindersFactory::createFolderFinder(const QString& folder, const QStringList& executables) {
     return std::make_unique<FolderFinder>(&m_state->logger, folder, executables);
 }
 
-std::unique_ptr<IGameFinder> FindersFactory::createOculusStoreFinder(const QString&, const QStringList&,
-                                                                     const QString&) {
-    return nullptr;
+std::unique_ptr<IGameFinder> FindersFactory::createOculusStoreFinder(const QString& appId,
+                                                                     const QStringList& executables,
+                                                                     const QString& softwareFolder) {
+    return std::make_unique<OculusStoreFinder>(&m_state->logger, &m_state->oculusLibraryIndex, appId, executables,
+                                               softwareFolder);
 }
 
-std::unique_ptr<IGameFinder> FindersFactory::createEpicStoreFinder(const QString&, const QStringList&, int) {
-    return nullptr;
+std::unique_ptr<IGameFinder> FindersFactory::createEpicStoreFinder(const QString& name, const QStringList& executables,
+                                                                   int matchMode) {
+    return std::make_unique<EpicStoreFinder>(&m_state->logger, &m_state->epicManifestIndex, name, executables,
+                                             matchMode);
 }
 
-std::unique_ptr<IGameFinder> FindersFactory::createUniversalAppFinder(const QString&) {
-    return nullptr;
+std::unique_ptr<IGameFinder> FindersFactory::createUniversalAppFinder(const QString& packageFamily) {
+    return std::make_unique<UniversalAppFinder>(&m_state->logger, packageFamily);
 }
 
-std::unique_ptr<IGameFinder> FindersFactory::createUserProvidedLocationFinder(const QString&, const QStringList&) {
-    return nullptr;
+std::unique_ptr<IGameFinder> FindersFactory::createUserProvidedLocationFinder(const QString& key,
+                                                                              const QStringList& executables) {
+    return std::make_unique<UserProvidedLocationFinder>(&m_state->logger, key, executables);
 }
 
 QStringList FindersFactory::oculusLibraryFolders() {
-    return {};
+    return ::oculusLibraryFolders(m_state->logger);
 }
 
 QString FindersFactory::oculusRuntimeFolder() {
-    return {};
+    return Runtimes::oculusRuntimeFolder();
 }
 
 QString FindersFactory::steamExecutablePath() {
-    return {};
+    return findSteamExecutable(m_state->logger);
 }
 
 QString FindersFactory::steamConfigFolder() {
-    return {};
+    return findSteamConfigFolder(m_state->logger);
 }
 
 QString FindersFactory::varjoRuntimeFolder() {
-    return {};
+    return Runtimes::varjoRuntimeFolder();
 }
 
 QString FindersFactory::openXrActiveRuntime() {
-    return {};
+    return Runtimes::openXrActiveRuntime();
 }
 
 QString FindersFactory::lumavexStandaloneLocation() {
-    return {};
+    return Runtimes::lumavexStandaloneLocation();
 }
 
 QString FindersFactory::steamVrFolder() {
-    return {};
+    const QStringList server{QStringLiteral("bin\\win64\\vrserver.exe")};
+    constexpr int equals = 0;
+    std::unique_ptr<IGameFinder> alternative = std::make_unique<SteamVrAlternativeFinder>(&m_state->logger);
+    std::unique_ptr<IGameFinder> uninstall = createUninstallFinder(QStringLiteral("SteamVR"), server, equals);
+    std::unique_ptr<IGameFinder> steam = createSteamFinder(QStringLiteral("250820"), QStringLiteral("SteamVR"), server);
+    const std::unique_ptr<IGameFinder> finder =
+        createMultiFinder(std::move(steam), std::move(uninstall), std::move(alternative), nullptr, nullptr, nullptr,
+                          nullptr, nullptr, nullptr, nullptr, nullptr);
+    GameLocation location;
+    return Paths::cleaned(finder->find(location) ? location.installFolder.trimmed() : QString());
 }
 
 } // namespace Finders

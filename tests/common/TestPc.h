@@ -36,6 +36,16 @@ public:
     void folder(const QString& path);
     void shortcut(const QString& path, const QString& target);
     void removeFile(const QString& path);
+    void hide(const QString& path);       ///< gives a file or folder the attribute "hidden"
+    void makeSystem(const QString& path); ///< the attribute "system"
+
+    /// Where the shell has the folder with this CSIDL value: a Start menu's or that of the common application data.
+    void shellFolder(int csidl, const QString& path);
+
+    void environment(const QString& name, const QString& value);
+
+    /// The name of the volume that is mounted as this drive ("\\\\?\\Volume{…}\\").
+    QString volume(QChar drive) const;
 
     // This library's log files
     static QString logFolder();

@@ -7,8 +7,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -19,9 +21,12 @@
 class TestPc::World {
 public:
     World() {
+        QJsonObject volumes;
         for (const QString drive : {"C", "D", "E"}) {
             QDir().mkpath(m_folder.filePath("drives/" + drive));
+            volumes.insert(drive, volume(drive));
         }
+        m_description.insert("volumes", volumes);
         qputenv("XDG_DATA_HOME", m_folder.filePath("data").toUtf8());
         record();
     }
@@ -31,6 +36,26 @@ public:
     void addToRegistry(const TestKey& key, const QString& line) {
         m_registry += '[' + nameOf(key) + "]\r\n" + line + "\r\n";
         record();
+    }
+
+    /// Adds to an object of pc.json.
+    void describe(const QString& object, const QString& name, const QString& value) {
+        QJsonObject members = m_description.value(object).toObject();
+        members.insert(name, value);
+        m_description.insert(object, members);
+        record();
+    }
+
+    /// Adds to a list of pc.json.
+    void describe(const QString& list, const QString& value) {
+        QJsonArray items = m_description.value(list).toArray();
+        items.append(value);
+        m_description.insert(list, items);
+        record();
+    }
+
+    static QString volume(const QString& drive) {
+        return "\\\\?\\Volume{5D0F3B7A-0000-4C1E-9A6B-00000000000" + drive + "}\\";
     }
 
     QString realPath(const QString& path) const {
@@ -70,22 +95,25 @@ private:
         stream.setGenerateByteOrderMark(true);
         stream << "Windows Registry Editor Version 5.00\r\n\r\n" << m_registry;
         stream.flush();
-        describe(recording + "/pc.json");
+        writeDescription(recording + "/pc.json");
         qputenv(Recording::environmentVariable, recording.toUtf8());
     }
 
     /// The rest of the PC. The version is the one that the test programs have on Windows.
-    static void describe(const QString& path) {
+    void writeDescription(const QString& path) const {
+        QJsonObject description = m_description;
         const QJsonObject host{{"executable", QCoreApplication::applicationFilePath()}, {"version", "3.1.4159.65535"}};
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly)) {
             qFatal("cannot write the recorded PC");
         }
-        file.write(QJsonDocument(QJsonObject{{"host", host}}).toJson());
+        description.insert("host", host);
+        file.write(QJsonDocument(description).toJson());
     }
 
     QTemporaryDir m_folder;
     QString m_registry;
+    QJsonObject m_description;
     int m_recordings = 0;
 };
 
@@ -143,4 +171,27 @@ void TestPc::shortcut(const QString& path, const QString& target) {
 
 void TestPc::removeFile(const QString& path) {
     QFile::remove(m_world->realPath(path));
+}
+
+void TestPc::hide(const QString& path) {
+    m_world->describe("hidden", path);
+}
+
+void TestPc::makeSystem(const QString& path) {
+    m_world->describe("system", path);
+}
+
+void TestPc::shellFolder(int csidl, const QString& path) {
+    const QMap<int, QString> names{{Platform::csidlStartMenu, "startMenu"},
+                                   {Platform::csidlCommonStartMenu, "commonStartMenu"},
+                                   {Platform::csidlCommonAppData, "commonAppData"}};
+    m_world->describe("shellFolders", names[csidl], path);
+}
+
+void TestPc::environment(const QString& name, const QString& value) {
+    m_world->describe("environment", name, value);
+}
+
+QString TestPc::volume(QChar drive) const {
+    return World::volume(drive);
 }

@@ -3,9 +3,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 
 #include <windows.h>
 
+#include <array>
 #include <vector>
 
 namespace {
@@ -49,6 +51,9 @@ public:
     World() = default;
 
     ~World() {
+        for (const QByteArray& variable : m_variables) {
+            qunsetenv(variable.constData());
+        }
         for (auto value = m_values.rbegin(); value != m_values.rend(); ++value) {
             const HKEY key = open(value->first);
             ::RegDeleteValueW(key, wide(value->second));
@@ -58,10 +63,9 @@ public:
             ::RegDeleteKeyExW(rootHandle(key->root), wide(key->path), accessOf(*key) & ~REGSAM(KEY_ALL_ACCESS), 0);
         }
         for (auto path = m_paths.rbegin(); path != m_paths.rend(); ++path) {
-            if (QFileInfo(*path).isDir()) {
+            // Not by Qt, to which a folder named like a shortcut is one.
+            if (::RemoveDirectoryW(wide(*path)) == 0 && ::DeleteFileW(wide(*path)) == 0) {
                 QDir(*path).removeRecursively();
-            } else {
-                QFile::remove(*path);
             }
         }
     }
@@ -104,6 +108,11 @@ public:
 
     void remember(const QString& path) { m_paths.push_back(path); }
 
+    void setVariable(const QByteArray& name, const QByteArray& value) {
+        qputenv(name.constData(), value);
+        m_variables.push_back(name);
+    }
+
 private:
     static HKEY open(const TestKey& key) {
         HKEY handle = nullptr;
@@ -116,6 +125,7 @@ private:
     std::vector<std::pair<TestKey, QString>> m_values;
     std::vector<TestKey> m_keys;
     std::vector<QString> m_paths;
+    std::vector<QByteArray> m_variables;
 };
 
 TestPc::TestPc()
@@ -164,4 +174,34 @@ void TestPc::shortcut(const QString& path, const QString& target) {
 
 void TestPc::removeFile(const QString& path) {
     QFile::remove(path);
+}
+
+void TestPc::hide(const QString& path) {
+    ::SetFileAttributesW(wide(path), ::GetFileAttributesW(wide(path)) | FILE_ATTRIBUTE_HIDDEN);
+}
+
+void TestPc::makeSystem(const QString& path) {
+    ::SetFileAttributesW(wide(path), ::GetFileAttributesW(wide(path)) | FILE_ATTRIBUTE_SYSTEM);
+}
+
+void TestPc::shellFolder(int csidl, const QString& path) {
+    const QMap<int, std::pair<Platform::RootKey, QString>> names{
+        {Platform::csidlStartMenu, {Platform::RootKey::CurrentUser, "Start Menu"}},
+        {Platform::csidlCommonStartMenu, {Platform::RootKey::LocalMachine, "Common Start Menu"}},
+        {Platform::csidlCommonAppData, {Platform::RootKey::LocalMachine, "Common AppData"}}};
+    const QString key = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+    value({names[csidl].first, key}, names[csidl].second, path);
+}
+
+void TestPc::environment(const QString& name, const QString& value) {
+    m_world->setVariable(name.toLocal8Bit(), value.toLocal8Bit());
+}
+
+QString TestPc::volume(QChar drive) const {
+    std::array<wchar_t, Platform::maxPath> name{};
+    const QString root = drive + QString(":\\");
+    if (::GetVolumeNameForVolumeMountPointW(wide(root), name.data(), Platform::maxPath) == 0) {
+        qFatal("drive %s has no volume", qUtf8Printable(root));
+    }
+    return QString::fromWCharArray(name.data());
 }

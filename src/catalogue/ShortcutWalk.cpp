@@ -1,0 +1,115 @@
+#include "catalogue/ShortcutWalk.h"
+
+#include "support/Clock.h"
+#include "support/Paths.h"
+#include "support/Platform.h"
+
+#include <algorithm>
+#include <vector>
+
+// Not by QDir, which takes a shortcut for its target and so opens each one, leaves out those without a target, and
+// knows no system attribute.
+
+namespace {
+
+struct Folder {
+    QString path;
+    QStringList way; ///< the folders that lead to it
+};
+
+QString pathIn(const QString& folder, const QString& name) {
+    return folder.endsWith(Paths::separatorFor(folder)) ? folder + name : Paths::join(folder, name);
+}
+
+/// Also true when it can't be told, as such a folder can't be listed either.
+bool leadsBack(const QString& link, const QStringList& way) {
+    Platform::FileIdentity target;
+    if (!Platform::fileIdentity(link, target)) {
+        return true;
+    }
+    return std::any_of(way.begin(), way.end(), [&target](const QString& folder) {
+        Platform::FileIdentity identity;
+        return Platform::fileIdentity(folder, identity) && identity.volume == target.volume &&
+               identity.index == target.index;
+    });
+}
+
+class ShortcutWalk {
+public:
+    explicit ShortcutWalk(quint64 limitMs)
+        : m_limitMs(limitMs) {}
+
+    /// False when the time ran out.
+    bool walk(const QString& root);
+
+    const QStringList& shortcuts() const { return m_shortcuts; }
+
+private:
+    bool visit(const Folder& folder);
+    void take(const Platform::FolderEntry& entry, const QString& path);
+    bool isToBeWalked(const Platform::FolderEntry& entry, const QString& path, const QStringList& way) const;
+
+    bool isTimeOver() const { return tickCountMs() - m_start >= m_limitMs; }
+
+    quint64 m_limitMs;
+    quint64 m_start = tickCountMs();
+    std::vector<Folder> m_pending; ///< the next one is the last
+    QStringList m_shortcuts;
+};
+
+bool ShortcutWalk::walk(const QString& root) {
+    m_pending.push_back({root, {}});
+    while (!m_pending.empty()) {
+        const Folder next = m_pending.back();
+        m_pending.pop_back();
+        if (!visit(next)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool ShortcutWalk::visit(const Folder& folder) {
+    const QStringList way = folder.way + QStringList{folder.path};
+    std::vector<Folder> folders;
+    Platform::FolderEntry entry;
+    const Platform::ListingHandle listing = Platform::firstEntry(folder.path, entry);
+    for (bool isThere = listing != nullptr; isThere; isThere = Platform::nextEntry(listing, entry)) {
+        if (isTimeOver()) {
+            return false;
+        }
+        const QString path = pathIn(folder.path, entry.name);
+        take(entry, path);
+        if (isToBeWalked(entry, path, way)) {
+            folders.push_back({path, way});
+        }
+    }
+    m_pending.insert(m_pending.end(), folders.rbegin(), folders.rend());
+    return true;
+}
+
+void ShortcutWalk::take(const Platform::FolderEntry& entry, const QString& path) {
+    if ((entry.attributes & (Platform::attributeHidden | Platform::attributeSystem)) != 0) {
+        return;
+    }
+    const QString trimmed = path.trimmed();
+    if (trimmed.endsWith(QLatin1String(".lnk"))) {
+        m_shortcuts.append(trimmed);
+    }
+}
+
+bool ShortcutWalk::isToBeWalked(const Platform::FolderEntry& entry, const QString& path, const QStringList& way) const {
+    if ((entry.attributes & Platform::attributeFolder) == 0 || entry.name == QLatin1String(".") ||
+        entry.name == QLatin1String("..")) {
+        return false;
+    }
+    return (entry.attributes & Platform::attributeLink) == 0 || !leadsBack(path, way);
+}
+
+} // namespace
+
+QStringList shortcutsBelow(const QString& folder, quint64 limitMs) {
+    ShortcutWalk walk(limitMs);
+    const bool isComplete = !folder.isEmpty() && walk.walk(Paths::toNative(folder));
+    return isComplete ? walk.shortcuts() : QStringList();
+}

@@ -1,0 +1,80 @@
+#include "catalogue/UninstallFinder.h"
+
+#include "catalogue/UninstallIndex.h"
+#include "core/LocationFilling.h"
+#include "support/Logger.h"
+#include "support/Paths.h"
+
+#include <algorithm>
+
+namespace Finders {
+
+namespace {
+
+/// What stands in the uninstall commands that name no program in the game's folder.
+const QLatin1String uselessCommands[] = {
+    QLatin1String("MsiExec.exe"),
+    QLatin1String("Package Cache"),
+    QLatin1String("steam://uninstall"),
+};
+
+bool namesUninstaller(const QString& command) {
+    return !command.isEmpty() &&
+           std::none_of(std::begin(uselessCommands), std::end(uselessCommands),
+                        [&command](QLatin1String useless) { return command.contains(useless, Qt::CaseInsensitive); });
+}
+
+/// The quoted program that the command begins with. A command without quotes is taken whole, its arguments included.
+QString programOf(const QString& command) {
+    if (!command.startsWith(QLatin1Char('"'))) {
+        return command;
+    }
+    const QString unquoted = command.mid(1);
+    return unquoted.left(unquoted.indexOf(QLatin1Char('"')));
+}
+
+} // namespace
+
+UninstallFinder::UninstallFinder(Logger* logger, UninstallIndex* index, const QString& displayName,
+                                 const QStringList& executables, int matchMode)
+    : AbstractFinder(logger)
+    , m_index(index)
+    , m_displayName(displayName)
+    , m_executables(executables)
+    , m_matchMode(matchMode) {}
+
+bool UninstallFinder::find(GameLocation& location) {
+    const std::vector<const UninstallEntry*> entries = m_index->findByName(m_displayName, m_matchMode);
+    return std::any_of(entries.begin(), entries.end(),
+                       [this, &location](const UninstallEntry* entry) { return findBy(*entry, location); });
+}
+
+bool UninstallFinder::findBy(const UninstallEntry& entry, GameLocation& location) const {
+    return findInInstallLocation(entry, location) || findBesideUninstaller(entry, location);
+}
+
+bool UninstallFinder::findInInstallLocation(const UninstallEntry& entry, GameLocation& location) const {
+    resetLocation(location);
+    location.installFolder = entry.installLocation;
+    if (entry.installLocation.isEmpty()) {
+        return false;
+    }
+    return collectExecutables(location, entry.installLocation, m_executables, {},
+                              [this, &entry](const QString& executable) {
+                                  logger().logAlways("Uninstall: Found %ls: %ls", qUtf16Printable(entry.keyPath),
+                                                     qUtf16Printable(executable));
+                              });
+}
+
+bool UninstallFinder::findBesideUninstaller(const UninstallEntry& entry, GameLocation& location) const {
+    if (!namesUninstaller(entry.uninstallString)) {
+        return false;
+    }
+    resetLocation(location);
+    location.installFolder = Paths::absoluteFolderOf(programOf(entry.uninstallString));
+    return collectExecutables(location, location.installFolder, m_executables, {}, [this](const QString& executable) {
+        logger().logAlways("Uninstall: Found %ls", qUtf16Printable(executable));
+    });
+}
+
+} // namespace Finders

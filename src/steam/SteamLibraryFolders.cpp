@@ -1,0 +1,40 @@
+#include "steam/SteamLibraryFolders.h"
+
+#include "support/Text.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <optional>
+
+namespace {
+
+QByteArray readWholeFile(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The path in a line `"path"  "D:\\SteamLibrary"`, its backslashes left doubled; empty in any other line.
+std::optional<QString> libraryIn(const QString& line) {
+    const QLatin1String key("\"path\"");
+    const QString trimmed = line.trimmed();
+    if (!trimmed.startsWith(key)) {
+        return std::nullopt;
+    }
+    return Text::unquote(trimmed.mid(key.size()).trimmed());
+}
+
+} // namespace
+
+QStringList parseLibraryFolders(const QString& vdfPath) {
+    const QString text = QString::fromUtf8(readWholeFile(vdfPath).constData()); // up to the first 0
+    QStringList folders;
+    const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        const std::optional<QString> library = libraryIn(line);
+        if (library && QDir(*library).exists()) {
+            folders.append(QDir(*library).absolutePath() + QLatin1String("/steamapps"));
+        }
+    }
+    return folders;
+}

@@ -1,0 +1,78 @@
+#include "catalogue/StartMenuFinder.h"
+#include "catalogue/StartMenuIndex.h"
+#include "catalogue/UninstallIndex.h"
+#include "core/GameLocation.h"
+#include "support/Logger.h"
+#include "support/recorded/Observer.h"
+
+#include "common/Programs.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+/// What the catalogues ask a PC.
+class QuestionsTest : public ::testing::Test {
+protected:
+    ~QuestionsTest() override { Recorded::setObserver({}); }
+
+    template <class Act>
+    std::vector<std::string> questionsOf(Act act) {
+        std::vector<std::string> questions;
+        Recorded::setObserver([&questions](const QString& question) { questions.push_back(question.toStdString()); });
+        act();
+        Recorded::setObserver({});
+        return questions;
+    }
+
+    TestPc pc;
+    Logger logger = Logger::create("Test");
+};
+
+TEST_F(QuestionsTest, BuildingTheStartMenuIndexOnlyListsFolders) {
+    pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
+    pc.file("C:\\Menu\\a.lnk");
+    pc.file("C:\\Menu\\Games\\b.lnk");
+    StartMenuIndex index;
+    EXPECT_THAT(questionsOf([&] { index.entries(); }), ElementsAre("list C:/Menu", "list C:/Menu/Games"));
+    EXPECT_THAT(questionsOf([&] { index.entries(); }), IsEmpty());
+}
+
+TEST_F(QuestionsTest, AStartMenuSearchOpensOnlyShortcutsOfTheName) {
+    pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
+    for (const char* name : {"a", "b", "c"}) {
+        pc.shortcut(QString("C:\\Menu\\") + name + ".lnk", "C:\\Games\\game.exe");
+    }
+    StartMenuIndex index;
+    index.entries();
+    GameLocation location;
+    const auto questions = questionsOf(
+        [&] { EXPECT_TRUE(Finders::StartMenuFinder(&logger, &index, "B", {"game.exe"}, 0).find(location)); });
+    EXPECT_THAT(questions, Contains("stat C:/Menu/b.lnk"));
+    EXPECT_THAT(questions, Not(Contains("stat C:/Menu/a.lnk")));
+    EXPECT_THAT(questions, Not(Contains("stat C:/Menu/c.lnk")));
+    EXPECT_THAT(questions, Not(Contains(StartsWith("list "))));
+}
+
+TEST_F(QuestionsTest, SearchesOfABuiltUninstallIndexReadNoRegistry) {
+    addProgram(pc, {"X", "X", "C:\\X", {}});
+    UninstallIndex index;
+    EXPECT_THAT(questionsOf([&] { index.entries(); }), Not(IsEmpty()));
+    EXPECT_THAT(questionsOf([&] {
+                    index.findByName("x", 0);
+                    index.findByName("x", 1);
+                    index.findByKeyPath("X");
+                }),
+                IsEmpty());
+}
+
+} // namespace

@@ -1,0 +1,141 @@
+#include "catalogue/GameForWindowFinder.h"
+
+#include "catalogue/GamesExplorerIndex.h"
+#include "core/GameLocation.h"
+#include "support/Logger.h"
+
+#include "common/AtOnce.h"
+#include "common/Games.h"
+#include "common/PluginUnderTest.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "core/Locations.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class GameForWindowFinderTest : public ::testing::Test {
+protected:
+    bool find(const QString& title, const QStringList& executables) {
+        return Finders::GameForWindowFinder(&logger, &index, title, executables).find(location);
+    }
+
+    TestPc pc;
+    Logger logger = Logger::create("Test");
+    GamesExplorerIndex index;
+    GameLocation location = usedLocation();
+};
+
+TEST_F(GameForWindowFinderTest, TheRegisteredExecutableWinsOutright) {
+    for (const char* name : {"x.exe", "a.exe"}) {
+        pc.file(QString("C:\\Games\\X\\") + name);
+    }
+    addGame(pc, {"{1}", "SOME GAME", "C:/Games/X/x.exe", "C:\\Games\\X"});
+    EXPECT_TRUE(find("Some Game", {"a.exe"}));
+    EXPECT_EQ(location,
+              (GameLocation{"C:/Games/X/x.exe", "C:/Games/X/x.exe", {"C:/Games/X/x.exe"}, "C:/Games/X", false}));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: GameForWindow: C:/Games/X/x.exe"));
+}
+
+TEST_F(GameForWindowFinderTest, TheRegisteredExecutableStaysAsStoredAndItsFolderTakesSlashes) {
+    pc.file("C:\\Games\\X\\x.exe");
+    addGame(pc, {"{1}", "X", "C:\\Games\\X\\x.exe", {}});
+    EXPECT_TRUE(find("X", {}));
+    EXPECT_EQ(
+        location,
+        (GameLocation{"C:\\Games\\X\\x.exe", "C:\\Games\\X\\x.exe", {"C:\\Games\\X\\x.exe"}, "C:/Games/X", false}));
+}
+
+TEST_F(GameForWindowFinderTest, OtherwiseEveryExecutableInTheRegisteredFolderIsFound) {
+    for (const char* name : {"c.exe", "bin\\a.exe"}) {
+        pc.file(QString("C:\\Games\\X\\") + name);
+    }
+    addGame(pc, {"{1}", "X", "C:\\Games\\X\\gone.exe", "C:\\Games\\X"});
+    EXPECT_TRUE(find("X", {"bin\\a.exe", "b.exe", "c.exe"}));
+    EXPECT_EQ(location, (GameLocation{"C:\\Games\\X\\bin\\a.exe",
+                                      "C:\\Games\\X\\bin\\a.exe",
+                                      {"C:\\Games\\X\\bin\\a.exe", "C:\\Games\\X\\c.exe"},
+                                      "C:\\Games\\X",
+                                      false}));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: GameForWindow: C:\\Games\\X\\bin\\a.exe"));
+}
+
+TEST_F(GameForWindowFinderTest, TheRegisteredFolderIsTakenAsStored) {
+    pc.file("C:\\Games\\X\\a.exe");
+    addGame(pc, {"{1}", "X", {}, "C:/Games\\X\\"});
+    EXPECT_TRUE(find("X", {"a.exe"}));
+    EXPECT_EQ(location.installFolder, "C:/Games\\X\\");
+    EXPECT_EQ(location.launchCommand, "C:/Games\\X\\\\a.exe") << "one separator is always added";
+}
+
+TEST_F(GameForWindowFinderTest, LeavesTheRecordAloneWhenNoTitleFits) {
+    pc.file("C:\\Games\\X\\x.exe");
+    addGame(pc, {"{1}", "Some Game 2", "C:\\Games\\X\\x.exe", {}});
+    EXPECT_FALSE(find("Some Game", {"x.exe"})) << "a part of a title is not enough";
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+}
+
+TEST_F(GameForWindowFinderTest, ResetsTheRecordWhenNoFileExists) {
+    pc.folder("C:\\Games\\X");
+    addGame(pc, {"{1}", "X", "C:\\Games\\X\\x.exe", "C:\\Games\\X"});
+    EXPECT_FALSE(find("X", {"a.exe"}));
+    EXPECT_EQ(location, GameLocation());
+    location = usedLocation();
+    EXPECT_FALSE(find("X", {}));
+    EXPECT_EQ(location, GameLocation());
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+}
+
+TEST_F(GameForWindowFinderTest, WithoutAFolderTheExecutablesAreNotLookedFor) {
+    addGame(pc, {"{1}", "X", {}, {}});
+    pc.file("C:\\a.exe");
+    EXPECT_FALSE(find("X", {"a.exe", "C:\\a.exe"}));
+    EXPECT_EQ(location, GameLocation());
+}
+
+TEST_F(GameForWindowFinderTest, TheFirstEntryWithFilesWins) {
+    pc.file("C:\\Games\\2\\x.exe");
+    pc.file("C:\\Games\\3\\x.exe");
+    addGame(pc, {"{1}", "X", "C:\\Games\\1\\x.exe", "C:\\Games\\1"});
+    addGame(pc, {"{2}", "x", "C:\\Games\\2\\gone.exe", "C:\\Games\\2"});
+    addGame(pc, {"{3}", "X", "C:\\Games\\3\\x.exe", {}});
+    EXPECT_TRUE(find("X", {"x.exe"}));
+    EXPECT_EQ(location.launchCommand, "C:\\Games\\2\\x.exe");
+    EXPECT_EQ(location.installFolder, "C:\\Games\\2");
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: GameForWindow: C:\\Games\\2\\x.exe"));
+}
+
+TEST_F(GameForWindowFinderTest, AnEmptyTitleFitsAnEntryWithoutOne) {
+    pc.file("C:\\Games\\X\\x.exe");
+    addGame(pc, {"{1}", {}, "C:\\Games\\X\\x.exe", {}});
+    EXPECT_TRUE(find("", {}));
+    EXPECT_EQ(location.launchCommand, "C:\\Games\\X\\x.exe");
+}
+
+TEST_F(GameForWindowFinderTest, TheFactoryMakesItAndKeepsOneIndexForAll) {
+    pc.file("C:\\Games\\X\\x.exe");
+    addGame(pc, {"{1}", "X", "C:\\Games\\X\\x.exe", {}});
+    const PluginUnderTest plugin;
+    const auto factory = plugin.create();
+    std::vector<std::unique_ptr<IGameFinder>> finders;
+    for (int i = 0; i < 16; ++i) {
+        finders.push_back(factory->createGameForWindowFinder("Y", {"y.exe"}));
+    }
+    std::atomic<std::size_t> next{0};
+    callAtOnce([&] {
+        GameLocation own;
+        EXPECT_FALSE(finders[next++]->find(own));
+    });
+    EXPECT_TRUE(factory->createGameForWindowFinder("x", {"y.exe"})->find(location));
+    EXPECT_EQ(location.installFolder, "C:/Games/X");
+    EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: GameForWindow: C:\\Games\\X\\x.exe"));
+    EXPECT_EQ(pc.log("Quorvan.Finders.GameForWindow").count("LOG CREATED"), 1);
+}
+
+} // namespace

@@ -1,0 +1,158 @@
+#include "catalogue/StartMenuFinder.h"
+
+#include "catalogue/StartMenuIndex.h"
+#include "support/Logger.h"
+
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "core/Locations.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class StartMenuFinderTest : public ::testing::Test {
+protected:
+    StartMenuFinderTest() {
+        pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
+        pc.shellFolder(Platform::csidlCommonStartMenu, "D:\\Menu");
+    }
+
+    bool find(const QString& name, const QStringList& executables, int matchMode = 0) {
+        StartMenuIndex index;
+        return Finders::StartMenuFinder(&logger, &index, name, executables, matchMode).find(location);
+    }
+
+    /// A shortcut whose target exists.
+    void addShortcut(const QString& path, const QString& target) {
+        pc.file(target);
+        pc.shortcut(path, target);
+    }
+
+    TestPc pc;
+    Logger logger = Logger::create("Test");
+    GameLocation location = usedLocation();
+};
+
+TEST_F(StartMenuFinderTest, FindsAProgramByItsShortcut) {
+    addShortcut("C:\\Menu\\Programs\\Steam\\Steam.lnk", "C:\\Games\\Steam\\Steam.exe");
+    EXPECT_TRUE(find("steam", {"steam.exe"}));
+    EXPECT_EQ(location, (GameLocation{"C:/Games/Steam/Steam.exe",
+                                      "C:/Games/Steam/Steam.exe",
+                                      {"C:/Games/Steam/Steam.exe"},
+                                      "C:/Games/Steam",
+                                      false}))
+        << "with forward slashes";
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: StartMenu: Found C:/Games/Steam/Steam.exe"));
+}
+
+TEST_F(StartMenuFinderTest, ComparesTheShortcutsNameByTheMode) {
+    addShortcut("C:\\Menu\\Steam Support.lnk", "C:\\Help\\steam.exe");
+    EXPECT_FALSE(find("Steam", {"steam.exe"}, 0));
+    EXPECT_EQ(location, usedLocation()) << "no shortcut of this name";
+    EXPECT_TRUE(find("Steam", {"steam.exe"}, 1));
+    EXPECT_EQ(location.installFolder, "C:/Help");
+    addShortcut("D:\\Menu\\steam.lnk", "C:\\Games\\Steam\\steam.exe");
+    EXPECT_TRUE(find("Steam", {"steam.exe"}, 0));
+    EXPECT_EQ(location.installFolder, "C:/Games/Steam");
+    EXPECT_TRUE(find("Steam", {"steam.exe"}, 1));
+    EXPECT_EQ(location.installFolder, "C:/Help") << "the first in list order";
+    EXPECT_TRUE(find("Steam", {"steam.exe"}, 2)) << "any mode but 1";
+    EXPECT_EQ(location.installFolder, "C:/Games/Steam");
+}
+
+TEST_F(StartMenuFinderTest, AnExecutableMayBeAnyPartOfTheTarget) {
+    addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\bin\\X64.exe");
+    EXPECT_TRUE(find("X", {"games/x"}));
+    EXPECT_EQ(location.installFolder, "C:/Games/X/bin");
+    EXPECT_FALSE(find("X", {"games\\x"})) << "the target has forward slashes";
+    EXPECT_FALSE(find("X", {"y.exe"}));
+}
+
+TEST_F(StartMenuFinderTest, EachExecutableThatFitsAddsTheTargetOnce) {
+    addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\x.exe");
+    EXPECT_TRUE(find("X", {"missing.exe", "X.EXE", "x.exe"}));
+    EXPECT_EQ(
+        location,
+        (GameLocation{
+            "C:/Games/X/x.exe", "C:/Games/X/x.exe", {"C:/Games/X/x.exe", "C:/Games/X/x.exe"}, "C:/Games/X", false}));
+    EXPECT_THAT(pc.messages("Test"),
+                ElementsAre("A: StartMenu: Found C:/Games/X/x.exe", "A: StartMenu: Found C:/Games/X/x.exe"));
+}
+
+TEST_F(StartMenuFinderTest, TheFirstShortcutThatPassesWins) {
+    addShortcut("D:\\Menu\\X.lnk", "D:\\Games\\X\\x.exe");
+    EXPECT_TRUE(find("X", {"x.exe"}));
+    EXPECT_EQ(location.installFolder, "D:/Games/X");
+    addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\x.exe");
+    EXPECT_TRUE(find("X", {"x.exe"}));
+    EXPECT_EQ(location.installFolder, "C:/Games/X") << "the user's before all users'";
+}
+
+TEST_F(StartMenuFinderTest, AShortcutWithAnotherTargetResetsTheRecordAndIsPassedOver) {
+    addShortcut("C:\\Menu\\X.lnk", "C:\\Help\\help.exe");
+    EXPECT_FALSE(find("X", {"x.exe"}));
+    EXPECT_EQ(location, GameLocation());
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+    addShortcut("D:\\Menu\\X.lnk", "D:\\Games\\X\\x.exe");
+    EXPECT_TRUE(find("X", {"x.exe"}));
+    EXPECT_EQ(location.installFolder, "D:/Games/X");
+}
+
+TEST_F(StartMenuFinderTest, TheTargetNeedNotExist) {
+    addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\x.exe");
+    pc.removeFile("C:\\Games\\X\\x.exe");
+    EXPECT_TRUE(find("X", {"x.exe"}));
+    EXPECT_EQ(location.launchCommand, "C:/Games/X/x.exe");
+}
+
+TEST_F(StartMenuFinderTest, AShortcutThatLeadsNowhereHasAnEmptyTarget) {
+    pc.file("C:\\Menu\\X.lnk");
+    EXPECT_FALSE(find("X", {"x.exe"}));
+    EXPECT_EQ(location, GameLocation());
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+
+    EXPECT_TRUE(find("X", {"x.exe", ""})) << "an empty part is in every target";
+    EXPECT_EQ(location, GameLocation()) << "but an empty path is never added";
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: StartMenu: Found "));
+}
+
+TEST_F(StartMenuFinderTest, AFolderNamedLikeAShortcutHasNoTarget) {
+    pc.folder("C:\\Menu\\X.lnk");
+    EXPECT_FALSE(find("X", {"x.exe"}));
+    EXPECT_EQ(location, GameLocation());
+}
+
+TEST_F(StartMenuFinderTest, AnExtensionInUpperCaseIsNoShortcuts) {
+    addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\x.exe");
+    pc.file("C:\\Menu\\Y.LNK");
+    EXPECT_FALSE(find("Y", {"x.exe"}));
+    EXPECT_EQ(location, usedLocation());
+}
+
+TEST_F(StartMenuFinderTest, WithoutExecutablesNothingIsFound) {
+    addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\x.exe");
+    EXPECT_FALSE(find("X", {}));
+    EXPECT_EQ(location, GameLocation());
+}
+
+TEST_F(StartMenuFinderTest, FollowsShortcutsWithAnyName) {
+    addShortcut("C:\\Menu\\Käferrennen 競走.lnk", "C:\\Spiele\\Käferrennen\\Käfer.exe");
+    EXPECT_TRUE(find("KÄFERRENNEN 競走", {"kÄFER.exe"}));
+    EXPECT_EQ(location.launchCommand, "C:/Spiele/Käferrennen/Käfer.exe");
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: StartMenu: Found C:/Spiele/Käferrennen/Käfer.exe"));
+}
+
+TEST_F(StartMenuFinderTest, KeepsNoUserLocation) {
+    StartMenuIndex index;
+    Finders::StartMenuFinder finder(&logger, &index, "X", {"x.exe"}, 0);
+    finder.setUserLocation("D:\\Elsewhere");
+    EXPECT_EQ(finder.userLocation(), "");
+    EXPECT_FALSE(finder.userLocation().isNull());
+}
+
+} // namespace

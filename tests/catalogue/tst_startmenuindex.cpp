@@ -1,0 +1,90 @@
+#include "catalogue/StartMenuIndex.h"
+
+#include "common/AtOnce.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+
+#include <QDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using Platform::csidlCommonStartMenu;
+using Platform::csidlStartMenu;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class StartMenuIndexTest : public ::testing::Test {
+protected:
+    StartMenuIndexTest() {
+        pc.shellFolder(csidlStartMenu, "C:\\Menu");
+        pc.shellFolder(csidlCommonStartMenu, "D:\\Menu");
+    }
+
+    QStringList find(const QString& name, int matchMode) {
+        QStringList found;
+        for (const QString* shortcut : index.findByName(name, matchMode)) {
+            found.append(*shortcut);
+        }
+        return found;
+    }
+
+    TestPc pc;
+    StartMenuIndex index;
+};
+
+TEST_F(StartMenuIndexTest, ListsTheUsersShortcutsBeforeThoseOfAllUsers) {
+    pc.file("D:\\Menu\\a.lnk");
+    pc.file("D:\\Menu\\Programs\\b.lnk");
+    pc.file("C:\\Menu\\y.lnk");
+    pc.file("C:\\Menu\\Programs\\z.lnk");
+    EXPECT_THAT(index.entries(), ElementsAre("C:\\Menu\\y.lnk", "C:\\Menu\\Programs\\z.lnk", "D:\\Menu\\a.lnk",
+                                             "D:\\Menu\\Programs\\b.lnk"));
+}
+
+TEST_F(StartMenuIndexTest, AMissingStartMenuAddsNone) {
+    pc.file("D:\\Menu\\a.lnk");
+    EXPECT_THAT(index.entries(), ElementsAre("D:\\Menu\\a.lnk"));
+}
+
+TEST_F(StartMenuIndexTest, FindsShortcutsByNameIgnoringCase) {
+    for (const char* path : {"C:\\Menu\\steam.lnk", "C:\\Menu\\Steam Support.lnk", "D:\\Menu\\x\\STEAM.lnk",
+                             "D:\\Menu\\Steam.lnk\\other.lnk", "D:\\Menu\\Steam.old.lnk"}) {
+        pc.file(path);
+    }
+    EXPECT_THAT(find("Steam", 0), ElementsAre("C:\\Menu\\steam.lnk", "D:\\Menu\\Steam.lnk", "D:\\Menu\\x\\STEAM.lnk"));
+    EXPECT_THAT(find("Steam", 1),
+                ElementsAre("C:\\Menu\\Steam Support.lnk", "C:\\Menu\\steam.lnk", "D:\\Menu\\Steam.lnk",
+                            "D:\\Menu\\Steam.old.lnk", "D:\\Menu\\x\\STEAM.lnk"))
+        << "by the file's name, not its folder's";
+    EXPECT_THAT(find("steam.OLD", 0), ElementsAre("D:\\Menu\\Steam.old.lnk")) << "only the last extension goes";
+    EXPECT_THAT(find("Steam.lnk", 0), IsEmpty());
+}
+
+TEST_F(StartMenuIndexTest, IsBuiltOnceWhateverIsAddedLater) {
+    EXPECT_THAT(index.entries(), IsEmpty());
+    pc.file("C:\\Menu\\a.lnk");
+    EXPECT_THAT(index.entries(), IsEmpty());
+    EXPECT_THAT(find("a", 0), IsEmpty());
+    StartMenuIndex later;
+    EXPECT_THAT(later.entries(), ElementsAre("C:\\Menu\\a.lnk"));
+}
+
+TEST_F(StartMenuIndexTest, WritesNoLog) {
+    pc.file("C:\\Menu\\a.lnk");
+    EXPECT_EQ(index.entries().size(), 1);
+    EXPECT_THAT(QDir(pc.logFolder()).entryList(QDir::Files), IsEmpty());
+}
+
+TEST_F(StartMenuIndexTest, ThreadsThatAskAtOnceSeeTheWholeList) {
+    for (int i = 0; i < 50; ++i) {
+        pc.file("C:\\Menu\\" + QString::number(i) + "\\a.lnk");
+    }
+    std::atomic<int> complete{0};
+    callAtOnce([&] { complete += index.entries().size() == 50 && index.findByName("A", 0).size() == 50 ? 1 : 0; });
+    EXPECT_EQ(complete, 16);
+}
+
+} // namespace

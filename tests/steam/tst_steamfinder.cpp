@@ -1,0 +1,211 @@
+#include "steam/SteamFinder.h"
+
+#include "catalogue/UninstallIndex.h"
+#include "steam/SteamLibraryIndex.h"
+#include "support/Logger.h"
+
+#include "common/Programs.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "core/Locations.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class SteamFinderTest : public ::testing::Test {
+protected:
+    SteamFinderTest() {
+        pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
+        pc.shellFolder(Platform::csidlCommonStartMenu, "C:\\All Users' Menu");
+    }
+
+    bool find(const QString& appId, const QString& folderName, const QStringList& executables) {
+        UninstallIndex uninstallIndex;
+        SteamLibraryIndex steamIndex;
+        return Finders::SteamFinder(&logger, &uninstallIndex, &steamIndex, appId, folderName, executables)
+            .find(location);
+    }
+
+    void installSteam() {
+        pc.file("C:\\Steam\\steam.exe");
+        pc.value({Platform::RootKey::ClassesRoot, "steam\\Shell\\Open\\Command", 1}, "", "C:\\Steam\\steam.exe");
+        pc.folder("D:\\Library");
+        pc.file("C:\\Steam\\steamapps\\libraryfolders.vdf", "\"path\" \"D:\\\\Library\"\n");
+    }
+
+    /// The entry that the client writes.
+    void addEntry(const QString& appId, const QString& folder, const QString& uninstaller = "steam uninstaller") {
+        addProgram(pc, {"Steam App " + appId, "A game", folder, uninstaller});
+    }
+
+    static GameLocation failedIn(const QString& folder) { return {{}, {}, {}, folder, false}; }
+
+    TestPc pc;
+    Logger logger = Logger::create("Test");
+    GameLocation location = usedLocation();
+};
+
+TEST_F(SteamFinderTest, FindsAGameByItsUninstallEntryWithoutTheClient) {
+    pc.file("D:\\Library\\steamapps\\common\\Game\\bin\\game.exe");
+    pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    addEntry("440", " D:\\Library\\steamapps\\common\\Game\t");
+    EXPECT_TRUE(find("440", "", {"bin\\game.exe", "missing.exe", "game.exe"}));
+    EXPECT_EQ(location, (GameLocation{"steam://launch/440",
+                                      "D:\\Library\\steamapps\\common\\Game\\bin\\game.exe",
+                                      {"D:\\Library\\steamapps\\common\\Game\\bin\\game.exe",
+                                       "D:\\Library\\steamapps\\common\\Game\\game.exe"},
+                                      "D:\\Library\\steamapps\\common\\Game",
+                                      false}));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Steam: Found 440"));
+}
+
+TEST_F(SteamFinderTest, FindsAGameInALibrary) {
+    installSteam();
+    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
+    pc.file("D:\\Library\\steamapps\\common\\A Game\\bin\\game.exe");
+    pc.file("D:\\Library\\steamapps\\common\\A Game\\game.exe");
+    EXPECT_TRUE(find("440", "A Game", {"missing.exe", "bin\\game.exe", "game.exe"}));
+    EXPECT_EQ(location, (GameLocation{"steam://launch/440",
+                                      "D:/Library/steamapps/common/A Game\\bin\\game.exe",
+                                      {"D:/Library/steamapps/common/A Game\\bin\\game.exe",
+                                       "D:/Library/steamapps/common/A Game\\game.exe"},
+                                      "D:/Library/steamapps/common/A Game",
+                                      false}));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Steam: Found 440"));
+}
+
+TEST_F(SteamFinderTest, TheUninstallEntryComesBeforeTheLibraries) {
+    installSteam();
+    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
+    pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    pc.file("E:\\Game\\game.exe");
+    addEntry("440", "E:\\Game");
+    EXPECT_TRUE(find("440", "Game", {"game.exe"}));
+    EXPECT_EQ(location.installFolder, "E:\\Game");
+    EXPECT_EQ(pc.log("Quorvan.Finders.SteamGames"), "") << "the libraries are not even looked at";
+}
+
+TEST_F(SteamFinderTest, AnEntryWithoutAnUninstallerIsIgnored) {
+    pc.file("E:\\Game\\game.exe");
+    addEntry("440", "E:\\Game", "");
+    EXPECT_FALSE(find("440", "", {"game.exe"}));
+    EXPECT_EQ(location, usedLocation());
+}
+
+TEST_F(SteamFinderTest, AnEntryThatLeadsNowhereIsPassedOver) {
+    installSteam();
+    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
+    pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    pc.folder("E:\\Empty");
+    for (const char* gone : {"E:\\Gone", "E:\\Empty", "", "  "}) {
+        addEntry("440", gone);
+        EXPECT_TRUE(find("440", "Game", {"game.exe"})) << gone;
+        EXPECT_EQ(location.installFolder, "D:/Library/steamapps/common/Game") << gone;
+    }
+}
+
+TEST_F(SteamFinderTest, TheSecondEntryOfAKeyIsTriedAsWell) {
+    pc.file("E:\\Game\\game.exe");
+    addProgram(pc, {"Steam App 440", "Game", "E:\\Gone", "u.exe", Platform::RootKey::LocalMachine, View::view32});
+    addProgram(pc, {"Steam App 440", "Game", "E:\\Game", "u.exe", Platform::RootKey::LocalMachine, View::view64});
+    EXPECT_TRUE(find("440", "", {"game.exe"}));
+    EXPECT_EQ(location.installFolder, "E:\\Game");
+}
+
+TEST_F(SteamFinderTest, IdentifiersAreComparedAsText) {
+    installSteam();
+    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
+    pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    pc.file("E:\\Game\\game.exe");
+    addEntry("440a", "E:\\Game");
+    for (const char* id : {"0440", "44", "440 ", "440A", ""}) {
+        EXPECT_FALSE(find(id, "Game", {"game.exe"})) << id;
+        EXPECT_EQ(location, usedLocation()) << id;
+    }
+    EXPECT_TRUE(find("440a", "Game", {"game.exe"}));
+    EXPECT_EQ(location.launchCommand, "steam://launch/440a");
+}
+
+TEST_F(SteamFinderTest, AnEmptyIdentifierMatchesAManifestWithoutOne) {
+    installSteam();
+    pc.file("D:\\Library\\steamapps\\appmanifest_.acf");
+    pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    EXPECT_TRUE(find("", "Game", {"game.exe"}));
+    EXPECT_EQ(location.launchCommand, "steam://launch/");
+}
+
+TEST_F(SteamFinderTest, ALibraryWithoutAnExecutableDoesNotStopTheSearch) {
+    installSteam();
+    pc.file("C:\\Steam\\steamapps\\appmanifest_440.acf");
+    pc.folder("C:\\Steam\\steamapps\\common\\Game");
+    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
+    pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    EXPECT_TRUE(find("440", "Game", {"game.exe"}));
+    EXPECT_EQ(location.installFolder, "D:/Library/steamapps/common/Game");
+}
+
+TEST_F(SteamFinderTest, WithoutAFolderNameTheLibrariesAreNotSearched) {
+    installSteam();
+    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
+    pc.file("D:\\Library\\steamapps\\common\\game.exe");
+    EXPECT_FALSE(find("440", "", {"game.exe"}));
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(pc.log("Quorvan.Finders.SteamGames"), "") << "nor is their index built";
+}
+
+TEST_F(SteamFinderTest, AFailedSearchLeavesTheLastFolderTried) {
+    installSteam();
+    EXPECT_FALSE(find("440", "Game", {"game.exe"}));
+    EXPECT_EQ(location, usedLocation()) << "none was tried";
+
+    addEntry("440", " E:\\Gone ");
+    EXPECT_FALSE(find("440", "Game", {"game.exe"}));
+    EXPECT_EQ(location, failedIn("E:\\Gone"));
+
+    location = usedLocation();
+    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
+    EXPECT_FALSE(find("440", "Game", {"game.exe"}));
+    EXPECT_EQ(location, failedIn("D:/Library/steamapps/common/Game"));
+
+    location = usedLocation();
+    addEntry("441", "");
+    addProgram(pc, {"Steam App 441", {}, " ", {}});
+    EXPECT_FALSE(find("441", "", {"game.exe"}));
+    EXPECT_EQ(location, failedIn(""));
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+}
+
+TEST_F(SteamFinderTest, WithoutExecutablesNothingIsFound) {
+    pc.folder("E:\\Game");
+    addEntry("440", "E:\\Game");
+    EXPECT_FALSE(find("440", "Game", {}));
+    EXPECT_EQ(location, failedIn("E:\\Game"));
+}
+
+TEST_F(SteamFinderTest, TheFolderNameMayBeAPath) {
+    installSteam();
+    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
+    pc.file("D:\\Library\\steamapps\\common\\Maker\\Game\\game.exe");
+    EXPECT_TRUE(find("440", "Maker/Game", {"game.exe"}));
+    EXPECT_EQ(location.installFolder, "D:/Library/steamapps/common/Maker/Game");
+    pc.file("E:\\Game\\game.exe");
+    EXPECT_TRUE(find("440", "E:\\Game", {"game.exe"}));
+    EXPECT_EQ(location.installFolder, "E:\\Game") << "an absolute one stands for itself";
+    EXPECT_EQ(location.executablePath, "E:\\Game\\game.exe");
+}
+
+TEST_F(SteamFinderTest, KeepsNoUserLocation) {
+    UninstallIndex uninstallIndex;
+    SteamLibraryIndex steamIndex;
+    Finders::SteamFinder finder(&logger, &uninstallIndex, &steamIndex, "440", "Game", {"game.exe"});
+    finder.setUserLocation("D:\\Elsewhere");
+    EXPECT_EQ(finder.userLocation(), "");
+    EXPECT_FALSE(finder.userLocation().isNull());
+}
+
+} // namespace

@@ -1,0 +1,150 @@
+#include "steam/SteamVrAlternativeFinder.h"
+
+#include "support/Logger.h"
+#include "support/RegistryKey.h"
+
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "core/Locations.h"
+#include "steam/MessageLog.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+const QString steamVr = "C:\\Program Files (x86)\\Steam\\steamapps\\common\\SteamVR\\";
+const QString server = steamVr + "bin\\win64\\vrserver.exe";
+
+class SteamVrAlternativeFinderTest : public ::testing::Test {
+protected:
+    void registerCommand(const QString& scheme, const QString& command) {
+        pc.value({Platform::RootKey::ClassesRoot, scheme + "\\Shell\\Open\\Command", View::view32}, "", command);
+    }
+
+    bool find() { return Finders::SteamVrAlternativeFinder(&logger).find(location); }
+
+    TestPc pc;
+    const MessageLog log;
+    Logger logger = Logger::create("Test");
+    GameLocation location;
+};
+
+TEST_F(SteamVrAlternativeFinderTest, FindsSteamVrByItsMonitor) {
+    pc.file(server);
+    const QString monitor = '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"";
+    registerCommand("steamvr", "\"C:\\Steam\\steam.exe\" \"%1\"");
+    registerCommand("vrmonitor", monitor);
+    EXPECT_TRUE(find());
+    EXPECT_EQ(location, (GameLocation{server, server, {server}, steamVr, false}));
+    EXPECT_THAT(log.messages(), ElementsAre("info: VrUrlHandler Path: \"C:\\Steam\\steam.exe\" \"%1\"",
+                                            "info: VrMonitor Path: " + monitor));
+    EXPECT_THAT(pc.messages("Test"), IsEmpty()) << "nothing goes to the finders' log";
+}
+
+TEST_F(SteamVrAlternativeFinderTest, The32BitMonitorLeadsToThe64BitServer) {
+    pc.file(server);
+    registerCommand("vrmonitor", '"' + steamVr + "bin\\win32\\vrmonitor.exe\" \"%1\"");
+    EXPECT_TRUE(find());
+    EXPECT_EQ(location.executablePath, server);
+    EXPECT_EQ(location.installFolder, steamVr);
+}
+
+TEST_F(SteamVrAlternativeFinderTest, The32BitMonitorIsLookedForFirst) {
+    pc.file("C:\\A\\bin\\win64\\vrserver.exe");
+    registerCommand("vrmonitor", "C:\\A\\bin\\win64\\vrmonitor.exe C:\\B\\bin\\win32\\vrmonitor.exe");
+    EXPECT_FALSE(find()) << "the folder ends before it, wherever it stands";
+    registerCommand("vrmonitor", "C:\\A\\bin\\win32\\vrmonitor.exe C:\\B\\bin\\win32\\vrmonitor.exe");
+    EXPECT_TRUE(find()) << "the first of two";
+    EXPECT_EQ(location.installFolder, "C:\\A\\");
+}
+
+TEST_F(SteamVrAlternativeFinderTest, AnUnquotedCommandIsTakenAsWell) {
+    pc.file(server);
+    registerCommand("vrmonitor", steamVr + "bin\\win64\\vrmonitor.exe %1");
+    EXPECT_TRUE(find());
+    EXPECT_EQ(location.installFolder, steamVr);
+}
+
+TEST_F(SteamVrAlternativeFinderTest, WithoutAMonitorNothingIsFound) {
+    location = usedLocation();
+    EXPECT_FALSE(find());
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_THAT(log.messages(), ElementsAre("info: VrUrlHandler Path: ", "info: VrMonitor Path: "));
+}
+
+TEST_F(SteamVrAlternativeFinderTest, TheMonitorsNameRespectsCase) {
+    pc.file(server);
+    location = usedLocation();
+    for (const char* name : {"bin\\Win64\\vrmonitor.exe", "bin/win64/vrmonitor.exe", "bin\\win64\\vrmonitor", ""}) {
+        registerCommand("vrmonitor", '"' + steamVr + name + "\" \"%1\"");
+        EXPECT_FALSE(find()) << name;
+        EXPECT_EQ(location, usedLocation()) << name;
+    }
+}
+
+TEST_F(SteamVrAlternativeFinderTest, WithoutTheServerNothingIsFound) {
+    pc.file(steamVr + "bin\\win32\\vrserver.exe");
+    registerCommand("vrmonitor", '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"");
+    location = usedLocation();
+    EXPECT_FALSE(find());
+    EXPECT_EQ(location, usedLocation());
+}
+
+TEST_F(SteamVrAlternativeFinderTest, AMonitorOfTheMakersOwnIsRejected) {
+    pc.file("C:\\VelTrane\\bin\\win64\\vrserver.exe");
+    const QString monitor = "\"C:\\VelTrane\\bin\\win64\\vrmonitor.exe\" \"%1\"";
+    registerCommand("vrmonitor", monitor);
+    location = usedLocation();
+    EXPECT_FALSE(find());
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_THAT(log.messages(),
+                ElementsAre("info: VrUrlHandler Path: ", "critical: VrMonitor Incorrect Path: " + monitor));
+}
+
+TEST_F(SteamVrAlternativeFinderTest, TheUrlHandlerOnlyServesTheLog) {
+    pc.file(server);
+    registerCommand("steamvr", "C:\\veltrane\\handler.exe");
+    registerCommand("vrmonitor", '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"");
+    EXPECT_TRUE(find());
+    EXPECT_EQ(log.messages().first(), "critical: VrUrlHandler Incorrect Path: C:\\veltrane\\handler.exe");
+}
+
+TEST_F(SteamVrAlternativeFinderTest, AddsToARecordWithoutResettingIt) {
+    pc.file(server);
+    registerCommand("vrmonitor", '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"");
+    location = usedLocation();
+    EXPECT_TRUE(find());
+    EXPECT_EQ(location, (GameLocation{"steam://launch/1",
+                                      "C:\\Old\\old.exe",
+                                      {"C:\\Old\\old.exe", "C:\\Old\\other.exe", server},
+                                      steamVr,
+                                      true}));
+}
+
+TEST_F(SteamVrAlternativeFinderTest, OneQuoteGoesAndNoMore) {
+    pc.file(server);
+    registerCommand("vrmonitor", "\"\"" + steamVr + "bin\\win64\\vrmonitor.exe\"");
+    EXPECT_FALSE(find());
+    registerCommand("vrmonitor", " \"" + steamVr + "bin\\win64\\vrmonitor.exe\"");
+    EXPECT_FALSE(find()) << "a blank before it keeps the quote";
+}
+
+TEST_F(SteamVrAlternativeFinderTest, ACommandThatBeginsWithTheMonitorHasAnEmptyFolder) {
+    registerCommand("vrmonitor", "bin\\win64\\vrmonitor.exe");
+    EXPECT_FALSE(find());
+    registerCommand("vrmonitor", "\"bin\\win64\\vrmonitor.exe\"");
+    EXPECT_FALSE(find());
+}
+
+TEST_F(SteamVrAlternativeFinderTest, KeepsNoUserLocation) {
+    Finders::SteamVrAlternativeFinder finder(&logger);
+    finder.setUserLocation("D:\\Elsewhere");
+    EXPECT_EQ(finder.userLocation(), "");
+    EXPECT_FALSE(finder.userLocation().isNull());
+}
+
+} // namespace
