@@ -96,8 +96,8 @@ TEST_F(FindersFactoryTest, AMultiFinderTriesFolderAfterFolder) {
 TEST_F(FindersFactoryTest, AMultiFinderTakesTheHostsOwnFindersToo) {
     QStringList notes;
     const auto factory = plugin.create();
-    std::unique_ptr<IGameFinder> own = std::make_unique<ScriptedFinder>(
-        "own", ScriptedFinder::Script{true, "D:\\Chosen", "D:\\Chosen"}, &notes);
+    std::unique_ptr<IGameFinder> own =
+        std::make_unique<ScriptedFinder>("own", ScriptedFinder::Script{true, "D:\\Chosen", "D:\\Chosen"}, &notes);
     auto finder = combine(*factory, nullptr, std::move(own));
     EXPECT_TRUE(finder->find(location));
     EXPECT_EQ(finder->userLocation(), "D:\\Chosen");

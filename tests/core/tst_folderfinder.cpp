@@ -81,7 +81,8 @@ TEST_F(FolderFinderTest, AnAbsolutePathStandsForItself) {
 
 TEST_F(FolderFinderTest, TheFolderMayBeSpelledInAnyWay) {
     pc.file("C:\\Games\\X\\a.exe");
-    for (const char* folder : {"C:/Games/X", "c:\\games\\x", "C:\\Games\\X\\", "C:\\Games\\\\X//", "C:\\Games\\.\\Y\\..\\X"}) {
+    for (const char* folder :
+         {"C:/Games/X", "c:\\games\\x", "C:\\Games\\X\\", "C:\\Games\\\\X//", "C:\\Games\\.\\Y\\..\\X"}) {
         EXPECT_TRUE(find(folder, {"A.EXE"})) << folder;
         EXPECT_EQ(location.installFolder.toLower(), "c:\\games\\x") << folder;
         EXPECT_EQ(location.launchCommand.toLower(), "c:\\games\\x\\a.exe") << folder;

@@ -1,0 +1,109 @@
+#include "core/UserProvidedLocationFinder.h"
+
+#include "core/LocationFilling.h"
+#include "support/Logger.h"
+#include "support/Paths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+
+namespace Finders {
+
+namespace {
+
+/// The user's choices, one value a game: shared with the host. Open while this object lives.
+class Choices {
+public:
+    Choices()
+        : m_settings(QSettings::UserScope, QLatin1String("Veltrane"), QLatin1String("Quorvan")) {
+        m_settings.beginGroup(QLatin1String("UserProvidedLocations"));
+    }
+
+    ~Choices() { m_settings.sync(); }
+
+    QString value(const QString& key) const { return m_settings.value(key, emptyText()).toString(); }
+
+    void setValue(const QString& key, const QString& folder) { m_settings.setValue(key, folder); }
+
+    void remove(const QString& key) { m_settings.remove(key); }
+
+    static QString emptyText() { return QString(QLatin1String("")); }
+
+private:
+    Q_DISABLE_COPY_MOVE(Choices)
+
+    QSettings m_settings;
+};
+
+QStringList trimmedNames(const QStringList& names) {
+    QStringList trimmed;
+    for (const QString& name : names) {
+        if (!name.trimmed().isEmpty()) {
+            trimmed.append(name.trimmed());
+        }
+    }
+    return trimmed;
+}
+
+int separatorsIn(const QString& name) {
+    return name.count(QLatin1Char('\\')) + name.count(QLatin1Char('/'));
+}
+
+} // namespace
+
+UserProvidedLocationFinder::UserProvidedLocationFinder(Logger* logger, const QString& key,
+                                                       const QStringList& executables)
+    : m_key(key.trimmed())
+    , m_executables(trimmedNames(executables))
+    , m_logger(logger) {}
+
+bool UserProvidedLocationFinder::find(GameLocation& location) {
+    const QString folder = userLocation();
+    resetLocation(location);
+    location.installFolder = folder;
+    if (folder.isEmpty()) {
+        return false;
+    }
+    const auto logFound = [this](const QString& executable) {
+        m_logger->logAlways("User: Found %ls", qUtf16Printable(executable));
+    };
+    if (!collectExecutables(location, folder, m_executables, {}, logFound)) {
+        m_logger->logError("User: Not found %ls", qUtf16Printable(folder));
+        return false;
+    }
+    return true;
+}
+
+QString UserProvidedLocationFinder::userLocation() {
+    return m_key.isEmpty() ? Choices::emptyText() : Choices().value(m_key).trimmed();
+}
+
+void UserProvidedLocationFinder::setUserLocation(const QString& path) {
+    if (m_key.isEmpty()) {
+        return;
+    }
+    const QString folder = path.isEmpty() ? path : installFolderFor(path);
+    Choices choices;
+    if (folder.isEmpty()) {
+        choices.remove(m_key);
+    } else {
+        choices.setValue(m_key, folder);
+    }
+}
+
+QString UserProvidedLocationFinder::installFolderFor(const QString& path) const {
+    for (const QString& executable : m_executables) {
+        if (QFile::exists(Paths::join(path, executable))) {
+            return path;
+        }
+        const int depth = separatorsIn(executable);
+        const QString up = path + QString(QLatin1String("/..")).repeated(depth);
+        if (depth > 0 && QFile::exists(Paths::join(up, executable))) {
+            return QDir(up).absolutePath();
+        }
+    }
+    return path;
+}
+
+} // namespace Finders

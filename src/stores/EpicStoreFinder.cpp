@@ -1,0 +1,56 @@
+#include "stores/EpicStoreFinder.h"
+
+#include "core/LocationFilling.h"
+#include "stores/EpicManifestIndex.h"
+#include "support/Logger.h"
+
+#include <algorithm>
+
+namespace Finders {
+
+namespace {
+
+/// The launcher wants the colons between the parts percent-encoded, and the parts as they are.
+QString launchUrlOf(const EpicAppEntry& entry) {
+    const QLatin1String colon("%3A");
+    return QLatin1String("com.epicgames.launcher://apps/") + entry.CatalogNamespace + colon + entry.CatalogItemId +
+           colon + entry.AppName + QLatin1String("?action=launch&silent=true");
+}
+
+} // namespace
+
+EpicStoreFinder::EpicStoreFinder(Logger* logger, EpicManifestIndex* index, const QString& name,
+                                 const QStringList& executables, int matchMode)
+    : AbstractFinder(logger)
+    , m_index(index)
+    , m_name(name)
+    , m_executables(executables)
+    , m_matchMode(matchMode) {}
+
+bool EpicStoreFinder::find(GameLocation& location) {
+    if (m_name.isEmpty()) {
+        return false;
+    }
+    const std::vector<const EpicAppEntry*> entries = m_index->findByName(m_name, m_matchMode);
+    return std::any_of(entries.begin(), entries.end(),
+                       [this, &location](const EpicAppEntry* entry) { return findBy(*entry, location); });
+}
+
+bool EpicStoreFinder::findBy(const EpicAppEntry& entry, GameLocation& location) const {
+    const QString& folder = entry.InstallLocation;
+    if (folder.isEmpty()) {
+        return false;
+    }
+    resetLocation(location);
+    location.installFolder = folder;
+    const auto logFound = [this, &folder](const QString& executable) {
+        logger().logAlways("EpicStore: Found %ls: %ls", qUtf16Printable(folder), qUtf16Printable(executable));
+    };
+    if (!collectExecutables(location, folder, m_executables, launchUrlOf(entry), logFound)) {
+        logger().logAlways("EpicStore: Not found %ls", qUtf16Printable(folder));
+        return false;
+    }
+    return true;
+}
+
+} // namespace Finders

@@ -1,0 +1,73 @@
+#include "stores/OculusLibraries.h"
+
+#include "support/Logger.h"
+#include "support/Platform.h"
+#include "support/RegistryKey.h"
+
+#include <QDir>
+#include <QMap>
+
+#include <array>
+
+namespace {
+
+/// The roots ("D:\") of the drives by the names of their volumes.
+using VolumeMap = QMap<QString, QString>;
+
+VolumeMap mountedVolumes() {
+    VolumeMap volumes;
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        const QString root = QString(QLatin1Char(letter)) + QLatin1String(":\\");
+        std::array<char16_t, Platform::maxPath> name{};
+        if (Platform::volumeName(root, name.data())) {
+            name.back() = u'\0';
+            volumes.insert(QString::fromUtf16(name.data()), root);
+        }
+    }
+    return volumes;
+}
+
+/// `path` with a drive's root instead of the volume that it begins with; unchanged when it begins with none.
+QString withDrive(const QString& path, const VolumeMap& volumes) {
+    for (auto volume = volumes.begin(); volume != volumes.end(); ++volume) {
+        if (path.startsWith(volume.key(), Qt::CaseInsensitive)) {
+            return volume.value() + path.mid(volume.key().size());
+        }
+    }
+    return path;
+}
+
+void addLibrary(const QString& registered, const VolumeMap& volumes, QStringList& folders, Logger& logger) {
+    const QString software = QStringLiteral("Software");
+    const QString manifests = QStringLiteral("Manifests");
+    const QString path = withDrive(registered, volumes);
+    QDir library(path);
+    const bool hasSoftware = library.exists(software);
+    const bool hasManifests = library.exists(manifests);
+    if (hasSoftware && hasManifests) {
+        library.cd(manifests); // where a file has the name, the library itself is taken
+        folders.append(library.absolutePath());
+        return;
+    }
+    logger.logError("OculusStore: Failed to open. UNC: %ls, path: %ls, %d, %d, %d", qUtf16Printable(registered),
+                    qUtf16Printable(path), static_cast<int>(library.exists()), static_cast<int>(hasSoftware),
+                    static_cast<int>(hasManifests));
+}
+
+} // namespace
+
+QStringList oculusLibraryFolders(Logger& logger) {
+    const QString root = QStringLiteral("Software\\Oculus VR, LLC\\Oculus\\Libraries");
+    QStringList libraries;
+    if (!RegistryKey::open(root, Hive::currentUser, View::view64).subKeyNames(libraries)) {
+        return {};
+    }
+    const VolumeMap volumes = mountedVolumes();
+    QStringList folders;
+    for (const QString& library : qAsConst(libraries)) {
+        const QString key = root + QLatin1Char('\\') + library;
+        addLibrary(readRegistryString(key, Hive::currentUser, View::view64, QStringLiteral("Path")), volumes, folders,
+                   logger);
+    }
+    return folders;
+}

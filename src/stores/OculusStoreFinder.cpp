@@ -1,0 +1,48 @@
+#include "stores/OculusStoreFinder.h"
+
+#include "core/LocationFilling.h"
+#include "stores/OculusLibraryIndex.h"
+#include "support/Logger.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace Finders {
+
+OculusStoreFinder::OculusStoreFinder(Logger* logger, OculusLibraryIndex* index, const QString& appId,
+                                     const QStringList& executables, const QString& softwareFolder)
+    : AbstractFinder(logger)
+    , m_index(index)
+    , m_appId(appId)
+    , m_executables(executables)
+    , m_softwareFolder(softwareFolder) {
+    m_executables.removeAll(QString());
+}
+
+bool OculusStoreFinder::find(GameLocation& location) {
+    if (m_softwareFolder.isEmpty()) {
+        return false;
+    }
+    const std::vector<const OculusAppEntry*> entries = m_index->findByAppId(m_appId);
+    return std::any_of(entries.begin(), entries.end(),
+                       [this, &location](const OculusAppEntry* entry) { return findBy(*entry, location); });
+}
+
+bool OculusStoreFinder::findBy(const OculusAppEntry& entry, GameLocation& location) const {
+    QDir dir(entry.manifestsFolder);
+    const bool isThere = dir.cdUp() && dir.cd(QStringLiteral("Software")) && dir.cd(m_softwareFolder);
+    dir.makeAbsolute();
+    const QString folder = dir.absolutePath();
+
+    resetLocation(location);
+    location.installFolder = folder;
+    if (!isThere || folder.isEmpty() || !QDir(folder).exists()) {
+        return false;
+    }
+    return collectExecutables(location, folder, m_executables, {}, [this, &location](const QString&) {
+        logger().logAlways("OculusStore: %ls", qUtf16Printable(location.launchCommand));
+    });
+}
+
+} // namespace Finders

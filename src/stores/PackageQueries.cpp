@@ -1,0 +1,80 @@
+#include "stores/PackageQueries.h"
+
+#include "stores/PackageFunctions.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <type_traits>
+#include <vector>
+
+namespace {
+
+using OpenPackage =
+    std::unique_ptr<std::remove_pointer_t<PackageFunctions::PackageInfo>, PackageFunctions::ClosePackageInfo>;
+
+/// No package when it can't be opened.
+OpenPackage open(const std::u16string& fullName, const PackageFunctions& functions) {
+    PackageFunctions::PackageInfo info = nullptr;
+    const qint32 result = functions.openPackageInfoByFullName(fullName.c_str(), 0, &info);
+    return {result == PackageFunctions::errorSuccess ? info : nullptr, functions.closePackageInfo};
+}
+
+/// The text that a system function reports; it may lie in the caller's buffer.
+std::u16string copied(const char16_t* text) {
+    return text == nullptr ? std::u16string() : std::u16string(text);
+}
+
+/// The buffer begins with pointers to the IDs, which follow them.
+std::u16string firstId(const std::vector<uchar>& buffer) {
+    const char16_t* id = nullptr;
+    if (buffer.size() >= sizeof id) {
+        std::memcpy(&id, buffer.data(), sizeof id);
+    }
+    return copied(id);
+}
+
+} // namespace
+
+std::u16string packageFullNameOf(const std::u16string& family, const PackageFunctions& functions) {
+    if (functions.getPackagesByPackageFamily == nullptr) {
+        return {};
+    }
+    quint32 count = 0;
+    quint32 length = 0;
+    const qint32 sizing = functions.getPackagesByPackageFamily(family.c_str(), &count, nullptr, &length, nullptr);
+    if (sizing != PackageFunctions::errorInsufficientBuffer || count == 0) {
+        return {};
+    }
+
+    std::vector<char16_t*> names(count, nullptr);
+    std::vector<char16_t> buffer(std::size_t{length} + 1, u'\0');
+    const qint32 result =
+        functions.getPackagesByPackageFamily(family.c_str(), &count, names.data(), &length, buffer.data());
+    if (result != PackageFunctions::errorSuccess || count == 0) {
+        return {};
+    }
+    buffer[std::min(std::size_t{length}, buffer.size() - 1)] = u'\0';
+    return copied(names.front());
+}
+
+std::u16string applicationIdOf(const std::u16string& fullName, const PackageFunctions& functions) {
+    if (fullName.empty() || functions.openPackageInfoByFullName == nullptr || functions.closePackageInfo == nullptr ||
+        functions.getPackageApplicationIds == nullptr) {
+        return {};
+    }
+    const OpenPackage package = open(fullName, functions);
+    if (!package) {
+        return {};
+    }
+    quint32 length = 0;
+    quint32 count = 0;
+    const qint32 sizing = functions.getPackageApplicationIds(package.get(), &length, nullptr, &count);
+    if (sizing != PackageFunctions::errorInsufficientBuffer || length == 0) {
+        return {};
+    }
+
+    std::vector<uchar> buffer(length);
+    const qint32 result = functions.getPackageApplicationIds(package.get(), &length, buffer.data(), &count);
+    return result == PackageFunctions::errorSuccess && count > 0 ? firstId(buffer) : std::u16string();
+}

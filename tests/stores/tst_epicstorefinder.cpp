@@ -1,0 +1,158 @@
+#include "stores/EpicStoreFinder.h"
+
+#include "core/GameLocation.h"
+#include "stores/EpicManifestIndex.h"
+#include "support/Logger.h"
+
+#include "common/AtOnce.h"
+#include "common/EpicLauncher.h"
+#include "common/PluginUnderTest.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "core/Locations.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr int equals = 0;
+constexpr int contains = 1;
+
+class EpicStoreFinderTest : public ::testing::Test {
+protected:
+    bool find(const QString& name, const QStringList& executables, int matchMode) {
+        return Finders::EpicStoreFinder(&logger, &index, name, executables, matchMode).find(location);
+    }
+
+    TestPc pc;
+    Logger logger = Logger::create("Test");
+    EpicManifestIndex index;
+    GameLocation location = usedLocation();
+};
+
+TEST_F(EpicStoreFinderTest, FindsEveryExecutableAndStartsTheGameThroughTheLauncher) {
+    pc.file("D:\\Epic\\Kiwi\\Bin\\Kiwi.exe");
+    pc.file("D:\\Epic\\Kiwi\\Server.exe");
+    addEpicApp(pc, "1.item", {"KiwiApp", "Kiwi Racer", "D:\\Epic\\Kiwi", "0a1b", "c2d3"});
+    EXPECT_TRUE(find("kiwi racer", {"Bin\\Kiwi.exe", "gone.exe", "Server.exe"}, equals));
+    EXPECT_EQ(location, (GameLocation{
+                            "com.epicgames.launcher://apps/0a1b%3Ac2d3%3AKiwiApp?action=launch&silent=true",
+                            "D:\\Epic\\Kiwi\\Bin\\Kiwi.exe",
+                            {"D:\\Epic\\Kiwi\\Bin\\Kiwi.exe", "D:\\Epic\\Kiwi\\Server.exe"},
+                            "D:\\Epic\\Kiwi",
+                            false}));
+    EXPECT_THAT(pc.messages("Test"),
+                ElementsAre("A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Bin\\Kiwi.exe",
+                            "A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Server.exe"));
+}
+
+TEST_F(EpicStoreFinderTest, AnEmptyNameIsNotSearched) {
+    addEpicApp(pc, "1.item", {"Kiwi", "", "D:\\Kiwi"});
+    pc.file("D:\\Kiwi\\a.exe");
+    EXPECT_FALSE(find("", {"a.exe"}, equals));
+    EXPECT_FALSE(find("", {"a.exe"}, contains));
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(pc.log("Quorvan.Finders.EpicStore"), "") << "the index is not built";
+}
+
+TEST_F(EpicStoreFinderTest, LeavesTheRecordAloneWhenNoAppHasTheName) {
+    EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals)) << "an empty index";
+    EXPECT_EQ(location, usedLocation());
+}
+
+TEST_F(EpicStoreFinderTest, TheMatchModeSaysHowTheNameMustFit) {
+    pc.file("D:\\W\\w.exe");
+    addEpicApp(pc, "1.item", {"W", "Warhammer", "D:\\W"});
+    EXPECT_FALSE(find("war", {"w.exe"}, equals));
+    EXPECT_FALSE(find("war", {"w.exe"}, 2));
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_TRUE(find("war", {"w.exe"}, contains));
+    EXPECT_TRUE(find("WARHAMMER", {"w.exe"}, equals));
+    EXPECT_TRUE(find("WARHAMMER", {"w.exe"}, 2));
+    EXPECT_FALSE(find("Warhammer 2", {"w.exe"}, contains));
+}
+
+TEST_F(EpicStoreFinderTest, AnAppWithoutAPlaceLeavesTheRecordAlone) {
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", ""});
+    EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals));
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+}
+
+TEST_F(EpicStoreFinderTest, TheFirstAppWithAnExecutableWins) {
+    pc.file("D:\\2\\a.exe");
+    pc.file("D:\\3\\a.exe");
+    addEpicApp(pc, "1.item", {"1", "Kiwi", "D:\\1"});
+    addEpicApp(pc, "2.item", {"2", "KIWI", "D:\\2"});
+    addEpicApp(pc, "3.item", {"3", "Kiwi", "D:\\3"});
+    EXPECT_TRUE(find("Kiwi", {"a.exe"}, equals));
+    EXPECT_EQ(location.launchCommand, "com.epicgames.launcher://apps/space%3Aitem%3A2?action=launch&silent=true");
+    EXPECT_EQ(location.installFolder, "D:\\2");
+    EXPECT_THAT(location.executablePaths, ElementsAre("D:\\2\\a.exe"));
+    EXPECT_THAT(pc.messages("Test"),
+                ElementsAre("A: EpicStore: Not found D:\\1", "A: EpicStore: Found D:\\2: D:\\2\\a.exe"));
+}
+
+TEST_F(EpicStoreFinderTest, AFailedSearchKeepsTheLastPlace) {
+    addEpicApp(pc, "1.item", {"1", "Kiwi", "D:\\1"});
+    addEpicApp(pc, "2.item", {"2", "Kiwi", "D:/2\\"});
+    addEpicApp(pc, "3.item", {"3", "Kiwi", ""});
+    EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals));
+    EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/2\\", false}));
+    EXPECT_THAT(pc.messages("Test"),
+                ElementsAre("A: EpicStore: Not found D:\\1", "A: EpicStore: Not found D:/2\\"));
+}
+
+TEST_F(EpicStoreFinderTest, WithoutExecutablesNothingIsFound) {
+    pc.file("D:\\1\\a.exe");
+    addEpicApp(pc, "1.item", {"1", "Kiwi", "D:\\1"});
+    addEpicApp(pc, "2.item", {"2", "Kiwi", "D:\\1"});
+    EXPECT_FALSE(find("Kiwi", {}, equals));
+    EXPECT_THAT(pc.messages("Test"),
+                ElementsAre("A: EpicStore: Not found D:\\1", "A: EpicStore: Not found D:\\1"));
+}
+
+TEST_F(EpicStoreFinderTest, TheUrlIsPutTogetherAsItStands) {
+    pc.file("D:\\Kiwi\\a.exe");
+    addEpicApp(pc, "1.item", {"", "Kiwi", "D:\\Kiwi", "a b&c", "%41/ü"});
+    EXPECT_TRUE(find("Kiwi", {"a.exe"}, equals));
+    EXPECT_EQ(location.launchCommand,
+              "com.epicgames.launcher://apps/a b&c%3A%41/ü%3A?action=launch&silent=true");
+}
+
+TEST_F(EpicStoreFinderTest, OneSeparatorIsAlwaysAdded) {
+    pc.file("D:\\Epic\\Kiwi\\a.exe");
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:/Epic/Kiwi/"});
+    EXPECT_TRUE(find("Kiwi", {"a.exe"}, equals));
+    EXPECT_EQ(location.executablePath, "D:/Epic/Kiwi/\\a.exe");
+    EXPECT_EQ(location.installFolder, "D:/Epic/Kiwi/");
+}
+
+TEST_F(EpicStoreFinderTest, TheFactoryMakesItAndKeepsOneIndexForAll) {
+    pc.file("D:\\Kiwi\\a.exe");
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi Racer", "D:\\Kiwi"});
+    const PluginUnderTest plugin;
+    const auto factory = plugin.create();
+    std::vector<std::unique_ptr<IGameFinder>> finders;
+    for (int i = 0; i < 16; ++i) {
+        finders.push_back(factory->createEpicStoreFinder("kiwi", {"a.exe"}, equals));
+    }
+    std::atomic<std::size_t> next{0};
+    callAtOnce([&] {
+        GameLocation own;
+        EXPECT_FALSE(finders[next++]->find(own));
+    });
+    addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Kiwi"});
+    EXPECT_FALSE(factory->createEpicStoreFinder("Plum", {"a.exe"}, equals)->find(location)) << "installed later";
+    EXPECT_TRUE(factory->createEpicStoreFinder("kiwi", {"a.exe"}, contains)->find(location));
+    EXPECT_EQ(location.launchCommand, "com.epicgames.launcher://apps/space%3Aitem%3AKiwi?action=launch&silent=true");
+    EXPECT_EQ(location.executablePath, "D:\\Kiwi\\a.exe");
+    EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: EpicStore: Found D:\\Kiwi: D:\\Kiwi\\a.exe"));
+    EXPECT_EQ(pc.log("Quorvan.Finders.EpicStore").count("LOG CREATED"), 1);
+}
+
+} // namespace

@@ -1,0 +1,179 @@
+#include "stores/OculusStoreFinder.h"
+
+#include "core/GameLocation.h"
+#include "stores/OculusLibraryIndex.h"
+#include "support/Logger.h"
+
+#include "common/AtOnce.h"
+#include "common/OculusStore.h"
+#include "common/PluginUnderTest.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "core/Locations.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class OculusStoreFinderTest : public ::testing::Test {
+protected:
+    /// A library that names the app "kite".
+    void addLibrary(const QString& key, const QString& folder) {
+        makeOculusFolders(pc, folder);
+        addOculusLibrary(pc, key, folder);
+        pc.file(folder + "\\Manifests\\kite.json.mini");
+    }
+
+    bool find(const QString& appId, const QStringList& executables, const QString& softwareFolder) {
+        return Finders::OculusStoreFinder(&logger, &index, appId, executables, softwareFolder).find(location);
+    }
+
+    TestPc pc;
+    Logger logger = Logger::create("Test");
+    OculusLibraryIndex index;
+    GameLocation location = usedLocation();
+};
+
+TEST_F(OculusStoreFinderTest, FindsEveryExecutableInTheGamesFolder) {
+    addLibrary("{1}", "D:\\Oculus Apps");
+    pc.file("D:\\Oculus Apps\\Software\\some-game\\Game.exe");
+    pc.file("D:\\Oculus Apps\\Software\\some-game\\bin\\Server.exe");
+    EXPECT_TRUE(find("kite", {"Game.exe", "gone.exe", "bin\\Server.exe"}, "some-game"));
+    EXPECT_EQ(location, (GameLocation{"D:/Oculus Apps/Software/some-game\\Game.exe",
+                                      "D:/Oculus Apps/Software/some-game\\Game.exe",
+                                      {"D:/Oculus Apps/Software/some-game\\Game.exe",
+                                       "D:/Oculus Apps/Software/some-game\\bin\\Server.exe"},
+                                      "D:/Oculus Apps/Software/some-game",
+                                      false}));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: OculusStore: D:/Oculus Apps/Software/some-game\\Game.exe",
+                                                 "A: OculusStore: D:/Oculus Apps/Software/some-game\\Game.exe"))
+        << "the second hit tells the first one's path again";
+}
+
+TEST_F(OculusStoreFinderTest, FindsAGameInALibraryOnAVolumePath) {
+    makeOculusFolders(pc, "E:\\Apps");
+    addOculusLibrary(pc, "{1}", pc.volume('E').toUpper() + "Apps");
+    pc.file("E:\\Apps\\Manifests\\kite.json.mini");
+    pc.file("E:\\Apps\\Software\\kite\\k.exe");
+    EXPECT_TRUE(find("kite", {"k.exe"}, "kite"));
+    EXPECT_EQ(location.launchCommand, "E:/Apps/Software/kite\\k.exe");
+}
+
+TEST_F(OculusStoreFinderTest, AnEmptySoftwareFolderIsNotSearched) {
+    addLibrary("{1}", "D:\\Apps");
+    pc.file("D:\\Apps\\Software\\k.exe");
+    EXPECT_FALSE(find("kite", {"k.exe"}, ""));
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(pc.log("Quorvan.Finders.OculusStore"), "") << "the index is not built";
+}
+
+TEST_F(OculusStoreFinderTest, LeavesTheRecordAloneWhenNoLibraryHasTheApp) {
+    EXPECT_FALSE(find("kite", {"k.exe"}, "kite")) << "no library";
+    EXPECT_EQ(location, usedLocation());
+
+    addLibrary("{1}", "D:\\Apps");
+    pc.file("D:\\Apps\\Software\\kite\\k.exe");
+    OculusLibraryIndex built;
+    for (const char* appId : {"other", "KITE", "kit", ""}) {
+        EXPECT_FALSE(Finders::OculusStoreFinder(&logger, &built, appId, {"k.exe"}, "kite").find(location)) << appId;
+        EXPECT_EQ(location, usedLocation()) << appId;
+    }
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+}
+
+TEST_F(OculusStoreFinderTest, AMissingGameFolderLeavesThePartOfTheWayThatExists) {
+    addLibrary("{1}", "D:\\Apps");
+    EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
+    EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/Apps/Software", false}));
+    EXPECT_THAT(pc.messages("Test"), IsEmpty());
+}
+
+TEST_F(OculusStoreFinderTest, AFileIsNoGameFolder) {
+    addLibrary("{1}", "D:\\Apps");
+    pc.file("D:\\Apps\\Software\\kite");
+    EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
+    EXPECT_EQ(location.installFolder, "D:/Apps/Software");
+}
+
+TEST_F(OculusStoreFinderTest, AFileNamedSoftwareEndsTheWayInTheLibrary) {
+    pc.folder("D:\\Apps\\Manifests");
+    pc.file("D:\\Apps\\Software");
+    addOculusLibrary(pc, "{1}", "D:\\Apps");
+    pc.file("D:\\Apps\\Manifests\\kite.json.mini");
+    EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
+    EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/Apps", false}));
+}
+
+TEST_F(OculusStoreFinderTest, ResetsTheRecordWhenNoExecutableExists) {
+    addLibrary("{1}", "D:\\Apps");
+    pc.folder("D:\\Apps\\Software\\kite");
+    for (const QStringList& executables : {QStringList{"gone.exe"}, QStringList{"", ""}, QStringList{}}) {
+        location = usedLocation();
+        EXPECT_FALSE(find("kite", executables, "kite"));
+        EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/Apps/Software/kite", false}));
+    }
+}
+
+TEST_F(OculusStoreFinderTest, EmptyNamesArePassedOver) {
+    addLibrary("{1}", "D:\\Apps");
+    pc.file("D:\\Apps\\Software\\kite\\k.exe");
+    EXPECT_TRUE(find("kite", {"", "k.exe", ""}, "kite"));
+    EXPECT_THAT(location.executablePaths, ElementsAre("D:/Apps/Software/kite\\k.exe"));
+}
+
+TEST_F(OculusStoreFinderTest, TheFirstLibraryWithAnExecutableWins) {
+    addLibrary("{1}", "C:\\1");
+    addLibrary("{2}", "D:\\2");
+    addLibrary("{3}", "D:\\3");
+    addLibrary("{4}", "D:\\4");
+    pc.folder("D:\\2\\Software\\kite");
+    pc.file("D:\\3\\Software\\kite\\k.exe");
+    pc.file("D:\\4\\Software\\kite\\k.exe");
+    EXPECT_TRUE(find("kite", {"k.exe"}, "kite"));
+    EXPECT_EQ(location.installFolder, "D:/3/Software/kite");
+    EXPECT_THAT(location.executablePaths, ElementsAre("D:/3/Software/kite\\k.exe"));
+}
+
+TEST_F(OculusStoreFinderTest, AFailedSearchKeepsTheLastFolder) {
+    addLibrary("{1}", "C:\\1");
+    addLibrary("{2}", "D:\\2");
+    pc.folder("C:\\1\\Software\\kite");
+    EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
+    EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/2/Software", false}));
+}
+
+TEST_F(OculusStoreFinderTest, TheSoftwareFolderMayBeAPath) {
+    addLibrary("{1}", "D:\\Apps");
+    pc.file("D:\\Apps\\Software\\studio\\kite\\k.exe");
+    pc.file("D:\\Apps\\Extra\\k.exe");
+    EXPECT_TRUE(find("kite", {"k.exe"}, "studio/kite"));
+    EXPECT_EQ(location.installFolder, "D:/Apps/Software/studio/kite");
+    EXPECT_TRUE(find("kite", {"k.exe"}, "..\\Extra"));
+    EXPECT_EQ(location.installFolder, "D:/Apps/Extra");
+}
+
+TEST_F(OculusStoreFinderTest, TheFactoryMakesItAndKeepsOneIndexForAll) {
+    addLibrary("{1}", "D:\\Apps");
+    pc.file("D:\\Apps\\Software\\kite\\k.exe");
+    const PluginUnderTest plugin;
+    const auto factory = plugin.create();
+    std::vector<std::unique_ptr<IGameFinder>> finders;
+    for (int i = 0; i < 16; ++i) {
+        finders.push_back(factory->createOculusStoreFinder("other", {"k.exe"}, "kite"));
+    }
+    std::atomic<std::size_t> next{0};
+    callAtOnce([&] {
+        GameLocation own;
+        EXPECT_FALSE(finders[next++]->find(own));
+    });
+    EXPECT_TRUE(factory->createOculusStoreFinder("kite", {"k.exe"}, "kite")->find(location));
+    EXPECT_EQ(location.installFolder, "D:/Apps/Software/kite");
+    EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: OculusStore: D:/Apps/Software/kite\\k.exe"));
+    EXPECT_EQ(pc.log("Quorvan.Finders.OculusStore").count("LOG CREATED"), 1);
+}
+
+} // namespace
