@@ -6,6 +6,6 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
     Recorded::RecordedRegistry registry;
-    registry.import(Recorded::parseRegFile(bytes, QStringLiteral("fuzz.reg")).keys);
+    registry.apply(Recorded::parseRegFile(bytes, QStringLiteral("fuzz.reg")).keys);
     return 0;
 }

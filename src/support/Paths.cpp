@@ -22,6 +22,10 @@ QString withSlashes(QString path) {
     return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
 }
 
+QString withBackslashes(QString path) {
+    return path.replace(QLatin1Char('/'), QLatin1Char('\\'));
+}
+
 } // namespace
 
 QChar separatorFor(const QString& path) {
@@ -29,12 +33,7 @@ QChar separatorFor(const QString& path) {
 }
 
 QString toNative(const QString& path) {
-    if (!isWindowsPath(path)) {
-        return QDir::toNativeSeparators(path);
-    }
-    QString native = path;
-    native.replace(QLatin1Char('/'), QLatin1Char('\\'));
-    return native;
+    return isWindowsPath(path) ? withBackslashes(path) : QDir::toNativeSeparators(path);
 }
 
 QString join(const QString& folder, const QString& name) {
@@ -42,7 +41,12 @@ QString join(const QString& folder, const QString& name) {
 }
 
 QString cleaned(const QString& path) {
-    return toNative(QDir::cleanPath(withSlashes(path)));
+    if (!isWindowsPath(path)) {
+        return toNative(QDir::cleanPath(withSlashes(path)));
+    }
+    // Without the drive, or the first of two separators, it is a path that Qt knows everywhere.
+    const int start = path.at(1) == QLatin1Char(':') ? 2 : 1;
+    return path.left(start) + withBackslashes(QDir::cleanPath(withSlashes(path.mid(start))));
 }
 
 QString absoluteFolderOf(const QString& path) {

@@ -32,11 +32,10 @@ TEST(ShortcutWalkTest, TakesTheFolderInEitherSpelling) {
 
 TEST(ShortcutWalkTest, TheExtensionIsInLowerCase) {
     TestPc pc;
-    for (const char* name : {"a.lnk", "b.LNK", "c.Lnk", "d.lnkx", "e.lnk.txt", "f.url", "lnk", "g.old.lnk", ".lnk"}) {
+    for (const char* name : {"a.lnk", "b.LNK", "c.Lnk", "d.lnkx", "e.lnk.txt", "f.url", "lnk", "g.old.lnk"}) {
         pc.file(QString("C:\\Menu\\") + name);
     }
-    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs),
-                ElementsAre("C:\\Menu\\.lnk", "C:\\Menu\\a.lnk", "C:\\Menu\\g.old.lnk"));
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\a.lnk", "C:\\Menu\\g.old.lnk"));
 }
 
 TEST(ShortcutWalkTest, TakesShortcutsWithoutLookingAtTheirTargets) {
@@ -86,6 +85,12 @@ TEST(ShortcutWalkTest, NamesOutsideTheCodePageStayWhole) {
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre(folder + name));
 }
 
+TEST(ShortcutWalkTest, APathLosesTheSpaceAtItsEnd) {
+    TestPc pc;
+    pc.file(u8"C:\\Menu\\a.lnk\u00A0");
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\a.lnk"));
+}
+
 TEST(ShortcutWalkTest, WalksDeepFolders) {
     TestPc pc;
     QString folder = "C:\\Menu";
@@ -94,6 +99,27 @@ TEST(ShortcutWalkTest, WalksDeepFolders) {
     }
     pc.file(folder + "\\x.lnk");
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre(folder + "\\x.lnk"));
+}
+
+TEST(ShortcutWalkTest, FollowsLinksThatLeadElsewhere) {
+    TestPc pc;
+    pc.file("D:\\Elsewhere\\a.lnk");
+    pc.link("C:\\Menu\\Linked", "D:\\Elsewhere");
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\Linked\\a.lnk"));
+}
+
+TEST(ShortcutWalkTest, TurnsBackAtLinksToAFolderOnTheWay) {
+    TestPc pc;
+    pc.file("C:\\Menu\\A\\x.lnk");
+    pc.link("C:\\Menu\\A\\self", "C:\\Menu\\A");
+    pc.link("C:\\Menu\\A\\top", "C:\\Menu");
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\A\\x.lnk"));
+
+    pc.file("C:\\Menu\\B\\y.lnk");
+    pc.link("C:\\Menu\\A\\b", "C:\\Menu\\B");
+    pc.link("C:\\Menu\\B\\a", "C:\\Menu\\A");
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\A\\x.lnk", "C:\\Menu\\A\\b\\y.lnk",
+                                                                 "C:\\Menu\\B\\y.lnk", "C:\\Menu\\B\\a\\x.lnk"));
 }
 
 TEST(ShortcutWalkTest, AMissingFolderHasNone) {

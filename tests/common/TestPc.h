@@ -35,6 +35,7 @@ public:
     void file(const QString& path, const QByteArray& contents = {});
     void folder(const QString& path);
     void shortcut(const QString& path, const QString& target);
+    void link(const QString& path, const QString& folder); ///< a junction or link to a folder
     void removeFile(const QString& path);
     void hide(const QString& path);       ///< gives a file or folder the attribute "hidden"
     void makeSystem(const QString& path); ///< the attribute "system"

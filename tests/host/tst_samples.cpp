@@ -42,6 +42,26 @@ TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
     EXPECT_EQ(folders.value("Nordlicht Tactics", "not asked"), "");
 }
 
+TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const FindRun run = runSamples(program, {"--json"});
+    const QMap<QString, QString> folders = foldersOf(run);
+    EXPECT_EQ(folders.value("Fjordflug VR"), "C:\\Program Files (x86)\\Steam\\steamapps\\common\\Fjordflug VR");
+    EXPECT_EQ(folders.value("Orbitkurier"), "D:/SteamLibrary/steamapps/common/Orbitkurier");
+    EXPECT_EQ(folders.value("Tiefseelicht", "not asked"), "") << "its library is gone";
+    EXPECT_EQ(folders.value("Kartonrakete"), "C:\\Users\\Jördis\\AppData\\Local\\Programs\\Kartonrakete");
+    EXPECT_EQ(folders.value("Marmor & Messing"), "C:\\Program Files (x86)\\Marmor & Messing");
+    EXPECT_EQ(folders.value("Sturmvogel 2"), "D:/Spiele/Sturmvogel 2");
+    EXPECT_EQ(folders.value("Wörterlabyrinth"), "C:/Games/Wörterlabyrinth");
+    EXPECT_EQ(folders.value("競走クラブ"), "D:/Spiele/競走クラブ");
+    const QJsonObject runtimes = QJsonDocument::fromJson(run.output.toUtf8()).object()["runtimes"].toObject();
+    EXPECT_EQ(runtimes["steamExecutablePath"].toString(), "C:\\Program Files (x86)\\Steam\\steam.exe");
+    EXPECT_EQ(runtimes["steamVrFolder"].toString(), "C:\\Program Files (x86)\\Steam\\steamapps\\common\\SteamVR");
+}
+
 TEST(Samples, HaveAGameWithTwoExecutables) {
     if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
         GTEST_SKIP() << "no recordings here";

@@ -42,8 +42,8 @@ TEST_F(EpicManifestIndexTest, ListsTheAppsOfTheRegisteredFolder) {
     EXPECT_EQ(first.CatalogItemId, "id");
     EXPECT_EQ(first.LaunchExecutable, "game.exe");
     EXPECT_EQ(first.LaunchCommand, "-epic");
-    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine, "A:   App: Kiwi | Kiwi, the Game",
-                                                  "A:   App: Plum | Käfer 競走 %s"));
+    EXPECT_THAT(pc.messages(logName),
+                ElementsAre(folderLine, "A:   App: Kiwi | Kiwi, the Game", "A:   App: Plum | Käfer 競走 %s"));
 }
 
 TEST_F(EpicManifestIndexTest, TheRegisteredFolderIsUsedAsItStands) {
@@ -60,9 +60,8 @@ TEST_F(EpicManifestIndexTest, WithoutARegisteredFolderItIsBelowTheCommonData) {
     pc.folder("D:\\Common");
     pc.file("D:\\Common\\Epic\\EpicGamesLauncher\\Data\\Manifests\\1.item", manifestOf({"Kiwi", "Kiwi", "D:\\Kiwi"}));
     EXPECT_THAT(appNames(), ElementsAre("Kiwi"));
-    EXPECT_THAT(pc.messages(logName),
-                ElementsAre("A: MetaDir Folder: D:\\Common/Epic/EpicGamesLauncher/Data/Manifests",
-                            "A:   App: Kiwi | Kiwi"));
+    EXPECT_THAT(pc.messages(logName), ElementsAre("A: MetaDir Folder: D:\\Common/Epic/EpicGamesLauncher/Data/Manifests",
+                                                  "A:   App: Kiwi | Kiwi"));
 }
 
 TEST_F(EpicManifestIndexTest, AnEmptyRegisteredFolderCountsAsNone) {

@@ -39,15 +39,13 @@ TEST_F(EpicStoreFinderTest, FindsEveryExecutableAndStartsTheGameThroughTheLaunch
     pc.file("D:\\Epic\\Kiwi\\Server.exe");
     addEpicApp(pc, "1.item", {"KiwiApp", "Kiwi Racer", "D:\\Epic\\Kiwi", "0a1b", "c2d3"});
     EXPECT_TRUE(find("kiwi racer", {"Bin\\Kiwi.exe", "gone.exe", "Server.exe"}, equals));
-    EXPECT_EQ(location, (GameLocation{
-                            "com.epicgames.launcher://apps/0a1b%3Ac2d3%3AKiwiApp?action=launch&silent=true",
-                            "D:\\Epic\\Kiwi\\Bin\\Kiwi.exe",
-                            {"D:\\Epic\\Kiwi\\Bin\\Kiwi.exe", "D:\\Epic\\Kiwi\\Server.exe"},
-                            "D:\\Epic\\Kiwi",
-                            false}));
-    EXPECT_THAT(pc.messages("Test"),
-                ElementsAre("A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Bin\\Kiwi.exe",
-                            "A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Server.exe"));
+    EXPECT_EQ(location, (GameLocation{"com.epicgames.launcher://apps/0a1b%3Ac2d3%3AKiwiApp?action=launch&silent=true",
+                                      "D:\\Epic\\Kiwi\\Bin\\Kiwi.exe",
+                                      {"D:\\Epic\\Kiwi\\Bin\\Kiwi.exe", "D:\\Epic\\Kiwi\\Server.exe"},
+                                      "D:\\Epic\\Kiwi",
+                                      false}));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Bin\\Kiwi.exe",
+                                                 "A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Server.exe"));
 }
 
 TEST_F(EpicStoreFinderTest, AnEmptyNameIsNotSearched) {
@@ -103,8 +101,7 @@ TEST_F(EpicStoreFinderTest, AFailedSearchKeepsTheLastPlace) {
     addEpicApp(pc, "3.item", {"3", "Kiwi", ""});
     EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals));
     EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/2\\", false}));
-    EXPECT_THAT(pc.messages("Test"),
-                ElementsAre("A: EpicStore: Not found D:\\1", "A: EpicStore: Not found D:/2\\"));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: EpicStore: Not found D:\\1", "A: EpicStore: Not found D:/2\\"));
 }
 
 TEST_F(EpicStoreFinderTest, WithoutExecutablesNothingIsFound) {
@@ -112,16 +109,14 @@ TEST_F(EpicStoreFinderTest, WithoutExecutablesNothingIsFound) {
     addEpicApp(pc, "1.item", {"1", "Kiwi", "D:\\1"});
     addEpicApp(pc, "2.item", {"2", "Kiwi", "D:\\1"});
     EXPECT_FALSE(find("Kiwi", {}, equals));
-    EXPECT_THAT(pc.messages("Test"),
-                ElementsAre("A: EpicStore: Not found D:\\1", "A: EpicStore: Not found D:\\1"));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: EpicStore: Not found D:\\1", "A: EpicStore: Not found D:\\1"));
 }
 
 TEST_F(EpicStoreFinderTest, TheUrlIsPutTogetherAsItStands) {
     pc.file("D:\\Kiwi\\a.exe");
     addEpicApp(pc, "1.item", {"", "Kiwi", "D:\\Kiwi", "a b&c", "%41/ü"});
     EXPECT_TRUE(find("Kiwi", {"a.exe"}, equals));
-    EXPECT_EQ(location.launchCommand,
-              "com.epicgames.launcher://apps/a b&c%3A%41/ü%3A?action=launch&silent=true");
+    EXPECT_EQ(location.launchCommand, "com.epicgames.launcher://apps/a b&c%3A%41/ü%3A?action=launch&silent=true");
 }
 
 TEST_F(EpicStoreFinderTest, OneSeparatorIsAlwaysAdded) {

@@ -42,9 +42,8 @@ protected:
 TEST_F(OculusLibraryIndexTest, ListsTheAppsOfAllLibraries) {
     addLibrary("D:\\Oculus Apps", {"bolt-studio-kite.json.mini", "zed.json.mini"});
     addLibrary("C:\\Oculus", {"bolt-studio-kite.json.mini"});
-    EXPECT_THAT(entries(),
-                ElementsAre("bolt-studio-kite in D:/Oculus Apps/Manifests", "zed in D:/Oculus Apps/Manifests",
-                            "bolt-studio-kite in C:/Oculus/Manifests"));
+    EXPECT_THAT(entries(), ElementsAre("bolt-studio-kite in D:/Oculus Apps/Manifests",
+                                       "zed in D:/Oculus Apps/Manifests", "bolt-studio-kite in C:/Oculus/Manifests"));
     EXPECT_THAT(pc.messages(logName),
                 ElementsAre("A: Library Folder: D:/Oculus Apps/Manifests", "A:   App ID: bolt-studio-kite",
                             "A:   App ID: zed", "A: Library Folder: C:/Oculus/Manifests",
@@ -87,7 +86,7 @@ TEST_F(OculusLibraryIndexTest, EmptyLibrariesHaveNoAppId) {
 
 TEST_F(OculusLibraryIndexTest, FindsAppsByTheirExactId) {
     addLibrary("D:\\1", {"kite.json.mini", "kite2.json.mini"});
-    addLibrary("D:\\2", {"kite.json.mini", ".json.mini"});
+    addLibrary("D:\\2", {"kite.json.mini"});
     const auto found = [this](const QString& appId) {
         QStringList folders;
         for (const OculusAppEntry* entry : index.findByAppId(appId)) {
@@ -98,7 +97,7 @@ TEST_F(OculusLibraryIndexTest, FindsAppsByTheirExactId) {
     EXPECT_THAT(found("kite"), ElementsAre("D:/1/Manifests", "D:/2/Manifests"));
     EXPECT_THAT(found("Kite"), IsEmpty());
     EXPECT_THAT(found("kit"), IsEmpty());
-    EXPECT_THAT(found(""), ElementsAre("D:/2/Manifests"));
+    EXPECT_THAT(found(""), IsEmpty());
 }
 
 TEST_F(OculusLibraryIndexTest, IsBuiltOnceWhateverIsInstalledLater) {

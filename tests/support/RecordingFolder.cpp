@@ -5,11 +5,15 @@
 
 namespace {
 
-std::filesystem::path pathOf(const QByteArray& path) { return path.toStdString(); }
+std::filesystem::path pathOf(const QByteArray& path) {
+    return path.toStdString();
+}
 
 } // namespace
 
-RecordingFolder::RecordingFolder() { m_folder.setAutoRemove(false); }
+RecordingFolder::RecordingFolder() {
+    m_folder.setAutoRemove(false);
+}
 
 RecordingFolder::~RecordingFolder() {
     qunsetenv(Recording::environmentVariable);
@@ -24,7 +28,9 @@ void RecordingFolder::file(const QByteArray& below, const QByteArray& contents) 
     stream.write(contents.constData(), contents.size());
 }
 
-void RecordingFolder::folder(const QByteArray& below) { std::filesystem::create_directories(pathOf(path(below))); }
+void RecordingFolder::folder(const QByteArray& below) {
+    std::filesystem::create_directories(pathOf(path(below)));
+}
 
 void RecordingFolder::link(const QByteArray& below, const QByteArray& target) {
     std::filesystem::create_directories(pathOf(path(below)).parent_path());

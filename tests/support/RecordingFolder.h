@@ -20,6 +20,7 @@ public:
 
     /// Adds to registry/test.reg, whose header it writes.
     void registry(const QByteArray& lines);
+
     void describe(const QByteArray& json) { file("pc.json", json); }
 
     /// Reads the recording as it is now.

@@ -66,7 +66,9 @@ TEST_F(PcDescriptionTest, DoesWithNothing) {
     EXPECT_EQ(pc.hostVersion, 0U);
 }
 
-TEST_F(PcDescriptionTest, KnowsAPcWithoutPackagesFromOneThatCannotHaveAny) { EXPECT_TRUE(read(R"({"packages": []})").packages); }
+TEST_F(PcDescriptionTest, KnowsAPcWithoutPackagesFromOneThatCannotHaveAny) {
+    EXPECT_TRUE(read(R"({"packages": []})").packages);
+}
 
 // One test for each way in which a description can be wrong.
 
@@ -96,17 +98,18 @@ TEST_F(PcDescriptionTest, ReportsUnknownNames) {
     const PcDescription pc = read("{\"games\": 1,\n\"host\": {\n\"name\": 1,\n\"version\": \"0.0.0.1\"},\n"
                                   "\"shellFolders\": {\"desktop\": \"C:\\\\x\"},\n"
                                   "\"packages\": [{\"family\": \"a\", \"fullName\": \"b\", \"id\": 1}]}");
-    EXPECT_THAT(problems, ::testing::UnorderedElementsAre(
-                              "1: games: nothing of this name is known", "3: host.name: nothing of this name is known",
-                              "5: shellFolders.desktop: nothing of this name is known",
-                              "6: packages[0].id: nothing of this name is known"));
+    EXPECT_THAT(problems, ::testing::UnorderedElementsAre("1: games: nothing of this name is known",
+                                                          "3: host.name: nothing of this name is known",
+                                                          "5: shellFolders.desktop: nothing of this name is known",
+                                                          "6: packages[0].id: nothing of this name is known"));
     EXPECT_EQ(pc.hostVersion, 1U);
     EXPECT_EQ(pc.packages->size(), 1U);
 }
 
 TEST_F(PcDescriptionTest, ReportsWrongTypes) {
-    const PcDescription pc = read("{\"environment\": {\n\"A\": 1,\n\"B\": \"2\"},\n\"volumes\": [],\n\"packages\": {},\n"
-                                  "\"hidden\": \"C:\\\\x\",\n\"system\": [\"C:\\\\y\", 5]}");
+    const PcDescription pc =
+        read("{\"environment\": {\n\"A\": 1,\n\"B\": \"2\"},\n\"volumes\": [],\n\"packages\": {},\n"
+             "\"hidden\": \"C:\\\\x\",\n\"system\": [\"C:\\\\y\", 5]}");
     EXPECT_THAT(problems, ::testing::UnorderedElementsAre(
                               "2: environment.A: a string is expected", "4: volumes: an object is expected",
                               "5: packages: an array is expected", "6: hidden: an array is expected",
@@ -116,8 +119,9 @@ TEST_F(PcDescriptionTest, ReportsWrongTypes) {
 }
 
 TEST_F(PcDescriptionTest, ReportsABadVolume) {
-    const PcDescription pc = read("{\"volumes\": {\n\"CD\": \"\\\\\\\\?\\\\Volume{1}\\\\\",\n\"E\": \"\\\\\\\\?\\\\Volume{1}\",\n"
-                                  "\"F\": \"\\\\\\\\?\\\\Volume{2}\\\\\"}}");
+    const PcDescription pc =
+        read("{\"volumes\": {\n\"CD\": \"\\\\\\\\?\\\\Volume{1}\\\\\",\n\"E\": \"\\\\\\\\?\\\\Volume{1}\",\n"
+             "\"F\": \"\\\\\\\\?\\\\Volume{2}\\\\\"}}");
     EXPECT_THAT(problems, ElementsAre("2: volumes.CD: a drive letter is expected",
                                       "3: volumes.E: “\\\\?\\Volume{…}\\” is expected"));
     EXPECT_EQ(pc.volumes.size(), 1);
@@ -131,7 +135,8 @@ TEST_F(PcDescriptionTest, ReportsABadVersion) {
 }
 
 TEST_F(PcDescriptionTest, ReportsAPackageWithoutItsNames) {
-    const PcDescription pc = read("{\"packages\": [\n{\"family\": \"a\"}, 5, {\"family\": \"a\", \"fullName\": \"b\"}]}");
+    const PcDescription pc =
+        read("{\"packages\": [\n{\"family\": \"a\"}, 5, {\"family\": \"a\", \"fullName\": \"b\"}]}");
     EXPECT_THAT(problems, ElementsAre("2: packages[0]: a “family” and a “fullName” are expected",
                                       "2: packages[1]: an object is expected"));
     EXPECT_EQ(pc.packages->size(), 1U);

@@ -1,6 +1,5 @@
-#include "common/QtPrinters.h"
-#include "support/Platform.h"
 #include "support/RecordingFolder.h"
+#include "support/RegistryQuestions.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,54 +8,14 @@
 
 namespace {
 
+using namespace RegistryQuestions;
 using Platform::ErrorCode;
 using Platform::KeyHandle;
 using Platform::RootKey;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr quint32 view64 = Platform::keyRead | Platform::keyWow64_64Key;
-constexpr quint32 view32 = Platform::keyRead | Platform::keyWow64_32Key;
-
 constexpr ErrorCode errorBadPathName = 161;
-
-ErrorCode open(RootKey root, const QString& path, quint32 access = view64) {
-    KeyHandle key;
-    const ErrorCode result = Platform::openKey(root, path, access, key);
-    EXPECT_EQ(static_cast<bool>(key), result == Platform::errorSuccess);
-    return result;
-}
-
-/// A text of up to 99 characters, or "error N".
-QString text(RootKey root, const QString& path, const QString& name, quint32 access = view64) {
-    KeyHandle key;
-    ErrorCode result = Platform::openKey(root, path, access, key);
-    std::array<char16_t, 100> buffer{};
-    quint32 type = 0;
-    quint32 size = sizeof buffer;
-    if (result == Platform::errorSuccess) {
-        result = Platform::queryValue(key, name, type, buffer.data(), size);
-    }
-    return result == Platform::errorSuccess ? QString::fromUtf16(buffer.data()) : QString("error %1").arg(result);
-}
-
-std::vector<QString> subKeys(RootKey root, const QString& path, quint32 access = view64) {
-    std::vector<QString> names;
-    KeyHandle key;
-    if (Platform::openKey(root, path, access, key) != Platform::errorSuccess) {
-        return {"(none)"};
-    }
-    for (quint32 index = 0;; ++index) {
-        std::array<char16_t, 256> name{};
-        auto length = static_cast<quint32>(name.size());
-        const ErrorCode result = Platform::enumKey(key, index, name.data(), length);
-        if (result == Platform::errorNoMoreItems) {
-            return names;
-        }
-        EXPECT_EQ(result, Platform::errorSuccess);
-        names.push_back(QString::fromUtf16(name.data(), static_cast<int>(length)));
-    }
-}
 
 class RecordedRegistryTest : public ::testing::Test {
 protected:
@@ -107,9 +66,10 @@ TEST_F(RecordedRegistryTest, ListsSubKeysSortedAndAsTheyAreSpelled) {
 }
 
 TEST_F(RecordedRegistryTest, LaterLinesWinAndDeletionsDelete) {
-    record("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n\"b\"=\"1\"\r\n\"c\"=\"1\"\r\n[HKEY_CURRENT_USER\\A\\B]\r\n"
-           "[HKEY_CURRENT_USER\\C\\D]\r\n[HKEY_CURRENT_USER\\a]\r\n\"A\"=\"2\"\r\n\"B\"=-\r\n[-HKEY_CURRENT_USER\\C]\r\n"
-           "[-HKEY_CURRENT_USER\\none\\at all]\r\n");
+    record(
+        "[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n\"b\"=\"1\"\r\n\"c\"=\"1\"\r\n[HKEY_CURRENT_USER\\A\\B]\r\n"
+        "[HKEY_CURRENT_USER\\C\\D]\r\n[HKEY_CURRENT_USER\\a]\r\n\"A\"=\"2\"\r\n\"B\"=-\r\n[-HKEY_CURRENT_USER\\C]\r\n"
+        "[-HKEY_CURRENT_USER\\none\\at all]\r\n");
     EXPECT_EQ(text(RootKey::CurrentUser, "A", "a"), "2");
     EXPECT_EQ(text(RootKey::CurrentUser, "A", "b"), "error 2");
     EXPECT_EQ(text(RootKey::CurrentUser, "A", "c"), "1");
@@ -137,8 +97,10 @@ TEST_F(RecordedRegistryTest, OpensARootByAnEmptyName) {
 }
 
 TEST_F(RecordedRegistryTest, TakesBackslashesAsWindowsDoes) {
-    record("[HKEY_CURRENT_USER\\A\\B]\r\n");
+    record("[HKEY_CURRENT_USER\\A\\B]\r\n[HKEY_CLASSES_ROOT\\A]\r\n");
     EXPECT_EQ(open(RootKey::CurrentUser, "A\\B\\"), Platform::errorSuccess);
+    EXPECT_EQ(open(RootKey::CurrentUser, "A\\\\B"), Platform::errorSuccess);
+    EXPECT_EQ(open(RootKey::ClassesRoot, "\\A"), Platform::errorSuccess);
     EXPECT_EQ(open(RootKey::CurrentUser, "\\A\\B"), errorBadPathName);
     EXPECT_EQ(open(RootKey::CurrentUser, "A/B"), Platform::errorFileNotFound);
 }
@@ -165,86 +127,6 @@ TEST_F(RecordedRegistryTest, KeepsAnOpenKeyWhenAnotherPcIsChosen) {
     size = sizeof number;
     EXPECT_EQ(Platform::queryValue(key, "a", type, &number, size), Platform::errorSuccess);
     EXPECT_EQ(number, 7U);
-}
-
-// Views
-
-TEST_F(RecordedRegistryTest, SeparatesTheViewsOfTheMachinesSoftware) {
-    record("[HKEY_LOCAL_MACHINE\\Software\\X]\r\n@=\"64\"\r\n[HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\X]\r\n@=\"32\"\r\n");
-    EXPECT_EQ(text(RootKey::LocalMachine, "SOFTWARE\\x", "", view64), "64");
-    EXPECT_EQ(text(RootKey::LocalMachine, "SOFTWARE\\x", "", view32), "32");
-    EXPECT_EQ(text(RootKey::LocalMachine, "SOFTWARE\\x", "", Platform::keyRead), "64");
-    EXPECT_EQ(text(RootKey::LocalMachine, "Software\\WOW6432NODE\\x", "", view64), "32");
-    EXPECT_EQ(text(RootKey::LocalMachine, "Software\\WOW6432NODE\\x", "", view32), "32");
-    EXPECT_THAT(subKeys(RootKey::LocalMachine, "Software", view64), ElementsAre("Wow6432Node", "X"));
-    EXPECT_THAT(subKeys(RootKey::LocalMachine, "Software", view32), ElementsAre("X"));
-}
-
-TEST_F(RecordedRegistryTest, DoesNotFallBackToTheOtherView) {
-    record("[HKEY_LOCAL_MACHINE\\Software\\only64]\r\n[HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\only32]\r\n");
-    EXPECT_EQ(open(RootKey::LocalMachine, "Software\\only64", view32), Platform::errorFileNotFound);
-    EXPECT_EQ(open(RootKey::LocalMachine, "Software\\only32", view64), Platform::errorFileNotFound);
-}
-
-TEST_F(RecordedRegistryTest, SharesWhatWindowsShares) {
-    record("[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\x.exe]\r\n"
-           "[HKEY_LOCAL_MACHINE\\Software\\Policies\\X]\r\n[HKEY_LOCAL_MACHINE\\System\\X]\r\n"
-           "[HKEY_LOCAL_MACHINE\\Software\\PoliciesX]\r\n");
-    for (const quint32 view : {view64, view32}) {
-        EXPECT_EQ(open(RootKey::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\X.EXE", view), 0U);
-        EXPECT_EQ(open(RootKey::LocalMachine, "Software\\policies\\X", view), 0U);
-        EXPECT_EQ(open(RootKey::LocalMachine, "System\\X", view), 0U);
-    }
-    EXPECT_EQ(open(RootKey::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion", view32),
-              Platform::errorFileNotFound);
-    EXPECT_EQ(open(RootKey::LocalMachine, "Software\\PoliciesX", view32), Platform::errorFileNotFound);
-}
-
-TEST_F(RecordedRegistryTest, FilesAnExportOfASharedKeyWhereItBelongs) {
-    record("[HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Policies\\X]\r\n@=\"1\"\r\n"
-           "[HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Classes\\CLSID\\Y]\r\n@=\"2\"\r\n");
-    EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Policies\\X", "", view64), "1");
-    EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Classes\\CLSID\\Y", "", view32), "2");
-    EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Classes\\CLSID\\Y", "", view64), "error 2");
-}
-
-TEST_F(RecordedRegistryTest, SharesTheUsersSoftware) {
-    record("[HKEY_CURRENT_USER\\Software\\X]\r\n@=\"1\"\r\n");
-    EXPECT_EQ(text(RootKey::CurrentUser, "Software\\X", "", view64), "1");
-    EXPECT_EQ(text(RootKey::CurrentUser, "Software\\X", "", view32), "1");
-}
-
-TEST_F(RecordedRegistryTest, SeparatesFewClassesOnly) {
-    record("[HKEY_CLASSES_ROOT\\x]\r\n@=\"both\"\r\n[HKEY_CLASSES_ROOT\\CLSID\\y]\r\n@=\"64\"\r\n"
-           "[HKEY_CLASSES_ROOT\\Wow6432Node\\CLSID\\y]\r\n@=\"32\"\r\n");
-    EXPECT_EQ(text(RootKey::ClassesRoot, "x", "", view64), "both");
-    EXPECT_EQ(text(RootKey::ClassesRoot, "x", "", view32), "both");
-    EXPECT_EQ(text(RootKey::ClassesRoot, "clsid\\y", "", view64), "64");
-    EXPECT_EQ(text(RootKey::ClassesRoot, "clsid\\y", "", view32), "32");
-    EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Classes\\CLSID\\y", "", view32), "32");
-    EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Classes\\x", "", view32), "both");
-}
-
-// HKEY_CLASSES_ROOT
-
-TEST_F(RecordedRegistryTest, MergesTheUsersClassesOverTheMachines) {
-    record("[HKEY_LOCAL_MACHINE\\Software\\Classes\\x]\r\n\"a\"=\"machine\"\r\n\"b\"=\"machine\"\r\n"
-           "[HKEY_LOCAL_MACHINE\\Software\\Classes\\x\\shell]\r\n[HKEY_LOCAL_MACHINE\\Software\\Classes\\x\\Open]\r\n"
-           "[HKEY_CURRENT_USER\\Software\\Classes\\x]\r\n\"a\"=\"user\"\r\n"
-           "[HKEY_CURRENT_USER\\Software\\Classes\\x\\open]\r\n[HKEY_CURRENT_USER\\Software\\Classes\\x\\ask]\r\n");
-    EXPECT_EQ(text(RootKey::ClassesRoot, "x", "a"), "user");
-    EXPECT_EQ(text(RootKey::ClassesRoot, "x", "b"), "machine");
-    EXPECT_THAT(subKeys(RootKey::ClassesRoot, "x"), ElementsAre("ask", "open", "shell"));
-    EXPECT_EQ(open(RootKey::ClassesRoot, "x\\shell"), Platform::errorSuccess);
-    EXPECT_EQ(open(RootKey::ClassesRoot, "x\\none"), Platform::errorFileNotFound);
-}
-
-TEST_F(RecordedRegistryTest, FilesClassesWhereWindowsDoes) {
-    record("[HKEY_CURRENT_USER\\Software\\Classes\\mine]\r\n[HKEY_CLASSES_ROOT\\mine]\r\n@=\"1\"\r\n"
-           "[HKEY_CLASSES_ROOT\\other]\r\n@=\"2\"\r\n");
-    EXPECT_EQ(text(RootKey::CurrentUser, "Software\\Classes\\mine", ""), "1");
-    EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Classes\\mine", ""), "error 2");
-    EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Classes\\other", ""), "2");
 }
 
 // Values

@@ -15,14 +15,22 @@ using ::testing::IsEmpty;
 
 const QByteArray header = "Windows Registry Editor Version 5.00\r\n";
 
-QByteArray utf16(const QString& text) { return {reinterpret_cast<const char*>(text.utf16()), text.size() * 2}; }
+QByteArray utf16(const QString& text) {
+    return {reinterpret_cast<const char*>(text.utf16()), text.size() * 2};
+}
 
-QByteArray stored(const QString& text) { return utf16(text) + QByteArray(2, '\0'); }
+QByteArray stored(const QString& text) {
+    return utf16(text) + QByteArray(2, '\0');
+}
 
-RegFile parse(const QByteArray& bytes) { return Recorded::parseRegFile(bytes, "test.reg"); }
+RegFile parse(const QByteArray& bytes) {
+    return Recorded::parseRegFile(bytes, "test.reg");
+}
 
 /// The file of a header and, from line 2 on, `lines`.
-RegFile read(const QByteArray& lines) { return parse(header + lines); }
+RegFile read(const QByteArray& lines) {
+    return parse(header + lines);
+}
 
 std::vector<QString> problems(const RegFile& file) {
     std::vector<QString> texts;
@@ -61,8 +69,9 @@ QString fault(const QByteArray& line) {
 }
 
 TEST(RegFileTest, ReadsKeysOfEveryRoot) {
-    const RegFile file = read("[HKEY_LOCAL_MACHINE\\SOFTWARE\\X]\r\n[HKEY_CURRENT_USER\\X]\r\n[HKEY_CLASSES_ROOT\\X]\r\n"
-                              "[HKEY_USERS\\X]\r\n[hkey_local_machine]\r\n");
+    const RegFile file =
+        read("[HKEY_LOCAL_MACHINE\\SOFTWARE\\X]\r\n[HKEY_CURRENT_USER\\X]\r\n[HKEY_CLASSES_ROOT\\X]\r\n"
+             "[HKEY_USERS\\X]\r\n[hkey_local_machine]\r\n");
     EXPECT_THAT(problems(file), IsEmpty());
     ASSERT_EQ(file.keys.size(), 5U);
     EXPECT_EQ(file.keys[0].root, RegKey::Root::LocalMachine);
@@ -80,9 +89,13 @@ TEST(RegFileTest, ReadsAString) {
     EXPECT_EQ(read.data, stored("C:\\Games\\\"X\""));
 }
 
-TEST(RegFileTest, ReadsANameWithEscapes) { EXPECT_EQ(value("\"C:\\\\a=\\\"b\\\"\"=\"1\"").name, "C:\\a=\"b\""); }
+TEST(RegFileTest, ReadsANameWithEscapes) {
+    EXPECT_EQ(value("\"C:\\\\a=\\\"b\\\"\"=\"1\"").name, "C:\\a=\"b\"");
+}
 
-TEST(RegFileTest, ReadsTheDefaultValue) { EXPECT_EQ(value("@=\"x\"").name, ""); }
+TEST(RegFileTest, ReadsTheDefaultValue) {
+    EXPECT_EQ(value("@=\"x\"").name, "");
+}
 
 TEST(RegFileTest, ReadsAStringOfSeveralLinesAsRegeditWritesIt) {
     EXPECT_EQ(value("\"a\"=\"one\r\n[two]\r\nthree\"\r\n").data, stored("one\r\n[two]\r\nthree"));
@@ -121,7 +134,8 @@ TEST(RegFileTest, ReadsDeletions) {
 }
 
 TEST(RegFileTest, SkipsCommentsAndBlankLines) {
-    const RegFile file = read("; one\r\n\r\n  ; two\r\n[HKEY_CURRENT_USER\\A] ; three\r\n  \"a\"=dword:1 ; four\r\n\t\r\n");
+    const RegFile file =
+        read("; one\r\n\r\n  ; two\r\n[HKEY_CURRENT_USER\\A] ; three\r\n  \"a\"=dword:1 ; four\r\n\t\r\n");
     EXPECT_THAT(problems(file), IsEmpty());
     EXPECT_THAT(names(file), ElementsAre("a"));
 }
@@ -140,7 +154,9 @@ TEST(RegFileTest, ReadsEveryEncodingAndLineEnd) {
     }
 }
 
-TEST(RegFileTest, ReadsAHeaderAlone) { EXPECT_THAT(problems(parse("Windows Registry Editor Version 5.00")), IsEmpty()); }
+TEST(RegFileTest, ReadsAHeaderAlone) {
+    EXPECT_THAT(problems(parse("Windows Registry Editor Version 5.00")), IsEmpty());
+}
 
 TEST(RegFileTest, IgnoresRootsThatNobodyAsksFor) {
     const RegFile file = read("[HKEY_CURRENT_CONFIG\\Software]\r\n\"a\"=\"1\"\r\n");
@@ -156,9 +172,10 @@ TEST(RegFileTest, ReportsAMissingHeader) {
     EXPECT_THAT(file.keys, IsEmpty()) << "regedit doesn't import it either";
 }
 
-TEST(RegFileTest, ReportsTheOldFormat) { EXPECT_EQ(parse("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n").problems.size(), 1U); }
-
-TEST(RegFileTest, ReportsAnEmptyFile) { EXPECT_EQ(parse("").problems.size(), 1U); }
+TEST(RegFileTest, ReportsTheOldFormatAndAnEmptyFile) {
+    EXPECT_EQ(parse("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n").problems.size(), 1U);
+    EXPECT_EQ(parse("").problems.size(), 1U);
+}
 
 TEST(RegFileTest, ReportsAStringThatIsNotClosed) {
     EXPECT_EQ(fault("\"a\"=\"open"), "3: the string is not closed");
@@ -166,7 +183,8 @@ TEST(RegFileTest, ReportsAStringThatIsNotClosed) {
 }
 
 TEST(RegFileTest, ReportsAStringThatIsNotClosedBeforeAKey) {
-    const RegFile file = read("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"open\r\nstill\r\n[HKEY_CURRENT_USER\\B]\r\n\"b\"=\"1\"\r\n");
+    const RegFile file =
+        read("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"open\r\nstill\r\n[HKEY_CURRENT_USER\\B]\r\n\"b\"=\"1\"\r\n");
     EXPECT_THAT(problems(file), ElementsAre("3: the string is not closed"));
     EXPECT_THAT(names(file), ElementsAre("b"));
 }
@@ -177,7 +195,9 @@ TEST(RegFileTest, ReportsAStringThatIsNotClosedAtTheEnd) {
     EXPECT_THAT(names(file), ElementsAre("a"));
 }
 
-TEST(RegFileTest, ReportsANameThatIsNotClosed) { EXPECT_EQ(fault("\"a=\\\"1\\\""), "3: the string is not closed"); }
+TEST(RegFileTest, ReportsANameThatIsNotClosed) {
+    EXPECT_EQ(fault("\"a=\\\"1\\\""), "3: the string is not closed");
+}
 
 TEST(RegFileTest, ReportsABackslashThatIsNotDoubled) {
     EXPECT_EQ(fault("\"a\"=\"C:\\Games\""), "3: a backslash in a string must be doubled");
@@ -194,14 +214,18 @@ TEST(RegFileTest, ReportsANameWithoutAValue) {
     EXPECT_EQ(fault("\"a\"=word"), "3: a string, “dword:”, “hex:”, “hex(…):” or “-” is expected");
 }
 
-TEST(RegFileTest, ReportsALineThatIsNothing) { EXPECT_EQ(fault("garbage"), "3: the line is neither a key nor a value"); }
+TEST(RegFileTest, ReportsALineThatIsNothing) {
+    EXPECT_EQ(fault("garbage"), "3: the line is neither a key nor a value");
+}
 
 TEST(RegFileTest, ReportsABadDword) {
     EXPECT_EQ(fault("\"a\"=dword:"), "3: 1 to 8 hexadecimal digits are expected");
     EXPECT_EQ(fault("\"a\"=dword:123456789"), "3: 1 to 8 hexadecimal digits are expected");
 }
 
-TEST(RegFileTest, ReportsABadType) { EXPECT_EQ(fault("\"a\"=hex(2:41"), "3: “):” is expected after the type"); }
+TEST(RegFileTest, ReportsABadType) {
+    EXPECT_EQ(fault("\"a\"=hex(2:41"), "3: “):” is expected after the type");
+}
 
 TEST(RegFileTest, ReportsBadBytesAtTheirLine) {
     EXPECT_EQ(fault("\"a\"=hex:01,xy"), "3: a byte in hexadecimal digits is expected");
@@ -256,7 +280,8 @@ TEST(RegFileTest, ReportsAFileThatIsCutInASurrogatePair) {
 }
 
 TEST(RegFileTest, ReadsAFileThatIsCutAnywhere) {
-    const QByteArray whole = header + "[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n[HKEY_CURRENT_USER\\B]\r\n@=hex(2):41,\\\r\n  00\r\n";
+    const QByteArray whole =
+        header + "[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n[HKEY_CURRENT_USER\\B]\r\n@=hex(2):41,\\\r\n  00\r\n";
     for (int size = 0; size < whole.size(); ++size) {
         const RegFile cut = parse(whole.left(size));
         EXPECT_LE(cut.problems.size(), 1U) << size;

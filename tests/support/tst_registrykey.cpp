@@ -97,6 +97,22 @@ TEST_F(RegistryKeyTest, ReadsTextThatLacksItsEnd) {
     }
 }
 
+TEST_F(RegistryKeyTest, ReadsPlainTextAlone) {
+    pc.value(testKey, "short", "Röhre");
+    pc.value(testKey, "long", QString(300, 'x'));
+    pc.value(testKey, "question mark", "?");
+    pc.number(testKey, "number", 42);
+    pc.value(testKey, "expand", regExpandSz, utf16("%ProgramFiles%\\X") + QByteArray(2, '\0'));
+    RegistryKey key = RegistryKey::open(path, Hive::localMachine, View::view64);
+    EXPECT_EQ(key.text("short"), "Röhre");
+    EXPECT_EQ(key.text("long"), QString(300, 'x'));
+    EXPECT_EQ(key.text("question mark"), "?");
+    EXPECT_EQ(key.text("number"), "");
+    EXPECT_EQ(key.text("expand"), "");
+    EXPECT_EQ(key.text("missing"), "");
+    EXPECT_EQ(RegistryKey::open(QString("Software\\No such key"), Hive::localMachine, View::view64).text("V"), "");
+}
+
 TEST_F(RegistryKeyTest, CutsTextAtItsFirstZero) {
     pc.value(testKey, "short", Platform::regSz, utf16("ab") + QByteArray(2, '\0') + utf16("cd") + QByteArray(2, '\0'));
     pc.value(testKey, "long", Platform::regSz, utf16("ab") + QByteArray(2, '\0') + utf16(QString(400, 'c')));

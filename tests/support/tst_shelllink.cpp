@@ -17,14 +17,21 @@ using Recorded::ShellLink;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-QByteArray number(quint32 value) { return {reinterpret_cast<const char*>(&value), sizeof value}; }
+QByteArray number(quint32 value) {
+    return {reinterpret_cast<const char*>(&value), sizeof value};
+}
 
-QByteArray shortNumber(int value) { return number(static_cast<quint32>(value)).left(2); }
+QByteArray shortNumber(int value) {
+    return number(static_cast<quint32>(value)).left(2);
+}
 
-QByteArray wide(const QString& text) { return {reinterpret_cast<const char*>(text.utf16()), (text.size() + 1) * 2}; }
+QByteArray wide(const QString& text) {
+    return {reinterpret_cast<const char*>(text.utf16()), (text.size() + 1) * 2};
+}
 
 QByteArray header(quint32 flags) {
-    return number(0x4C) + QByteArray::fromHex("0114020000000000c000000000000046") + number(flags) + QByteArray(52, '\0');
+    return number(0x4C) + QByteArray::fromHex("0114020000000000c000000000000046") + number(flags) +
+           QByteArray(52, '\0');
 }
 
 /// Link information with the path in ANSI only, as old systems write it.

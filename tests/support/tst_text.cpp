@@ -2,6 +2,7 @@
 #include "support/Text.h"
 
 #include "common/QtPrinters.h"
+#include "common/TestPc.h"
 
 #include <QDir>
 
@@ -43,6 +44,26 @@ TEST(Paths, AnyOtherPathIsTheSystemsOwn) {
     EXPECT_EQ(Paths::toNative("/opt/x"), QDir::toNativeSeparators("/opt/x"));
     EXPECT_EQ(Paths::toNative("1:/x"), QDir::toNativeSeparators("1:/x"));
     EXPECT_EQ(Paths::separatorFor(""), QDir::separator());
+}
+
+TEST(Paths, CleaningTakesEitherSeparator) {
+    EXPECT_EQ(Paths::cleaned("C:\\Games/X\\.\\Y\\..\\\\Z\\"), "C:\\Games\\X\\Z");
+    EXPECT_EQ(Paths::cleaned("C:\\"), "C:\\");
+    EXPECT_EQ(Paths::cleaned("C:/X/.."), "C:\\");
+    EXPECT_EQ(Paths::cleaned("\\\\server\\share\\.\\X\\"), "\\\\server\\share\\X");
+    EXPECT_EQ(Paths::cleaned(""), "");
+    EXPECT_EQ(Paths::cleaned("/opt//x/../y/"), QDir::toNativeSeparators("/opt/y"));
+}
+
+TEST(Paths, TheFolderOfAPathHasForwardSlashes) {
+    const TestPc pc;
+    EXPECT_EQ(Paths::absoluteFolderOf("C:\\Games/X\\x.exe"), "C:/Games/X");
+    EXPECT_EQ(Paths::absoluteFolderOf("c:\\Games\\..\\X\\x.exe"), "C:/X");
+    EXPECT_EQ(Paths::absoluteFolderOf("C:\\Games\\X\\x.exe /S"), "C:/Games/X/x.exe ");
+    EXPECT_EQ(Paths::absoluteFolderOf("C:\\x.exe"), "C:/");
+    EXPECT_EQ(Paths::absoluteFolderOf("x.exe"), QDir::currentPath());
+    EXPECT_EQ(Paths::absoluteFolderOf("sub\\x.exe"), QDir::currentPath() + "/sub");
+    EXPECT_EQ(Paths::absoluteFolderOf(""), "");
 }
 
 } // namespace

@@ -110,10 +110,20 @@ bool DriveFileEngine::open(QIODevice::OpenMode mode) {
     // The words of Windows, as they reach logs.
     if (isDenied || file) {
         setError(QFile::OpenError, QStringLiteral("Access is denied."));
-    } else {
+    } else if (isInFolder(m_parsed)) {
         setError(QFile::OpenError, QStringLiteral("The system cannot find the file specified."));
+    } else {
+        setError(QFile::OpenError, QStringLiteral("The system cannot find the path specified."));
     }
     return false;
+}
+
+bool DriveFileEngine::isInFolder(DrivePath path) const {
+    if (!path.isRoot()) {
+        path.names.removeLast();
+        path.isFolderOnly = true;
+    }
+    return m_pc->drives().find(path).has_value();
 }
 
 bool DriveFileEngine::close() {

@@ -43,6 +43,7 @@ private:
     };
 
     const Subject& subject() const;
+    bool isInFolder(DrivePath path) const;
     QString targetOf(const Drives::File& shortcut) const;
     QString absoluteName() const;
     QString canonicalName() const;

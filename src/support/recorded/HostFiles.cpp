@@ -6,6 +6,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
+#include <new>
 #include <unistd.h>
 #include <utility>
 
@@ -97,6 +98,9 @@ std::optional<QByteArray> readFile(const QByteArray& path, qint64 limit) {
 
 std::optional<std::vector<Entry>> list(const QByteArray& folder) {
     const std::unique_ptr<DIR, FolderCloser> open(::opendir(folder.constData()));
+    if (!open && errno == ENOMEM) {
+        throw std::bad_alloc(); // lest a folder that is there counts as missing from now on
+    }
     if (!open) {
         return std::nullopt;
     }

@@ -109,7 +109,8 @@ ErrorCode openKey(RootKey root, const QString& subKey, quint32 access, KeyHandle
     const QString path = terminated(subKey);
     const auto view = (access & keyWow64_32Key) ? Recorded::RegistryView::Bits32 : Recorded::RegistryView::Bits64;
     observeKey(root, path, view);
-    if (path.startsWith(QLatin1Char('\\'))) {
+    // Windows takes a backslash before the names in the one root that its kernel doesn't know.
+    if (path.startsWith(QLatin1Char('\\')) && root != RootKey::ClassesRoot) {
         return errorBadPathName;
     }
     auto result = std::make_unique<OpenKey>();

@@ -46,7 +46,7 @@ void RecordedPc::readRegistry(const QByteArray& folder) {
             continue;
         }
         const RegFile file = parseRegFile(*bytes, displayed(path));
-        m_registry.import(file.keys);
+        m_registry.apply(file.keys);
         m_problems.insert(m_problems.end(), file.problems.begin(), file.problems.end());
     }
 }

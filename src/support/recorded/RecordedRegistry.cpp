@@ -10,7 +10,7 @@ QStringList classesPath(const QStringList& stored) {
 
 } // namespace
 
-void RecordedRegistry::import(const std::vector<RegKey>& keys) {
+void RecordedRegistry::apply(const std::vector<RegKey>& keys) {
     for (const RegKey& key : keys) {
         QStringList path = key.path.split(QLatin1Char('\\'), Qt::SkipEmptyParts);
         RegistryNode& root = nodeToChange(key, path);

@@ -8,14 +8,14 @@
 
 namespace Recorded {
 
-/// The registry of a recorded PC. Made by `import`; nothing changes it afterwards, so that any thread may read it.
+/// The registry of a recorded PC. Nothing changes it once the files are applied, so that any thread may read it.
 class RecordedRegistry {
 public:
     /// An open key: the places where its contents lie, the first of them winning. HKEY_CLASSES_ROOT has two, the
     /// user's and the machine's. Empty when there is no such key. Borrowed from the registry.
     using Layers = std::vector<const RegistryNode*>;
 
-    void import(const std::vector<RegKey>& keys);
+    void apply(const std::vector<RegKey>& keys);
 
     Layers open(Platform::RootKey root, const QStringList& path, RegistryView view) const;
 

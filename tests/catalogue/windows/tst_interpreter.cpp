@@ -39,7 +39,7 @@ std::map<QString, std::pair<int, int>> placesOf(const QStringList& paths) {
     return places;
 }
 
-TEST(ListingTest, TheWalkListsWhatTheCommandInterpreterLists) {
+TEST(InterpreterTest, TheWalkListsWhatTheCommandInterpreterLists) {
     TestPc pc;
     for (const char* path :
          {"z.lnk", "a.lnk", "B.LNK", "hidden.lnk", "Programs\\b.lnk", "Programs\\a.lnk", "Programs\\Games\\x.lnk",

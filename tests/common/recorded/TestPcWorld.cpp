@@ -169,6 +169,14 @@ void TestPc::shortcut(const QString& path, const QString& target) {
     file(path, shellLinkTo(target));
 }
 
+void TestPc::link(const QString& path, const QString& folder) {
+    const QString real = m_world->realPath(path);
+    QDir().mkpath(QFileInfo(real).path());
+    if (!QFile::link(m_world->realPath(folder), real)) {
+        qFatal("cannot link %s", qUtf8Printable(real));
+    }
+}
+
 void TestPc::removeFile(const QString& path) {
     QFile::remove(m_world->realPath(path));
 }

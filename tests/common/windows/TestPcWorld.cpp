@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
+#include <QProcess>
+#include <QThread>
 
 #include <windows.h>
 
@@ -43,6 +45,28 @@ void eachParent(const QString& path, QChar separator, Each each) {
     each(path);
 }
 
+/// The path of the system below Wine; empty on Windows itself.
+QString belowWine(const QString& path) {
+    using UnixName = char*(CDECL*)(const wchar_t*);
+    const HMODULE kernel = ::GetModuleHandleW(L"kernel32.dll");
+    const auto unixName =
+        reinterpret_cast<UnixName>(reinterpret_cast<void*>(::GetProcAddress(kernel, "wine_get_unix_file_name")));
+    const QString folder = QFileInfo(path).path();
+    return unixName != nullptr ? QString::fromUtf8(unixName(wide(folder))) + '/' + QFileInfo(path).fileName()
+                               : QString();
+}
+
+/// Starts a program of the system below Wine, which makes and removes no links itself. False on Windows itself.
+bool runBelowWine(const QString& program, const QStringList& arguments) {
+    return !belowWine("C:\\").isEmpty() && QProcess::startDetached("\\\\?\\unix\\bin\\" + program, arguments);
+}
+
+void waitUntil(const QString& path, bool exists) {
+    for (int i = 0; i < 500 && (::GetFileAttributesW(wide(path)) != INVALID_FILE_ATTRIBUTES) != exists; ++i) {
+        QThread::msleep(10);
+    }
+}
+
 } // namespace
 
 /// The PC that the test runs on, and what to take off it again.
@@ -61,6 +85,12 @@ public:
         }
         for (auto key = m_keys.rbegin(); key != m_keys.rend(); ++key) {
             ::RegDeleteKeyExW(rootHandle(key->root), wide(key->path), accessOf(*key) & ~REGSAM(KEY_ALL_ACCESS), 0);
+        }
+        for (const QString& link : m_links) {
+            if (!runBelowWine("rm", {belowWine(link)})) {
+                ::RemoveDirectoryW(wide(link));
+            }
+            waitUntil(link, false);
         }
         for (auto path = m_paths.rbegin(); path != m_paths.rend(); ++path) {
             // Not by Qt, to which a folder named like a shortcut is one.
@@ -108,6 +138,8 @@ public:
 
     void remember(const QString& path) { m_paths.push_back(path); }
 
+    void rememberLink(const QString& path) { m_links.push_back(path); }
+
     void setVariable(const QByteArray& name, const QByteArray& value) {
         qputenv(name.constData(), value);
         m_variables.push_back(name);
@@ -125,6 +157,7 @@ private:
     std::vector<std::pair<TestKey, QString>> m_values;
     std::vector<TestKey> m_keys;
     std::vector<QString> m_paths;
+    std::vector<QString> m_links;
     std::vector<QByteArray> m_variables;
 };
 
@@ -170,6 +203,15 @@ void TestPc::shortcut(const QString& path, const QString& target) {
         qFatal("cannot make the shortcut %s", qUtf8Printable(path));
     }
     m_world->remember(path);
+}
+
+void TestPc::link(const QString& path, const QString& folder) {
+    m_world->makeFolder(QFileInfo(path).path());
+    if (!runBelowWine("ln", {"-s", belowWine(folder), belowWine(path)})) {
+        QProcess::execute("cmd.exe", {"/C", "mklink", "/J", path, folder});
+    }
+    waitUntil(path, true);
+    m_world->rememberLink(path);
 }
 
 void TestPc::removeFile(const QString& path) {

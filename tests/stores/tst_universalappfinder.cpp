@@ -1,0 +1,46 @@
+#include "stores/UniversalAppFinder.h"
+
+#include "core/GameLocation.h"
+#include "support/Logger.h"
+
+#include "common/PluginUnderTest.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "core/Locations.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::ElementsAre;
+
+/// On a system that has no package functions, or none of these packages: Wine, and a recorded PC that lists none.
+class UniversalAppFinderTest : public ::testing::Test {
+protected:
+    TestPc pc;
+    GameLocation location = usedLocation();
+};
+
+TEST_F(UniversalAppFinderTest, LeavesTheRecordAloneWhenThereIsNoPackage) {
+    Logger logger = Logger::create("Test");
+    Finders::UniversalAppFinder finder(&logger, "Käfer.競走_%s");
+    EXPECT_FALSE(finder.find(location));
+    EXPECT_FALSE(finder.find(location)) << "it asks every time";
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_FALSE(Finders::UniversalAppFinder(&logger, "").find(location));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: UAPP: Not found 'Käfer.競走_%s'",
+                                                 "A: UAPP: Not found 'Käfer.競走_%s'", "A: UAPP: Not found ''"));
+}
+
+TEST_F(UniversalAppFinderTest, TheFactoryMakesIt) {
+    const PluginUnderTest plugin;
+    const auto factory = plugin.create();
+    const auto finder = factory->createUniversalAppFinder("Bolt.Kite_abc123");
+    EXPECT_FALSE(finder->find(location));
+    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(finder->userLocation(), "");
+    EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: UAPP: Not found 'Bolt.Kite_abc123'"));
+}
+
+} // namespace
