@@ -5,6 +5,9 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <algorithm>
+#include <vector>
+
 namespace Host {
 
 namespace {
@@ -32,32 +35,96 @@ void declare(QCommandLineParser& parser, const Declared& declared) {
              "something that it reads is missing or broken."));
     parser.addPositionalArgument(
         text("CATALOGUE"),
-        text("The file that lists the games (docs/catalogue.md);\nthe one beside the program unless given."));
+        text("The file that lists the games (docs/catalogue.md);\nthe one beside the program unless given."),
+        text("[CATALOGUE]"));
+    parser.addPositionalArgument(text("runtimes"), text("Ask for the VR runtimes only."), text("| runtimes"));
+    parser.addPositionalArgument(text("locate"),
+                                 text("Remember the FOLDER that has the game of this KEY\nin the user's settings. "
+                                      "The catalogue names its executables."),
+                                 text("| locate KEY FOLDER [CATALOGUE]"));
+    parser.addPositionalArgument(text("forget"), text("Forget it."), text("| forget KEY"));
     parser.addOptions({declared.plugin, declared.pc, declared.game, declared.json, declared.help, declared.version});
 }
 
-/// The first fault in arguments whose options are all known; empty when there is none.
-QString findFault(const QCommandLineParser& parser, const Declared& declared) {
+/// One thing that the words of the command line come down to: what they are, and where their values go.
+struct CommandForm {
+    struct Word {
+        const char* title;
+        QString Options::*target;
+    };
+
+    const char* name; ///< the first word; null for the command that needs none
+    Command command;
+    std::vector<Word> words; ///< those behind the name
+    int needed;              ///< how many of them must be there
+};
+
+const std::vector<CommandForm>& commandForms() {
+    static const CommandForm::Word catalogue = {"the name of the catalogue", &Options::catalogue};
+    static const CommandForm::Word key = {"the key", &Options::key};
+    static const std::vector<CommandForm> forms = {
+        {nullptr, Command::FindGames, {catalogue}, 0},
+        {"runtimes", Command::Runtimes, {}, 0},
+        {"locate", Command::Locate, {key, {"the folder", &Options::folder}, catalogue}, 2},
+        {"forget", Command::Forget, {key}, 1},
+    };
+    return forms;
+}
+
+/// The form that the words have; `words` are then those behind its name.
+const CommandForm& formOf(QStringList& words) {
+    const std::vector<CommandForm>& forms = commandForms();
+    const auto named = std::find_if(forms.begin(), forms.end(), [&](const CommandForm& form) {
+        return form.name != nullptr && words.value(0) == QLatin1String(form.name);
+    });
+    if (named == forms.end()) {
+        return forms.front();
+    }
+    words.removeFirst();
+    return *named;
+}
+
+/// The first fault in the words behind a command's name; empty when there is none.
+QString findFault(const CommandForm& form, const QStringList& words) {
+    for (int i = 0; i < static_cast<int>(form.words.size()); ++i) {
+        const QString title = text(form.words.at(static_cast<std::size_t>(i)).title);
+        if (i >= words.size() && i < form.needed) {
+            return text("%1: %2 is missing").arg(text(form.name), title);
+        }
+        if (i < words.size() && words.at(i).trimmed().isEmpty()) {
+            return title + text(" is empty");
+        }
+    }
+    const int most = static_cast<int>(form.words.size());
+    return words.size() > most ? text("surplus argument \"%1\"").arg(words.at(most)) : QString();
+}
+
+/// The first fault in options that are all known; empty when there is none.
+QString findFault(const CommandForm& form, const QCommandLineParser& parser, const Declared& declared) {
     for (const QCommandLineOption* option : {&declared.plugin, &declared.pc, &declared.game}) {
         if (parser.isSet(*option) && parser.values(*option).contains(QString())) {
             return text("--%1: the value is empty").arg(option->names().constFirst());
         }
     }
-    const QStringList catalogues = parser.positionalArguments();
-    if (catalogues.contains(QString())) {
-        return text("the name of the catalogue is empty");
+    const bool hasAnswers = form.command == Command::FindGames || form.command == Command::Runtimes;
+    if (parser.isSet(declared.game) && form.command != Command::FindGames) {
+        return text("--game: not with %1").arg(text(form.name));
     }
-    if (catalogues.size() > 1) {
-        return text("surplus argument \"%1\"").arg(catalogues.at(1));
+    if (parser.isSet(declared.json) && !hasAnswers) {
+        return text("--json: not with %1").arg(text(form.name));
     }
     return QString();
 }
 
-Options readOptions(const QCommandLineParser& parser, const Declared& declared) {
+Options readOptions(const CommandForm& form, const QStringList& words, const QCommandLineParser& parser,
+                    const Declared& declared) {
     Options options;
     const QDir programFolder(QCoreApplication::applicationDirPath());
-    const QStringList catalogues = parser.positionalArguments();
-    options.catalogue = catalogues.isEmpty() ? programFolder.filePath(text("catalogue.json")) : catalogues.constFirst();
+    options.command = form.command;
+    options.catalogue = programFolder.filePath(text("catalogue.json"));
+    for (int i = 0; i < words.size(); ++i) {
+        options.*form.words.at(static_cast<std::size_t>(i)).target = words.at(i);
+    }
     // Without a suffix: the library loader knows what libraries end in on this system.
     options.plugin =
         parser.isSet(declared.plugin) ? parser.value(declared.plugin) : programFolder.filePath(text("Luruludri"));
@@ -88,11 +155,14 @@ CommandLine parseCommandLine(const QStringList& arguments) {
                 {},
                 version.arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion())};
     }
-    const QString fault = findFault(parser, declared);
-    if (!fault.isEmpty()) {
-        return {CommandLine::Action::Refuse, {}, fault};
+    QStringList words = parser.positionalArguments();
+    const CommandForm& form = formOf(words);
+    for (const QString& fault : {findFault(form, parser, declared), findFault(form, words)}) {
+        if (!fault.isEmpty()) {
+            return {CommandLine::Action::Refuse, {}, fault};
+        }
     }
-    return {CommandLine::Action::Run, readOptions(parser, declared), {}};
+    return {CommandLine::Action::Run, readOptions(form, words, parser, declared), {}};
 }
 
 } // namespace Host

@@ -7,9 +7,20 @@
 
 namespace Host {
 
+/// What the program does.
+enum class Command {
+    FindGames,
+    Runtimes, ///< asks for the VR runtimes only
+    Locate,   ///< remembers where the user has a game
+    Forget,   ///< forgets it
+};
+
 /// What the user asked for.
 struct Options {
-    QString catalogue;
+    Command command = Command::FindGames;
+    QString key;               ///< the game's key in the user's settings, with Locate and Forget
+    QString folder;            ///< where the game is, with Locate
+    QString catalogue;         ///< means something with FindGames and Locate
     QString plugin;            ///< the plug-in's file; the one beside the program when none was given
     std::optional<QString> pc; ///< the recorded PC's folder, as given
     QStringList games;         ///< names of the games to ask for; empty for all

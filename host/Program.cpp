@@ -5,9 +5,11 @@
 #include "host/Catalogue.h"
 #include "host/CommandLine.h"
 #include "host/Console.h"
+#include "host/OneLine.h"
 #include "host/Plugin.h"
 #include "host/RecordedPc.h"
 #include "host/Report.h"
+#include "host/UserChoice.h"
 
 #include <memory>
 #include <new>
@@ -32,8 +34,11 @@ QString describe(const QString& file, const CatalogueFault& fault) {
                           : QStringLiteral("%1: %2").arg(file, fault.message);
 }
 
-/// The games to ask for. No value after a fault, of which the user has been told.
+/// The games that the command is about. No value after a fault, of which the user has been told.
 std::optional<Catalogue> loadGames(const Options& options) {
+    if (options.command == Command::Runtimes || options.command == Command::Forget) {
+        return Catalogue();
+    }
     CatalogueFault fault;
     const std::optional<Catalogue> catalogue = readCatalogue(options.catalogue, fault);
     if (!catalogue) {
@@ -48,15 +53,48 @@ std::optional<Catalogue> loadGames(const Options& options) {
     return games;
 }
 
+ExitStatus answer(IGameFinderFactory& factory, const Options& options, const Catalogue& games) {
+    const Answers answers = ask(factory, games);
+    return print(options.json ? renderJson(answers) : renderTables(answers),
+                 answers.allGamesFound() ? allFound : someNotFound);
+}
+
+ExitStatus locate(IGameFinderFactory& factory, const Options& options, const Catalogue& games) {
+    const UserChoice choice = rememberChoice(factory, games, options.key, options.folder);
+    if (choice.folder.isEmpty()) {
+        return fail(QStringLiteral("the folder could not be remembered"));
+    }
+    if (!choice.missing.isEmpty()) {
+        Console::complain(QStringLiteral("the folder holds none of the game's executables: ") +
+                          choice.missing.join(QLatin1String(", ")));
+    }
+    return print(oneLine(options.key.trimmed() + QLatin1String(": ") + choice.folder) + QLatin1Char('\n'),
+                 choice.missing.isEmpty() ? allFound : someNotFound);
+}
+
+ExitStatus forget(IGameFinderFactory& factory, const Options& options) {
+    if (!forgetChoice(factory, options.key)) {
+        return fail(QStringLiteral("the folder could not be forgotten"));
+    }
+    return print(oneLine(options.key.trimmed() + QLatin1String(": forgotten")) + QLatin1Char('\n'), allFound);
+}
+
 ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& games) {
     QString fault;
     const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault);
     if (!factory) {
         return fail(fault);
     }
-    const Answers answers = ask(*factory, games);
-    return print(options.json ? renderJson(answers) : renderTables(answers),
-                 answers.allGamesFound() ? allFound : someNotFound);
+    switch (options.command) {
+    case Command::Locate:
+        return locate(*factory, options, games);
+    case Command::Forget:
+        return forget(*factory, options);
+    case Command::FindGames:
+    case Command::Runtimes:
+        break;
+    }
+    return answer(*factory, options, games);
 }
 
 ExitStatus askPlugin(const Options& options, const Catalogue& games) {

@@ -3,6 +3,7 @@
 #include "catalogue/StartMenuIndex.h"
 #include "core/LocationFilling.h"
 #include "support/Logger.h"
+#include "support/Paths.h"
 
 #include <QFileInfo>
 
@@ -33,7 +34,7 @@ bool StartMenuFinder::follow(const QString& shortcut, GameLocation& location) co
             continue;
         }
         addExecutable(location, target, target);
-        location.installFolder = QFileInfo(target).absolutePath();
+        location.installFolder = Paths::absoluteFolderOf(target);
         logger().logAlways("StartMenu: Found %ls", qUtf16Printable(location.launchCommand));
         found = true;
     }

@@ -50,7 +50,13 @@ QString cleaned(const QString& path) {
 }
 
 QString absoluteFolderOf(const QString& path) {
-    return QFileInfo(withSlashes(path)).absolutePath();
+    const QString slashes = withSlashes(path);
+    const bool isNetworkPath = slashes.startsWith(QLatin1String("//"));
+    if (!isNetworkPath || QDir::separator() == QLatin1Char('\\')) {
+        return QFileInfo(slashes).absolutePath();
+    }
+    const QString clean = slashes.at(0) + QDir::cleanPath(slashes.mid(1));
+    return clean.left(clean.lastIndexOf(QLatin1Char('/')));
 }
 
 } // namespace Paths

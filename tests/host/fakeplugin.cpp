@@ -64,13 +64,20 @@ public:
         return m_finds;
     }
 
-    QString userLocation() override { return QStringLiteral(""); }
+    QString userLocation() override {
+        const bool isForgetful = isMode("no locations");
+        return m_hasLocation != isForgetful ? QStringLiteral("D:\\Spiele\\Gewählt") : QStringLiteral("");
+    }
 
-    void setUserLocation(const QString&) override {}
+    void setUserLocation(const QString& path) override {
+        note(QStringLiteral("setUserLocation(%1)").arg(path));
+        m_hasLocation = !path.isEmpty();
+    }
 
 private:
     QString m_name;
     bool m_finds;
+    bool m_hasLocation = false;
     std::vector<Finder> m_members;
 };
 

@@ -138,6 +138,19 @@ TEST(PluginCalls, AnswersInJsonAreUnderTheirOperations) {
     EXPECT_EQ(run.output, QString::fromUtf8(expected.toJson()));
 }
 
+TEST(PluginCalls, TheRuntimesAloneNeedNoCatalogue) {
+    const FindProgram program;
+    const FindRun run = program.run({"runtimes"});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_TRUE(run.output.startsWith("Runtime              Where\nSteam client         slot 13\n"));
+    EXPECT_EQ(program.fakeLog(), (QStringList{"Create", "~Create", "unloaded"}));
+
+    const QJsonObject root = QJsonDocument::fromJson(program.run({"runtimes", "--json"}).output.toUtf8()).object();
+    EXPECT_EQ(root["games"].toArray().size(), 0);
+    EXPECT_EQ(root["runtimes"]["varjoRuntimeFolder"].toString(), "slot 15");
+}
+
 TEST(PluginCalls, WhatIsNotThereIsNotFound) {
     FindProgram program;
     program.setFakeMode("no runtimes");

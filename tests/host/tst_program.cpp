@@ -65,7 +65,8 @@ TEST(Program, HelpAndVersionNeedNothingElse) {
         const FindRun help = program.runBare({option});
         EXPECT_EQ(help.exitStatus, 0);
         EXPECT_EQ(help.errors, "");
-        for (const char* name : {"CATALOGUE", "--plugin", "--pc", "--game", "--json", "--version", "Exit status"}) {
+        for (const char* name : {"CATALOGUE", "runtimes", "locate KEY FOLDER [CATALOGUE]", "forget KEY", "--plugin",
+                                 "--pc", "--game", "--json", "--version", "Exit status"}) {
             EXPECT_TRUE(help.output.contains(name)) << name;
         }
     }
@@ -85,6 +86,23 @@ TEST(Program, WrongArgumentsAreRefused) {
     expectRefusal(program.run({catalogue, "--json=x"}), "Unexpected value after '--json'.");
     expectRefusal(program.run({catalogue, "--pc", ""}), "--pc: the value is empty");
     expectRefusal(program.run({catalogue, "--plugin="}), "--plugin: the value is empty");
+    EXPECT_TRUE(program.fakeLog().isEmpty());
+}
+
+TEST(Program, WrongCommandsAreRefused) {
+    const FindProgram program;
+    expectRefusal(program.run({"locate"}), "locate: the key is missing");
+    expectRefusal(program.run({"locate", "Käfer"}), "locate: the folder is missing");
+    expectRefusal(program.run({"locate", " ", "D:\\X"}), "the key is empty");
+    expectRefusal(program.run({"locate", "Käfer", ""}), "the folder is empty");
+    expectRefusal(program.run({"locate", "Käfer", "D:\\X", ""}), "the name of the catalogue is empty");
+    expectRefusal(program.run({"locate", "Käfer", "D:\\X", "games.json", "zwölf"}), "surplus argument \"zwölf\"");
+    expectRefusal(program.run({"forget"}), "forget: the key is missing");
+    expectRefusal(program.run({"forget", "Käfer", "zwölf"}), "surplus argument \"zwölf\"");
+    expectRefusal(program.run({"runtimes", "zwölf"}), "surplus argument \"zwölf\"");
+    expectRefusal(program.run({"--game", "Käfer", "runtimes"}), "--game: not with runtimes");
+    expectRefusal(program.run({"--json", "locate", "Käfer", "D:\\X"}), "--json: not with locate");
+    expectRefusal(program.run({"--json", "forget", "Käfer"}), "--json: not with forget");
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
 

@@ -62,6 +62,52 @@ TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
     EXPECT_EQ(runtimes["steamVrFolder"].toString(), "C:\\Program Files (x86)\\Steam\\steamapps\\common\\SteamVR");
 }
 
+TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const FindRun run = runSamples(program, {"--json"});
+    const QMap<QString, QString> folders = foldersOf(run);
+    EXPECT_EQ(folders.value("Nebelpflug"), "D:\\Epic Games\\Nebelpflug");
+    EXPECT_EQ(folders.value("Kolibri Canyon"), "D:/Oculus Apps/Software/federlicht-kolibri-canyon");
+    EXPECT_EQ(folders.value("Gletscherspalte"), "Halmstaub.Gletscherspalte_2.3.11.0_x64__8t4qz1rk6yw2e");
+    EXPECT_EQ(folders.value("Burgfried 1412"), "C:/Games/Burgfried 1412");
+    EXPECT_EQ(folders.value("Zeppelinpost"), "D:\\Spiele\\Zeppelinpost");
+    EXPECT_EQ(folders.value("Moosgarten", "not asked"), "") << "the user has not chosen its folder";
+}
+
+TEST(Samples, HaveAllRuntimes) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    program.setVariable("XDG_DATA_HOME", program.folder());
+    const FindRun run = program.runBare({"--pc", LURULUDRI_SAMPLES "/pc", "--json", "runtimes"});
+    EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
+    const QJsonObject runtimes = QJsonDocument::fromJson(run.output.toUtf8()).object()["runtimes"].toObject();
+    EXPECT_EQ(runtimes["oculusRuntimeFolder"].toString(), "C:\\Program Files\\Oculus\\/Support/oculus-runtime");
+    EXPECT_EQ(runtimes["oculusLibraryFolders"].toArray(), QJsonArray{"D:/Oculus Apps/Manifests"});
+    EXPECT_EQ(runtimes["varjoRuntimeFolder"].toString(), "C:\\Program Files\\Varjo\\");
+    EXPECT_EQ(runtimes["openXrActiveRuntime"].toString(), "C:\\Program Files\\Varjo\\varjo-openxr\\VarjoOpenXR.json");
+    EXPECT_EQ(runtimes["lumavexStandaloneLocation"].toString(), "C:\\Program Files\\Lumavex\\Standalone");
+}
+
+TEST(Samples, HaveAGameThatTheUserCanLocate) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    program.setVariable("XDG_DATA_HOME", program.folder());
+    program.setVariable(Recording::environmentVariable, LURULUDRI_SAMPLES "/pc");
+    const QString catalogue = LURULUDRI_SAMPLES "/catalogue.json";
+    const FindRun located = program.runBare({"locate", "moosgarten", "D:\\Eigene Spiele\\Moosgarten\\bin", catalogue});
+    EXPECT_EQ(located.output, "moosgarten: D:/Eigene Spiele/Moosgarten\n") << located.errors.toStdString();
+    EXPECT_EQ(foldersOf(runSamples(program, {"--json"})).value("Moosgarten"), "D:/Eigene Spiele/Moosgarten");
+    EXPECT_EQ(program.runBare({"forget", "moosgarten"}).exitStatus, 0);
+    EXPECT_EQ(foldersOf(runSamples(program, {"--json"})).value("Moosgarten"), "");
+}
+
 TEST(Samples, HaveAGameWithTwoExecutables) {
     if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
         GTEST_SKIP() << "no recordings here";

@@ -61,6 +61,8 @@ TEST(Paths, TheFolderOfAPathHasForwardSlashes) {
     EXPECT_EQ(Paths::absoluteFolderOf("c:\\Games\\..\\X\\x.exe"), "C:/X");
     EXPECT_EQ(Paths::absoluteFolderOf("C:\\Games\\X\\x.exe /S"), "C:/Games/X/x.exe ");
     EXPECT_EQ(Paths::absoluteFolderOf("C:\\x.exe"), "C:/");
+    EXPECT_EQ(Paths::absoluteFolderOf("\\\\server\\share\\X\\x.exe"), "//server/share/X");
+    EXPECT_EQ(Paths::absoluteFolderOf("//server/share/X/x.exe"), "//server/share/X");
     EXPECT_EQ(Paths::absoluteFolderOf("x.exe"), QDir::currentPath());
     EXPECT_EQ(Paths::absoluteFolderOf("sub\\x.exe"), QDir::currentPath() + "/sub");
     EXPECT_EQ(Paths::absoluteFolderOf(""), "");

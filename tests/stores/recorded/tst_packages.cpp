@@ -3,8 +3,8 @@
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "common/recorded/RecordingFolder.h"
 #include "core/Locations.h"
-#include "support/RecordingFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

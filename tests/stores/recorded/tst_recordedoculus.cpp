@@ -5,7 +5,7 @@
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
-#include "support/RecordingFolder.h"
+#include "common/recorded/RecordingFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "support/recorded/ShellLink.h"
 
 #include "common/QtPrinters.h"
-#include "support/RecordingFolder.h"
+#include "common/recorded/RecordingFolder.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "common/QtPrinters.h"
+#include "common/recorded/RecordingFolder.h"
 #include "support/Platform.h"
-#include "support/RecordingFolder.h"
 #include "support/recorded/Observer.h"
 
 #include <QFile>

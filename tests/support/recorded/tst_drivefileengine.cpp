@@ -1,5 +1,5 @@
 #include "common/QtPrinters.h"
-#include "support/RecordingFolder.h"
+#include "common/recorded/RecordingFolder.h"
 #include "support/recorded/Observer.h"
 
 #include <QDateTime>

@@ -1,5 +1,5 @@
-#include "support/RecordingFolder.h"
-#include "support/RegistryQuestions.h"
+#include "common/recorded/RecordingFolder.h"
+#include "support/recorded/RegistryQuestions.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "support/RecordingFolder.h"
+#include "common/recorded/RecordingFolder.h"
 
 #include <filesystem>
 #include <fstream>
