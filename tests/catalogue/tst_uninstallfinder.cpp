@@ -106,6 +106,10 @@ TEST_F(UninstallFinderTest, LooksBesideTheUninstallerWhenTheLocationHasNothing) 
 }
 
 TEST_F(UninstallFinderTest, AnEmptyLocationIsNotLookedIn) {
+    addProgram(pc, {"2", "Y", {}, "MsiExec.exe /X"});
+    EXPECT_FALSE(find("Y", {"tmp", "Windows"})) << "which exist at the root of the drive";
+    EXPECT_EQ(location, failedIn(""));
+
     pc.file("C:\\Games\\X\\game.exe");
     addProgram(pc, {"1", "X", {}, "C:\\Games\\X\\unins000.exe"});
     EXPECT_TRUE(find("X", {"game.exe"}));

@@ -1,0 +1,88 @@
+#include "core/GameLocation.h"
+#include "stores/EpicManifestIndex.h"
+#include "stores/EpicStoreFinder.h"
+#include "stores/OculusLibraryIndex.h"
+#include "support/Logger.h"
+#include "support/recorded/Observer.h"
+
+#include "common/EpicLauncher.h"
+#include "common/OculusStore.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using ::testing::Contains;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+/// What the stores' indexes ask a PC.
+class StoreQuestionsTest : public ::testing::Test {
+protected:
+    ~StoreQuestionsTest() override { Recorded::setObserver({}); }
+
+    template <class Act>
+    std::vector<std::string> questionsOf(Act act) {
+        std::vector<std::string> questions;
+        Recorded::setObserver([&questions](const QString& question) { questions.push_back(question.toStdString()); });
+        act();
+        Recorded::setObserver({});
+        return questions;
+    }
+
+    TestPc pc;
+    Logger logger = Logger::create("Test");
+};
+
+TEST_F(StoreQuestionsTest, ABuiltEpicIndexIsNotReadAgain) {
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
+    EpicManifestIndex index;
+    EXPECT_THAT(questionsOf([&] { index.entries(); }), Contains("open C:/Epic/Manifests/1.item"));
+    EXPECT_THAT(questionsOf([&] {
+                    index.entries();
+                    index.findByName("kiwi", 0);
+                    index.findByName("kiwi", 1);
+                }),
+                IsEmpty());
+}
+
+TEST_F(StoreQuestionsTest, AnEmptyEpicIndexIsNotReadAgain) {
+    EpicManifestIndex index;
+    EXPECT_THAT(questionsOf([&] { index.entries(); }), Not(IsEmpty()));
+    EXPECT_THAT(questionsOf([&] { index.entries(); }), IsEmpty());
+}
+
+TEST_F(StoreQuestionsTest, AnEpicSearchLooksOnlyForExecutables) {
+    pc.file("D:\\Kiwi\\a.exe");
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
+    addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Plum"});
+    EpicManifestIndex index;
+    index.entries();
+    GameLocation location;
+    Finders::EpicStoreFinder finder(&logger, &index, "Kiwi", {"a.exe"}, 0);
+    const auto questions = questionsOf([&] { EXPECT_TRUE(finder.find(location)); });
+    EXPECT_THAT(questions, Contains("stat D:/Kiwi/a.exe"));
+    EXPECT_THAT(questions, Not(Contains(StartsWith("open "))));
+    EXPECT_THAT(questions, Not(Contains(StartsWith("stat D:/Plum"))));
+}
+
+TEST_F(StoreQuestionsTest, OculusManifestsAreNeverOpenedAndListedOnce) {
+    makeOculusFolders(pc, "D:\\Apps");
+    addOculusLibrary(pc, "{1}", "D:\\Apps");
+    pc.file("D:\\Apps\\Manifests\\kite.json.mini");
+    OculusLibraryIndex index;
+    const auto questions = questionsOf([&] { index.entries(); });
+    EXPECT_THAT(questions, Contains("list D:/Apps/Manifests").Times(1));
+    EXPECT_THAT(questions, Not(Contains(StartsWith("open "))));
+    EXPECT_THAT(questionsOf([&] {
+                    index.entries();
+                    index.findByAppId("kite");
+                }),
+                IsEmpty());
+}
+
+} // namespace
