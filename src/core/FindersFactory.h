@@ -6,7 +6,7 @@ namespace Finders {
 
 /// The factory that the host gets: owns the log file and the indexes of installed software that its finders share.
 /// Nothing is looked up before a finder asks, and two factories share nothing.
-class FindersFactory final : public IGameFinderFactory {
+class FindersFactory : public IGameFinderFactory {
 public:
     FindersFactory();
     ~FindersFactory() override;

@@ -11,6 +11,9 @@
 #include "common/TestPc.h"
 #include "core/Locations.h"
 
+#include <QCoreApplication>
+#include <QDir>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -49,6 +52,15 @@ TEST_F(GameForWindowFinderTest, TheRegisteredExecutableStaysAsStoredAndItsFolder
     EXPECT_EQ(
         location,
         (GameLocation{"C:\\Games\\X\\x.exe", "C:\\Games\\X\\x.exe", {"C:\\Games\\X\\x.exe"}, "C:/Games/X", false}));
+}
+
+TEST_F(GameForWindowFinderTest, WhiteSpaceAtTheEndOfItsFolderGoes) {
+    const QString folder = QString("C:\\Games\\X") + QChar(QChar::Nbsp); // a blank may not end a name on Windows
+    pc.file(folder + "\\x.exe");
+    addGame(pc, {"{1}", "X", folder + "\\x.exe", {}});
+    EXPECT_TRUE(find("X", {}));
+    EXPECT_EQ(location.installFolder, "C:/Games/X");
+    EXPECT_EQ(location.launchCommand, folder + "\\x.exe");
 }
 
 TEST_F(GameForWindowFinderTest, OtherwiseEveryExecutableInTheRegisteredFolderIsFound) {
@@ -95,8 +107,12 @@ TEST_F(GameForWindowFinderTest, ResetsTheRecordWhenNoFileExists) {
 TEST_F(GameForWindowFinderTest, WithoutAFolderTheExecutablesAreNotLookedFor) {
     addGame(pc, {"{1}", "X", {}, {}});
     pc.file("C:\\a.exe");
-    EXPECT_FALSE(find("X", {"a.exe", "C:\\a.exe"}));
+    const QString program = QCoreApplication::applicationFilePath();
+    const QString current = QDir::currentPath();
+    QDir::setCurrent("C:\\"); // so that a separator alone would lead to the file
+    EXPECT_FALSE(find("X", {"a.exe", "C:\\a.exe", program.mid(program.indexOf('/') + 1)}));
     EXPECT_EQ(location, GameLocation());
+    QDir::setCurrent(current);
 }
 
 TEST_F(GameForWindowFinderTest, TheFirstEntryWithFilesWins) {

@@ -105,6 +105,48 @@ TEST_F(FindersFactoryTest, AMultiFinderTakesTheHostsOwnFindersToo) {
     EXPECT_THAT(notes, ElementsAre("own find", "own destroyed"));
 }
 
+/// Notes which of its own operations the factory uses.
+class NotingFactory : public Finders::FindersFactory {
+public:
+    std::unique_ptr<IGameFinder> createUninstallFinder(const QString& displayName, const QStringList& executables,
+                                                       int matchMode) override {
+        notes.append(QString("uninstall %1 %2 %3").arg(displayName, executables.join('|')).arg(matchMode));
+        return std::make_unique<ScriptedFinder>("uninstall", ScriptedFinder::Script{}, &notes);
+    }
+
+    std::unique_ptr<IGameFinder> createSteamFinder(const QString& appId, const QString& installFolderName,
+                                                   const QStringList& executables) override {
+        notes.append(QString("steam %1 %2 %3").arg(appId, installFolderName, executables.join('|')));
+        return std::make_unique<ScriptedFinder>("steam", ScriptedFinder::Script{true, "", steamVr}, &notes);
+    }
+
+    std::unique_ptr<IGameFinder>
+    createMultiFinder(std::unique_ptr<IGameFinder>&& finder1, std::unique_ptr<IGameFinder>&& finder2,
+                      std::unique_ptr<IGameFinder>&& finder3, std::unique_ptr<IGameFinder>&& finder4,
+                      std::unique_ptr<IGameFinder>&& finder5, std::unique_ptr<IGameFinder>&& finder6,
+                      std::unique_ptr<IGameFinder>&& finder7, std::unique_ptr<IGameFinder>&& finder8,
+                      std::unique_ptr<IGameFinder>&& finder9, std::unique_ptr<IGameFinder>&& finder10,
+                      std::unique_ptr<IGameFinder>&& finder11) override {
+        const bool threeMembers = finder1 && finder2 && finder3 && !finder4 && !finder5 && !finder6 && !finder7 &&
+                                  !finder8 && !finder9 && !finder10 && !finder11;
+        notes.append(threeMembers ? "multi of three" : "multi of another number");
+        return FindersFactory::createMultiFinder(std::move(finder1), std::move(finder2), std::move(finder3), nullptr,
+                                                 nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
+    }
+
+    QStringList notes;
+    QString steamVr;
+};
+
+TEST_F(FindersFactoryTest, SteamVrIsLookedForThroughTheFactorysOwnOperations) {
+    NotingFactory factory;
+    factory.steamVr = " C:/Steam/common/./SteamVR/x/../ ";
+    EXPECT_EQ(factory.steamVrFolder(), "C:\\Steam\\common\\SteamVR");
+    EXPECT_THAT(factory.notes, ElementsAre("uninstall SteamVR bin\\win64\\vrserver.exe 0",
+                                           "steam 250820 SteamVR bin\\win64\\vrserver.exe", "multi of three",
+                                           "steam find", "steam destroyed", "uninstall destroyed"));
+}
+
 /// The number of a virtual operation's slot. In the C++ ABI of both compilers a pointer to a virtual member function
 /// holds its offset in the table, plus one; a destructor takes two entries.
 template <class Operation>

@@ -6,6 +6,8 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 
+#include <QDir>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -124,10 +126,13 @@ TEST_F(RuntimeLocatorsTest, TheOculusBaseKeepsItsTrailingSeparator) {
 }
 
 TEST_F(RuntimeLocatorsTest, WithoutTheOculusBaseNoLibraryIsLookedFor) {
-    pc.file("C:\\Support\\oculus-runtime\\LibOVRRT64_1.dll"); // where an empty base would lead to
+    pc.file("C:\\Support\\oculus-runtime\\LibOVRRT64_1.dll"); // where an empty base leads to from drive C
+    const QString current = QDir::currentPath();
+    QDir::setCurrent("C:\\");
     EXPECT_EQ(Runtimes::oculusRuntimeFolder(), "");
     pc.environment("OculusBase", "");
     EXPECT_EQ(Runtimes::oculusRuntimeFolder(), "");
+    QDir::setCurrent(current);
 }
 
 TEST_F(RuntimeLocatorsTest, TheFactoryForwardsTheQuestions) {

@@ -74,6 +74,7 @@ qint32 FakePackages::getPackagesByPackageFamily(const char16_t* family, quint32*
         return PackageFunctions::errorInsufficientBuffer;
     }
     write(names, buffer, fullNames, current->reportsNoText);
+    *count = current->reportsNoCount ? 0 : *count;
     return PackageFunctions::errorSuccess;
 }
 
@@ -119,5 +120,6 @@ qint32 FakePackages::getPackageApplicationIds(PackageFunctions::PackageInfo info
         return PackageFunctions::errorInsufficientBuffer;
     }
     write(ids, reinterpret_cast<char16_t*>(buffer + pointers), buffer, current->reportsNoText);
+    *count = current->reportsNoCount ? 0 : *count;
     return PackageFunctions::errorSuccess;
 }

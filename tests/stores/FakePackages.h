@@ -32,7 +32,8 @@ public:
     std::vector<std::string> calls;
 
     int openInfos = 0;
-    bool reportsNoText = false; ///< succeeds with null pointers to the texts
+    bool reportsNoText = false;  ///< succeeds with null pointers to the texts
+    bool reportsNoCount = false; ///< succeeds with a count of 0, whatever it writes
 
 private:
     FakePackages(const FakePackages&) = delete;

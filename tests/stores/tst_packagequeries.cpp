@@ -109,6 +109,12 @@ TEST_F(PackageQueriesTest, APackageRemovedBetweenTheCallsIsNoFullName) {
     EXPECT_EQ(fullName(), u"") << "the call succeeds with a count of 0";
 }
 
+TEST_F(PackageQueriesTest, NothingIsTakenFromABufferThatCountsAsEmpty) {
+    system.reportsNoCount = true;
+    EXPECT_EQ(fullName(), u"");
+    EXPECT_EQ(applicationId(), u"");
+}
+
 TEST_F(PackageQueriesTest, AFullNameThatIsNotThereIsEmpty) {
     system.reportsNoText = true;
     EXPECT_EQ(fullName(), u"");
