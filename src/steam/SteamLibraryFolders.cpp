@@ -1,18 +1,13 @@
 #include "steam/SteamLibraryFolders.h"
 
 #include "support/Text.h"
+#include "support/WholeFile.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <optional>
 
 namespace {
-
-QByteArray readWholeFile(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// The path in a line `"path"  "D:\\SteamLibrary"`, its backslashes left doubled; empty in any other line.
 std::optional<QString> libraryIn(const QString& line) {

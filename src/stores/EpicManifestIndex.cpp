@@ -5,9 +5,9 @@
 #include "support/Logger.h"
 #include "support/Platform.h"
 #include "support/RegistryKey.h"
+#include "support/WholeFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <optional>
@@ -24,11 +24,6 @@ QString manifestFolder() {
         return registered;
     }
     return knownFolderPath(Platform::csidlCommonAppData) + QLatin1String("/Epic/EpicGamesLauncher/Data/Manifests");
-}
-
-QByteArray readWholeFile(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void readManifest(const QFileInfo& file, std::list<EpicAppEntry>& entries, Logger& logger) {
