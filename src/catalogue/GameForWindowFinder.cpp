@@ -2,10 +2,10 @@
 
 #include "catalogue/GamesExplorerIndex.h"
 #include "core/LocationFilling.h"
+#include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
-
-#include <QFile>
+#include "support/Trace.h"
 
 namespace Finders {
 
@@ -17,7 +17,11 @@ GameForWindowFinder::GameForWindowFinder(Logger* logger, GamesExplorerIndex* ind
     , m_executables(executables) {}
 
 bool GameForWindowFinder::find(GameLocation& location) {
-    for (const GamesExplorerEntry* entry : m_index->findByTitle(m_title)) {
+    const std::vector<const GamesExplorerEntry*> entries = m_index->findByTitle(m_title);
+    if (entries.empty()) {
+        Trace::note("No game of the Games Explorer is named \"%ls\".", qUtf16Printable(m_title));
+    }
+    for (const GamesExplorerEntry* entry : entries) {
         if (findBy(*entry, location)) {
             logger().logAlways("GameForWindow: %ls", qUtf16Printable(location.launchCommand));
             return true;
@@ -28,15 +32,18 @@ bool GameForWindowFinder::find(GameLocation& location) {
 
 bool GameForWindowFinder::findBy(const GamesExplorerEntry& entry, GameLocation& location) const {
     resetLocation(location);
-    if (!entry.appExePath.isEmpty() && QFile::exists(entry.appExePath)) {
+    if (!entry.appExePath.isEmpty() && Files::exists(entry.appExePath)) {
         location.installFolder = Paths::absoluteFolderOf(entry.appExePath).trimmed();
         addExecutable(location, entry.appExePath, entry.appExePath);
         return true;
     }
 
     const QString& folder = entry.configApplicationPath;
-    return !folder.isEmpty() &&
-           collectExecutables(location, folder, m_executables, {},
+    if (folder.isEmpty()) {
+        Trace::note("The entry %ls tells no folder, and no executable that exists.", qUtf16Printable(entry.keyName));
+        return false;
+    }
+    return collectExecutables(location, folder, m_executables, {},
                               [&location, &folder](const QString&) { location.installFolder = folder; });
 }
 

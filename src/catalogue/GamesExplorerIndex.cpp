@@ -2,6 +2,7 @@
 
 #include "support/Logger.h"
 #include "support/RegistryKey.h"
+#include "support/Trace.h"
 
 namespace {
 
@@ -50,6 +51,7 @@ const GamesExplorerIndex::Catalogue& GamesExplorerIndex::catalogue() {
 }
 
 void GamesExplorerIndex::build(Catalogue& catalogue) {
+    Trace::IndexSection section("GamesExplorer");
     Logger logger = Logger::create("Quorvan.Finders.GameForWindow");
     for (const quint32 view : views) {
         readEntries(view, catalogue.entries, logger);
@@ -59,5 +61,7 @@ void GamesExplorerIndex::build(Catalogue& catalogue) {
     }
     for (const GamesExplorerEntry& entry : catalogue.entries) {
         catalogue.titles.add(entry.title, entry);
+        Trace::entry(entry.title, entry.configApplicationPath);
     }
+    section.setEntries(catalogue.entries.size());
 }

@@ -3,6 +3,9 @@
 #include "support/Clock.h"
 #include "support/Paths.h"
 #include "support/Platform.h"
+#include "support/Trace.h"
+
+#include <QJsonArray>
 
 #include <algorithm>
 #include <vector>
@@ -32,6 +35,53 @@ bool leadsBack(const QString& link, const QStringList& way) {
         return Platform::fileIdentity(folder, identity) && identity.volume == target.volume &&
                identity.index == target.index;
     });
+}
+
+bool namesItself(const Platform::FolderEntry& entry) {
+    return entry.name == QLatin1String(".") || entry.name == QLatin1String("..");
+}
+
+/// Tells the trace what a folder holds, when the folder has been gone through.
+class WalkTrace {
+public:
+    explicit WalkTrace(const QString& folder)
+        : m_folder(folder) {}
+
+    ~WalkTrace();
+
+    void add(const Platform::FolderEntry& entry);
+
+private:
+    Q_DISABLE_COPY_MOVE(WalkTrace)
+
+    QString m_folder;
+    QJsonArray m_folders;
+    QJsonArray m_files;
+    QJsonArray m_hidden;
+    QJsonArray m_system;
+};
+
+void WalkTrace::add(const Platform::FolderEntry& entry) {
+    if (!Trace::isOn() || namesItself(entry)) {
+        return;
+    }
+    ((entry.attributes & Platform::attributeFolder) != 0 ? m_folders : m_files).append(entry.name);
+    if ((entry.attributes & Platform::attributeHidden) != 0) {
+        m_hidden.append(entry.name);
+    }
+    if ((entry.attributes & Platform::attributeSystem) != 0) {
+        m_system.append(entry.name);
+    }
+}
+
+WalkTrace::~WalkTrace() {
+    if (Trace::isOn()) {
+        Trace::tell("walk", {{QStringLiteral("path"), m_folder},
+                             {QStringLiteral("folders"), m_folders},
+                             {QStringLiteral("files"), m_files},
+                             {QStringLiteral("hidden"), m_hidden},
+                             {QStringLiteral("system"), m_system}});
+    }
 }
 
 class ShortcutWalk {
@@ -72,12 +122,14 @@ bool ShortcutWalk::walk(const QString& root) {
 bool ShortcutWalk::visit(const Folder& folder) {
     const QStringList way = folder.way + QStringList{folder.path};
     std::vector<Folder> folders;
+    WalkTrace trace(folder.path);
     Platform::FolderEntry entry;
     const Platform::ListingHandle listing = Platform::firstEntry(folder.path, entry);
     for (bool isThere = listing != nullptr; isThere; isThere = Platform::nextEntry(listing, entry)) {
         if (isTimeOver()) {
             return false;
         }
+        trace.add(entry);
         const QString path = pathIn(folder.path, entry.name);
         take(entry, path);
         if (isToBeWalked(entry, path, way)) {
@@ -99,8 +151,7 @@ void ShortcutWalk::take(const Platform::FolderEntry& entry, const QString& path)
 }
 
 bool ShortcutWalk::isToBeWalked(const Platform::FolderEntry& entry, const QString& path, const QStringList& way) const {
-    if ((entry.attributes & Platform::attributeFolder) == 0 || entry.name == QLatin1String(".") ||
-        entry.name == QLatin1String("..")) {
+    if ((entry.attributes & Platform::attributeFolder) == 0 || namesItself(entry)) {
         return false;
     }
     return (entry.attributes & Platform::attributeLink) == 0 || !leadsBack(path, way);
@@ -111,5 +162,8 @@ bool ShortcutWalk::isToBeWalked(const Platform::FolderEntry& entry, const QStrin
 QStringList shortcutsBelow(const QString& folder, quint64 limitMs) {
     ShortcutWalk walk(limitMs);
     const bool isComplete = !folder.isEmpty() && walk.walk(Paths::toNative(folder));
+    if (!isComplete && !folder.isEmpty()) {
+        Trace::note("%ls took too long to walk, so its shortcuts are left out.", qUtf16Printable(folder));
+    }
     return isComplete ? walk.shortcuts() : QStringList();
 }

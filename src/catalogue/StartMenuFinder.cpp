@@ -2,10 +2,10 @@
 
 #include "catalogue/StartMenuIndex.h"
 #include "core/LocationFilling.h"
+#include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
-
-#include <QFileInfo>
+#include "support/Trace.h"
 
 #include <algorithm>
 
@@ -21,12 +21,16 @@ StartMenuFinder::StartMenuFinder(Logger* logger, StartMenuIndex* index, const QS
 
 bool StartMenuFinder::find(GameLocation& location) {
     const std::vector<const QString*> shortcuts = m_index->findByName(m_name, m_matchMode);
+    if (shortcuts.empty()) {
+        Trace::note("No shortcut of the Start menu %s \"%ls\".", MatchMode::words(m_matchMode),
+                    qUtf16Printable(m_name));
+    }
     return std::any_of(shortcuts.begin(), shortcuts.end(),
                        [this, &location](const QString* shortcut) { return follow(*shortcut, location); });
 }
 
 bool StartMenuFinder::follow(const QString& shortcut, GameLocation& location) const {
-    const QString target = QFileInfo(shortcut).symLinkTarget();
+    const QString target = Files::shortcutTarget(shortcut);
     resetLocation(location);
     bool found = false;
     for (const QString& executable : m_executables) {
@@ -37,6 +41,9 @@ bool StartMenuFinder::follow(const QString& shortcut, GameLocation& location) co
         location.installFolder = Paths::absoluteFolderOf(target);
         logger().logAlways("StartMenu: Found %ls", qUtf16Printable(location.launchCommand));
         found = true;
+    }
+    if (!found) {
+        Trace::note("The shortcut %ls leads to none of the executables.", qUtf16Printable(shortcut));
     }
     return found;
 }

@@ -4,6 +4,7 @@
 #include "support/KnownFolders.h"
 #include "support/Paths.h"
 #include "support/Platform.h"
+#include "support/Trace.h"
 
 namespace {
 
@@ -31,10 +32,13 @@ const StartMenuIndex::Catalogue& StartMenuIndex::catalogue() {
 }
 
 void StartMenuIndex::build(Catalogue& catalogue) {
+    Trace::IndexSection section("StartMenu");
     for (const int csidl : startMenus) {
         catalogue.entries += shortcutsBelow(knownFolderPath(csidl), longestWalkMs);
     }
     for (const QString& shortcut : qAsConst(catalogue.entries)) {
         catalogue.names.add(nameOf(shortcut), shortcut);
+        Trace::entry(nameOf(shortcut), shortcut);
     }
+    section.setEntries(static_cast<std::size_t>(catalogue.entries.size()));
 }

@@ -4,6 +4,7 @@
 #include "core/LocationFilling.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
+#include "support/Trace.h"
 
 #include <algorithm>
 
@@ -45,6 +46,10 @@ UninstallFinder::UninstallFinder(Logger* logger, UninstallIndex* index, const QS
 
 bool UninstallFinder::find(GameLocation& location) {
     const std::vector<const UninstallEntry*> entries = m_index->findByName(m_displayName, m_matchMode);
+    if (entries.empty()) {
+        Trace::note("No program of the Uninstall registry %s \"%ls\".", MatchMode::words(m_matchMode),
+                    qUtf16Printable(m_displayName));
+    }
     return std::any_of(entries.begin(), entries.end(),
                        [this, &location](const UninstallEntry* entry) { return findBy(*entry, location); });
 }
@@ -57,6 +62,7 @@ bool UninstallFinder::findInInstallLocation(const UninstallEntry& entry, GameLoc
     resetLocation(location);
     location.installFolder = entry.installLocation;
     if (entry.installLocation.isEmpty()) {
+        Trace::note("%ls tells no install location.", qUtf16Printable(entry.keyPath));
         return false;
     }
     return collectExecutables(location, entry.installLocation, m_executables, {},
@@ -68,6 +74,7 @@ bool UninstallFinder::findInInstallLocation(const UninstallEntry& entry, GameLoc
 
 bool UninstallFinder::findBesideUninstaller(const UninstallEntry& entry, GameLocation& location) const {
     if (!namesUninstaller(entry.uninstallString)) {
+        Trace::note("%ls names no uninstaller in the game's folder.", qUtf16Printable(entry.keyPath));
         return false;
     }
     resetLocation(location);

@@ -2,6 +2,7 @@
 
 #include "support/Logger.h"
 #include "support/RegistryKey.h"
+#include "support/Trace.h"
 
 namespace {
 
@@ -61,6 +62,7 @@ const UninstallIndex::Catalogue& UninstallIndex::catalogue() {
 }
 
 void UninstallIndex::build(Catalogue& catalogue) {
+    Trace::IndexSection section("Uninstall");
     Logger logger = Logger::create("Quorvan.Finders.Uninstall");
     for (const quint32 view : views) {
         for (const quint32 hive : hives) {
@@ -70,5 +72,7 @@ void UninstallIndex::build(Catalogue& catalogue) {
     for (const UninstallEntry& entry : catalogue.entries) {
         catalogue.names.add(entry.displayName, entry);
         catalogue.keyPaths.add(entry.keyPath, entry);
+        Trace::entry(entry.displayName, entry.installLocation);
     }
+    section.setEntries(catalogue.entries.size());
 }

@@ -22,6 +22,7 @@
 #include "stores/UniversalAppFinder.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
+#include "support/Trace.h"
 
 namespace Finders {
 
@@ -36,8 +37,13 @@ struct FindersFactory::State {
     Logger logger = Logger::create("Quorvan.Finders");
 };
 
+std::unique_ptr<FindersFactory::State> FindersFactory::makeState() {
+    Trace::begin(); // first, so that it tells of the state's making
+    return std::make_unique<State>();
+}
+
 FindersFactory::FindersFactory()
-    : m_state(std::make_unique<State>()) {}
+    : m_state(makeState()) {}
 
 FindersFactory::~FindersFactory() = default;
 

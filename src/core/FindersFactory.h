@@ -46,6 +46,8 @@ public:
 private:
     struct State;
 
+    static std::unique_ptr<State> makeState();
+
     std::unique_ptr<State> m_state;
 };
 

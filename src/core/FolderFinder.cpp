@@ -1,11 +1,12 @@
 #include "core/FolderFinder.h"
 
 #include "core/LocationFilling.h"
+#include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
+#include "support/Trace.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace Finders {
 
@@ -16,7 +17,8 @@ FolderFinder::FolderFinder(Logger* logger, const QString& folder, const QStringL
 
 bool FolderFinder::find(GameLocation& location) {
     const QDir dir(m_folder);
-    if (!dir.exists()) {
+    if (!Files::folderExists(dir)) {
+        Trace::note("The folder %ls is missing.", qUtf16Printable(m_folder));
         return false;
     }
 
@@ -24,7 +26,7 @@ bool FolderFinder::find(GameLocation& location) {
     bool found = false;
     for (const QString& executable : qAsConst(m_executables)) {
         const QString path = dir.absoluteFilePath(executable);
-        if (!QFileInfo::exists(path)) {
+        if (!Files::exists(path)) {
             continue;
         }
         const QString native = Paths::toNative(path);
@@ -32,6 +34,9 @@ bool FolderFinder::find(GameLocation& location) {
         addExecutable(location, native, native);
         logger().logAlways("Folder: %ls", qUtf16Printable(path));
         found = true;
+    }
+    if (!found) {
+        noteNoExecutable(m_folder);
     }
     return found;
 }

@@ -1,8 +1,8 @@
 #include "core/LocationFilling.h"
 
+#include "support/Files.h"
 #include "support/Paths.h"
-
-#include <QFile>
+#include "support/Trace.h"
 
 namespace Finders {
 
@@ -12,6 +12,10 @@ void resetLocation(GameLocation& location) {
     location.executablePaths.clear();
     location.installFolder.clear();
     location.hostFlag = false;
+}
+
+void noteNoExecutable(const QString& folder) {
+    Trace::note("None of the executables is in %ls.", qUtf16Printable(folder));
 }
 
 void addExecutable(GameLocation& location, const QString& executable, const QString& launchCommand) {
@@ -29,12 +33,15 @@ bool collectExecutables(GameLocation& location, const QString& folder, const QSt
     bool found = false;
     for (const QString& name : names) {
         const QString candidate = Paths::join(folder, name);
-        if (!QFile::exists(candidate)) {
+        if (!Files::exists(candidate)) {
             continue;
         }
         addExecutable(location, candidate, launchUrl.isEmpty() ? candidate : launchUrl);
         onFound(candidate);
         found = true;
+    }
+    if (!found) {
+        noteNoExecutable(folder);
     }
     return found;
 }

@@ -10,6 +10,9 @@ namespace Finders {
 /// Empties the record, as a finder does once it has a place to look in.
 void resetLocation(GameLocation& location);
 
+/// Tells the trace that none of a finder's executables is in the folder.
+void noteNoExecutable(const QString& folder);
+
 /// Adds one executable that exists. The first one of a record is its main executable, started by `launchCommand`.
 void addExecutable(GameLocation& location, const QString& executable, const QString& launchCommand);
 

@@ -1,5 +1,7 @@
 #include "core/MultiFinder.h"
 
+#include "support/Trace.h"
+
 namespace Finders {
 
 namespace {
@@ -8,6 +10,22 @@ void takeOver(std::vector<std::unique_ptr<IGameFinder>>& finders, std::unique_pt
     if (finder) {
         finders.push_back(std::move(finder));
     }
+}
+
+QJsonObject tracedNumber(std::size_t number) {
+    return {{QStringLiteral("what"), QStringLiteral("finder")}, {QStringLiteral("number"), static_cast<int>(number)}};
+}
+
+bool tracedFind(IGameFinder& finder, std::size_t number, GameLocation& location) {
+    if (!Trace::isOn()) {
+        return finder.find(location);
+    }
+    QJsonObject fields = tracedNumber(number);
+    Trace::tell("begin", fields);
+    const bool found = finder.find(location);
+    fields.insert(QStringLiteral("found"), found);
+    Trace::tell("end", fields);
+    return found;
 }
 
 } // namespace
@@ -41,11 +59,12 @@ MultiFinder::~MultiFinder() {
 }
 
 bool MultiFinder::find(GameLocation& location) {
-    for (const std::unique_ptr<IGameFinder>& finder : m_finders) {
-        if (finder->find(location)) {
+    for (std::size_t i = 0; i < m_finders.size(); ++i) {
+        if (tracedFind(*m_finders[i], i + 1, location)) {
             return true;
         }
-        if (!finder->userLocation().isEmpty()) {
+        if (!m_finders[i]->userLocation().isEmpty()) {
+            Trace::note("The user has chosen a folder for this game, so no other finder is asked.");
             return false;
         }
     }

@@ -1,11 +1,13 @@
 #include "core/UserProvidedLocationFinder.h"
 
 #include "core/LocationFilling.h"
+#include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
+#include "support/Platform.h"
+#include "support/Trace.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSettings>
 
 namespace Finders {
@@ -22,7 +24,11 @@ public:
 
     ~Choices() { m_settings.sync(); }
 
-    QString value(const QString& key) const { return m_settings.value(key, emptyText()).toString(); }
+    /// On a recorded PC, what is not in the settings of who replays it can be in those that were recorded.
+    QString value(const QString& key) const {
+        const QString recorded = Platform::recordedUserLocation(key);
+        return m_settings.value(key, recorded.isEmpty() ? emptyText() : recorded).toString();
+    }
 
     void setValue(const QString& key, const QString& folder) { m_settings.setValue(key, folder); }
 
@@ -63,6 +69,7 @@ bool UserProvidedLocationFinder::find(GameLocation& location) {
     resetLocation(location);
     location.installFolder = folder;
     if (folder.isEmpty()) {
+        Trace::note("The user has chosen no folder for this game.");
         return false;
     }
     const auto logFound = [this](const QString& executable) {
@@ -76,7 +83,14 @@ bool UserProvidedLocationFinder::find(GameLocation& location) {
 }
 
 QString UserProvidedLocationFinder::userLocation() {
-    return m_key.isEmpty() ? Choices::emptyText() : Choices().value(m_key).trimmed();
+    if (m_key.isEmpty()) {
+        return Choices::emptyText();
+    }
+    const QString folder = Choices().value(m_key).trimmed();
+    if (Trace::isOn()) {
+        Trace::tell("userLocation", {{QStringLiteral("key"), m_key}, {QStringLiteral("path"), folder}});
+    }
+    return folder;
 }
 
 void UserProvidedLocationFinder::setUserLocation(const QString& path) {
@@ -94,12 +108,12 @@ void UserProvidedLocationFinder::setUserLocation(const QString& path) {
 
 QString UserProvidedLocationFinder::installFolderFor(const QString& path) const {
     for (const QString& executable : m_executables) {
-        if (QFile::exists(Paths::join(path, executable))) {
+        if (Files::exists(Paths::join(path, executable))) {
             return path;
         }
         const int depth = separatorsIn(executable);
         const QString up = path + QString(QLatin1String("/..")).repeated(depth);
-        if (depth > 0 && QFile::exists(Paths::join(up, executable))) {
+        if (depth > 0 && Files::exists(Paths::join(up, executable))) {
             return QDir(up).absolutePath();
         }
     }

@@ -1,9 +1,8 @@
 #include "runtimes/RuntimeLocators.h"
 
-#include "support/Platform.h"
+#include "support/Environment.h"
+#include "support/Files.h"
 #include "support/RegistryKey.h"
-
-#include <QFile>
 
 namespace Runtimes {
 
@@ -19,12 +18,12 @@ constexpr RegistrySource lumavex{View::view64, Hive::currentUser, u"Software\\Lu
 } // namespace
 
 QString oculusRuntimeFolder() {
-    const QString base = Platform::systemEnvironment().value(QStringLiteral("OculusBase"));
+    const QString base = environmentVariable(QStringLiteral("OculusBase"));
     if (base.isEmpty()) {
         return {};
     }
     const QString folder = base + QLatin1String("/Support/oculus-runtime");
-    return QFile::exists(folder + QLatin1String("/LibOVRRT64_1.dll")) ? folder : QString();
+    return Files::exists(folder + QLatin1String("/LibOVRRT64_1.dll")) ? folder : QString();
 }
 
 QString varjoRuntimeFolder() {

@@ -3,7 +3,9 @@
 #include "catalogue/UninstallIndex.h"
 #include "core/LocationFilling.h"
 #include "steam/SteamLibraryIndex.h"
+#include "support/Files.h"
 #include "support/Logger.h"
+#include "support/Trace.h"
 
 #include <QDir>
 
@@ -24,7 +26,11 @@ bool SteamFinder::find(GameLocation& location) {
 
 bool SteamFinder::findByUninstallEntry(GameLocation& location) const {
     const QString keyPath = UninstallIndex::rootKeyPath() + QLatin1String("\\Steam App ") + m_appId;
-    for (const UninstallEntry* entry : m_uninstallIndex->findByKeyPath(keyPath)) {
+    const std::vector<const UninstallEntry*> entries = m_uninstallIndex->findByKeyPath(keyPath);
+    if (entries.empty()) {
+        Trace::note("The Uninstall registry has no program under \"Steam App %ls\".", qUtf16Printable(m_appId));
+    }
+    for (const UninstallEntry* entry : entries) {
         if (!entry->uninstallString.isEmpty() && findIn(entry->installLocation.trimmed(), location)) {
             return true;
         }
@@ -34,9 +40,14 @@ bool SteamFinder::findByUninstallEntry(GameLocation& location) const {
 
 bool SteamFinder::findInLibraries(GameLocation& location) const {
     if (m_installFolderName.isEmpty()) {
+        Trace::note("No folder's name is given, so no library is searched.");
         return false;
     }
-    for (const SteamAppEntry* entry : m_steamIndex->findByAppId(m_appId)) {
+    const std::vector<const SteamAppEntry*> entries = m_steamIndex->findByAppId(m_appId);
+    if (entries.empty()) {
+        Trace::note("No Steam library has the app %ls.", qUtf16Printable(m_appId));
+    }
+    for (const SteamAppEntry* entry : entries) {
         if (findIn(QDir(entry->commonFolder).absoluteFilePath(m_installFolderName), location)) {
             return true;
         }
@@ -47,7 +58,8 @@ bool SteamFinder::findInLibraries(GameLocation& location) const {
 bool SteamFinder::findIn(const QString& folder, GameLocation& location) const {
     resetLocation(location);
     location.installFolder = folder;
-    if (folder.isEmpty() || !QDir(folder).exists()) {
+    if (folder.isEmpty() || !Files::folderExists(QDir(folder))) {
+        Trace::note("The install folder \"%ls\" is missing.", qUtf16Printable(folder));
         return false;
     }
     const QString launchUrl = QLatin1String("steam://launch/") + m_appId;

@@ -1,7 +1,7 @@
 #include "steam/SteamLibraryFolders.h"
 
+#include "support/Files.h"
 #include "support/Text.h"
-#include "support/WholeFile.h"
 
 #include <QDir>
 
@@ -22,12 +22,12 @@ std::optional<QString> libraryIn(const QString& line) {
 } // namespace
 
 QStringList parseLibraryFolders(const QString& vdfPath) {
-    const QString text = QString::fromUtf8(readWholeFile(vdfPath).constData()); // up to the first 0
+    const QString text = QString::fromUtf8(Files::readAll(vdfPath).constData()); // up to the first 0
     QStringList folders;
     const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (const QString& line : lines) {
         const std::optional<QString> library = libraryIn(line);
-        if (library && QDir(*library).exists()) {
+        if (library && Files::folderExists(QDir(*library))) {
             folders.append(QDir(*library).absolutePath() + QLatin1String("/steamapps"));
         }
     }

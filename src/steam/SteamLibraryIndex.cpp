@@ -2,10 +2,10 @@
 
 #include "steam/SteamLibraryFolders.h"
 #include "steam/SteamLocator.h"
+#include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
-
-#include <QDir>
+#include "support/Trace.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ QStringList libraryFolders(Logger& logger) {
 void readApps(const QString& folder, std::list<SteamAppEntry>& entries, Logger& logger) {
     const QLatin1String prefix("appmanifest_");
     logger.logAlways("Library Folder: %ls", qUtf16Printable(folder));
-    const QStringList manifests = QDir(folder).entryList({QStringLiteral("*.acf")}, QDir::Files, QDir::Unsorted);
+    const QStringList manifests = Files::names(folder, QStringLiteral("*.acf"));
     for (const QString& manifest : manifests) {
         if (!manifest.startsWith(prefix)) {
             continue;
@@ -52,6 +52,7 @@ const SteamLibraryIndex::Catalogue& SteamLibraryIndex::catalogue() {
 }
 
 void SteamLibraryIndex::build(Catalogue& catalogue) {
+    Trace::IndexSection section("SteamLibraries");
     Logger logger = Logger::create("Quorvan.Finders.SteamGames");
     const QStringList folders = libraryFolders(logger);
     for (const QString& folder : folders) {
@@ -62,5 +63,7 @@ void SteamLibraryIndex::build(Catalogue& catalogue) {
     }
     for (const SteamAppEntry& entry : catalogue.entries) {
         catalogue.appIds.add(entry.appId, entry);
+        Trace::entry(entry.appId, entry.commonFolder);
     }
+    section.setEntries(catalogue.entries.size());
 }

@@ -3,12 +3,11 @@
 #include "catalogue/StartMenuFinder.h"
 #include "catalogue/StartMenuIndex.h"
 #include "core/GameLocation.h"
+#include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
 #include "support/RegistryKey.h"
 #include "support/Text.h"
-
-#include <QFile>
 
 namespace {
 
@@ -49,7 +48,7 @@ QString findSteamExecutable(Logger& logger) {
         }
         const QString path = executableOf(command);
         logger.logAlways("SteamExeFinder: Checking %ls", qUtf16Printable(path));
-        if (QFile::exists(path)) {
+        if (Files::exists(path)) {
             return path;
         }
     }

@@ -1,10 +1,10 @@
 #include "steam/SteamVrAlternativeFinder.h"
 
 #include "core/LocationFilling.h"
+#include "support/Files.h"
 #include "support/RegistryKey.h"
 
 #include <QDebug>
-#include <QFile>
 
 #include <optional>
 
@@ -59,7 +59,7 @@ bool SteamVrAlternativeFinder::find(GameLocation& location) {
         return false;
     }
     const QString server = *folder + QLatin1String("bin\\win64\\vrserver.exe");
-    if (!QFile::exists(server)) {
+    if (!Files::exists(server)) {
         return false;
     }
     location.installFolder = *folder;

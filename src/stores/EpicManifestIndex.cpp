@@ -1,14 +1,14 @@
 #include "stores/EpicManifestIndex.h"
 
 #include "stores/EpicManifest.h"
+#include "support/Files.h"
 #include "support/KnownFolders.h"
 #include "support/Logger.h"
 #include "support/Platform.h"
 #include "support/RegistryKey.h"
-#include "support/WholeFile.h"
+#include "support/Trace.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <optional>
 
@@ -26,10 +26,10 @@ QString manifestFolder() {
     return knownFolderPath(Platform::csidlCommonAppData) + QLatin1String("/Epic/EpicGamesLauncher/Data/Manifests");
 }
 
-void readManifest(const QFileInfo& file, std::list<EpicAppEntry>& entries, Logger& logger) {
-    std::optional<EpicAppEntry> entry = parseEpicManifest(readWholeFile(file.filePath()));
+void readManifest(const QDir& folder, const QString& name, std::list<EpicAppEntry>& entries, Logger& logger) {
+    std::optional<EpicAppEntry> entry = parseEpicManifest(Files::readAll(folder.filePath(name)));
     if (!entry) {
-        logger.logWarning("  Skipped invalid manifest: %ls", qUtf16Printable(file.fileName()));
+        logger.logWarning("  Skipped invalid manifest: %ls", qUtf16Printable(name));
         return;
     }
     if (entry->AppName.isEmpty() && entry->InstallLocation.isEmpty()) {
@@ -54,18 +54,20 @@ const EpicManifestIndex::Catalogue& EpicManifestIndex::catalogue() {
 }
 
 void EpicManifestIndex::build(Catalogue& catalogue) {
+    Trace::IndexSection section("EpicManifests");
     Logger logger = Logger::create("Quorvan.Finders.EpicStore");
     const QString folder = manifestFolder();
     logger.logAlways("MetaDir Folder: %ls", qUtf16Printable(folder));
-    const QFileInfoList files =
-        QDir(folder).entryInfoList({QStringLiteral("*.item")}, QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
-    for (const QFileInfo& file : files) {
-        readManifest(file, catalogue.entries, logger);
+    const QStringList manifests = Files::names(folder, QStringLiteral("*.item"));
+    for (const QString& manifest : manifests) {
+        readManifest(QDir(folder), manifest, catalogue.entries, logger);
     }
     if (catalogue.entries.empty()) {
         logger.logAlways("No apps");
     }
     for (const EpicAppEntry& entry : catalogue.entries) {
         catalogue.names.add(entry.DisplayName, entry);
+        Trace::entry(entry.DisplayName, entry.InstallLocation);
     }
+    section.setEntries(catalogue.entries.size());
 }

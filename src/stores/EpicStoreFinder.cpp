@@ -3,6 +3,7 @@
 #include "core/LocationFilling.h"
 #include "stores/EpicManifestIndex.h"
 #include "support/Logger.h"
+#include "support/Trace.h"
 
 #include <algorithm>
 
@@ -29,9 +30,14 @@ EpicStoreFinder::EpicStoreFinder(Logger* logger, EpicManifestIndex* index, const
 
 bool EpicStoreFinder::find(GameLocation& location) {
     if (m_name.isEmpty()) {
+        Trace::note("No name is given.");
         return false;
     }
     const std::vector<const EpicAppEntry*> entries = m_index->findByName(m_name, m_matchMode);
+    if (entries.empty()) {
+        Trace::note("No manifest of the Epic launcher %s \"%ls\".", MatchMode::words(m_matchMode),
+                    qUtf16Printable(m_name));
+    }
     return std::any_of(entries.begin(), entries.end(),
                        [this, &location](const EpicAppEntry* entry) { return findBy(*entry, location); });
 }
@@ -39,6 +45,7 @@ bool EpicStoreFinder::find(GameLocation& location) {
 bool EpicStoreFinder::findBy(const EpicAppEntry& entry, GameLocation& location) const {
     const QString& folder = entry.InstallLocation;
     if (folder.isEmpty()) {
+        Trace::note("The manifest of %ls tells no install location.", qUtf16Printable(entry.AppName));
         return false;
     }
     resetLocation(location);

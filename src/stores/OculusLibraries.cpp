@@ -1,8 +1,10 @@
 #include "stores/OculusLibraries.h"
 
+#include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Platform.h"
 #include "support/RegistryKey.h"
+#include "support/Trace.h"
 
 #include <QDir>
 #include <QMap>
@@ -14,6 +16,12 @@ namespace {
 /// The roots ("D:\") of the drives by the names of their volumes.
 using VolumeMap = QMap<QString, QString>;
 
+void tellVolume(const QString& drive, const QString& name) {
+    if (Trace::isOn()) {
+        Trace::tell("volume", {{QStringLiteral("drive"), drive}, {QStringLiteral("name"), name}});
+    }
+}
+
 VolumeMap mountedVolumes() {
     VolumeMap volumes;
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
@@ -22,6 +30,7 @@ VolumeMap mountedVolumes() {
         if (Platform::volumeName(root, name.data())) {
             name.back() = u'\0';
             volumes.insert(QString::fromUtf16(name.data()), root);
+            tellVolume(root, QString::fromUtf16(name.data()));
         }
     }
     return volumes;
@@ -42,8 +51,8 @@ void addLibrary(const QString& registered, const VolumeMap& volumes, QStringList
     const QString manifests = QStringLiteral("Manifests");
     const QString path = withDrive(registered, volumes);
     QDir library(path);
-    const bool hasSoftware = library.exists(software);
-    const bool hasManifests = library.exists(manifests);
+    const bool hasSoftware = Files::exists(library.filePath(software));
+    const bool hasManifests = Files::exists(library.filePath(manifests));
     if (hasSoftware && hasManifests) {
         library.cd(manifests); // where a file has the name, the library itself is taken
         folders.append(library.absolutePath());

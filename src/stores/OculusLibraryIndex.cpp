@@ -1,17 +1,17 @@
 #include "stores/OculusLibraryIndex.h"
 
 #include "stores/OculusLibraries.h"
+#include "support/Files.h"
 #include "support/Logger.h"
+#include "support/Trace.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 namespace {
 
 void readApps(const QString& folder, std::list<OculusAppEntry>& entries, Logger& logger) {
     logger.logAlways("Library Folder: %ls", qUtf16Printable(folder));
-    const QStringList manifests =
-        QDir(folder).entryList({QStringLiteral("*.json.mini")}, QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
+    const QStringList manifests = Files::names(folder, QStringLiteral("*.json.mini"));
     for (const QString& manifest : manifests) {
         entries.push_back({QFileInfo(manifest).baseName(), folder});
         logger.logAlways("  App ID: %ls", qUtf16Printable(entries.back().appId));
@@ -47,9 +47,12 @@ const OculusLibraryIndex::Catalogue& OculusLibraryIndex::catalogue() {
 }
 
 void OculusLibraryIndex::build(Catalogue& catalogue) {
+    Trace::IndexSection section("OculusLibraries");
     Logger logger = Logger::create("Quorvan.Finders.OculusStore");
     readLibraries(catalogue.entries, logger);
     for (const OculusAppEntry& entry : catalogue.entries) {
         catalogue.appIds.add(entry.appId, entry);
+        Trace::entry(entry.appId, entry.manifestsFolder);
     }
+    section.setEntries(catalogue.entries.size());
 }

@@ -2,7 +2,9 @@
 
 #include "core/LocationFilling.h"
 #include "stores/OculusLibraryIndex.h"
+#include "support/Files.h"
 #include "support/Logger.h"
+#include "support/Trace.h"
 
 #include <QDir>
 
@@ -22,9 +24,13 @@ OculusStoreFinder::OculusStoreFinder(Logger* logger, OculusLibraryIndex* index, 
 
 bool OculusStoreFinder::find(GameLocation& location) {
     if (m_softwareFolder.isEmpty()) {
+        Trace::note("No software folder is given, so no library is searched.");
         return false;
     }
     const std::vector<const OculusAppEntry*> entries = m_index->findByAppId(m_appId);
+    if (entries.empty()) {
+        Trace::note("No Oculus library has the app %ls.", qUtf16Printable(m_appId));
+    }
     return std::any_of(entries.begin(), entries.end(),
                        [this, &location](const OculusAppEntry* entry) { return findBy(*entry, location); });
 }
@@ -37,7 +43,9 @@ bool OculusStoreFinder::findBy(const OculusAppEntry& entry, GameLocation& locati
 
     resetLocation(location);
     location.installFolder = folder;
-    if (!isThere || folder.isEmpty() || !QDir(folder).exists()) {
+    if (!isThere || folder.isEmpty() || !Files::folderExists(QDir(folder))) {
+        Trace::note("The folder %ls is missing beside %ls.", qUtf16Printable(m_softwareFolder),
+                    qUtf16Printable(entry.manifestsFolder));
         return false;
     }
     return collectExecutables(location, folder, m_executables, {}, [this, &location](const QString&) {

@@ -4,8 +4,22 @@
 #include "stores/PackageFunctions.h"
 #include "stores/PackageQueries.h"
 #include "support/Logger.h"
+#include "support/Trace.h"
 
 namespace Finders {
+
+namespace {
+
+void tellPackage(const QString& family, bool isSupported, const QString& fullName, const QString& applicationId) {
+    if (Trace::isOn()) {
+        Trace::tell("package", {{QStringLiteral("family"), family},
+                                {QStringLiteral("supported"), isSupported},
+                                {QStringLiteral("fullName"), fullName},
+                                {QStringLiteral("applicationId"), applicationId}});
+    }
+}
+
+} // namespace
 
 UniversalAppFinder::UniversalAppFinder(Logger* logger, const QString& packageFamily)
     : AbstractFinder(logger)
@@ -14,11 +28,14 @@ UniversalAppFinder::UniversalAppFinder(Logger* logger, const QString& packageFam
 bool UniversalAppFinder::find(GameLocation& location) {
     const PackageFunctions functions = systemPackageFunctions();
     const QString fullName = QString::fromStdU16String(packageFullNameOf(m_packageFamily, functions));
+    const QString family = QString::fromStdU16String(m_packageFamily);
     if (fullName.isEmpty()) {
-        logger().logAlways("UAPP: Not found '%ls'", qUtf16Printable(QString::fromStdU16String(m_packageFamily)));
+        tellPackage(family, functions.getPackagesByPackageFamily != nullptr, fullName, QString());
+        logger().logAlways("UAPP: Not found '%ls'", qUtf16Printable(family));
         return false;
     }
     const QString appId = QString::fromStdU16String(applicationIdOf(fullName.toStdU16String(), functions));
+    tellPackage(family, true, fullName, appId);
     logger().logAlways("UAPP: Checking '%ls' '%ls'", qUtf16Printable(fullName), qUtf16Printable(appId));
     if (appId.isEmpty()) {
         return false;

@@ -2,6 +2,7 @@
 
 #include "support/Paths.h"
 #include "support/Platform.h"
+#include "support/Trace.h"
 
 #include <array>
 
@@ -33,7 +34,11 @@ int csidlOf(int kind) {
 } // namespace
 
 QString knownFolderPath(int csidl) {
-    return ask(Platform::folderPath, csidl);
+    const QString path = ask(Platform::folderPath, csidl);
+    if (Trace::isOn()) {
+        Trace::tell("shellFolder", {{QStringLiteral("csidl"), csidl}, {QStringLiteral("path"), path}});
+    }
+    return path;
 }
 
 QString makeMakerFolderPath(int kind, const QString& sub) {

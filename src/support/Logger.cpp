@@ -1,6 +1,7 @@
 #include "support/Logger.h"
 
 #include "support/RegistryKey.h"
+#include "support/Trace.h"
 
 #include <QString>
 
@@ -24,11 +25,12 @@ qint32 readLevel(const QByteArray& name) {
 } // namespace
 
 Logger Logger::create(const QByteArray& name, const LogFileOptions& options) {
-    return Logger(std::make_unique<LogFile>(name, readLevel(name), options));
+    return Logger(name, std::make_unique<LogFile>(name, readLevel(name), options));
 }
 
-Logger::Logger(std::unique_ptr<LogFile> file)
-    : m_file(std::move(file)) {}
+Logger::Logger(const QByteArray& name, std::unique_ptr<LogFile> file)
+    : m_name(name)
+    , m_file(std::move(file)) {}
 
 void Logger::logAlways(const char* format, ...) {
     va_list arguments;
@@ -58,5 +60,11 @@ void Logger::logWarning(const char* format, ...) {
 }
 
 void Logger::write(char letter, const char* format, va_list arguments) {
-    m_file->writeLine(letter, QString::vasprintf(format, arguments).toUtf8());
+    const QString text = QString::vasprintf(format, arguments);
+    m_file->writeLine(letter, text.toUtf8());
+    if (Trace::isOn()) {
+        Trace::tell("log", {{QStringLiteral("logger"), QString::fromLatin1(m_name)},
+                            {QStringLiteral("level"), QString(QLatin1Char(letter))},
+                            {QStringLiteral("text"), text}});
+    }
 }

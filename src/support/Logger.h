@@ -31,9 +31,10 @@ public:
     const QString& path() const { return m_file->path(); }
 
 private:
-    explicit Logger(std::unique_ptr<LogFile> file);
+    Logger(const QByteArray& name, std::unique_ptr<LogFile> file);
 
     void write(char letter, const char* format, va_list arguments);
 
+    QByteArray m_name;
     std::unique_ptr<LogFile> m_file;
 };

@@ -8,6 +8,11 @@
 /// How a searched name must fit a catalogue's name. Letter case never matters.
 namespace MatchMode {
 constexpr int contains = 1; ///< the catalogue's name must contain the searched one; any other number: equal it
+
+/// The mode in words, for the trace: "is named", or what containing is.
+inline const char* words(int matchMode) {
+    return matchMode == contains ? "has a name that contains" : "is named";
+}
 } // namespace MatchMode
 
 namespace Text {

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QProcessEnvironment>
 #include <QString>
+#include <QStringList>
 #include <QtGlobal>
 
 #include <memory>
@@ -111,6 +112,12 @@ QProcessEnvironment systemEnvironment();
 
 /// GetVolumeNameForVolumeMountPointW with a buffer of maxPath characters. False on failure.
 bool volumeName(const QString& mountPoint, char16_t* buffer);
+
+/// The folders that the user of a recorded PC chose for games, which on Windows are in the user's settings: by the key
+/// of the game, letter case ignored as there. Empty when there is none, and always on Windows.
+QString recordedUserLocation(const QString& key);
+
+QStringList recordedUserLocationKeys();
 
 // ---- Version resources ----
 

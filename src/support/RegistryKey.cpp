@@ -38,12 +38,14 @@ QString textOf(const char16_t* buffer, std::size_t most) {
 RegistryKey RegistryKey::open(const QString& subKey, quint32 hive, quint32 view) {
     RegistryKey key;
     key.m_status = Platform::openKey(rootOf(hive), subKey, accessOf(view), key.m_handle);
+    key.m_traced = TracedKey(subKey, hive, view, key.m_status);
     return key;
 }
 
 RegistryKey RegistryKey::open(const char* subKey, quint32 hive, quint32 view) {
     RegistryKey key;
     key.m_status = Platform::openKeyNarrow(rootOf(hive), subKey, accessOf(view), key.m_handle);
+    key.m_traced = TracedKey(QString::fromLatin1(subKey), hive, view, key.m_status);
     return key;
 }
 
@@ -54,6 +56,7 @@ bool RegistryKey::readDword(const char* valueName, quint32& value) {
     quint32 type = 0;
     quint32 size = sizeof value;
     m_status = Platform::queryValueNarrow(m_handle, valueName, type, &value, size);
+    m_traced.tellValue(QString::fromLatin1(valueName), m_status, type, &value, size);
     return m_status == Platform::errorSuccess;
 }
 
@@ -78,6 +81,7 @@ bool RegistryKey::readTyped(const QString& valueName, quint32& type, QString& va
     if (m_status == Platform::errorMoreData && type == Platform::regSz) {
         return readLongText(valueName, size, value);
     }
+    m_traced.tellValue(valueName, m_status, type, buffer.data(), size);
     if (m_status != Platform::errorSuccess) {
         return false;
     }
@@ -99,6 +103,7 @@ bool RegistryKey::readLongText(const QString& valueName, quint32 bytes, QString&
     quint32 type = 0;
     auto size = static_cast<quint32>(buffer.size() * sizeof(char16_t));
     m_status = Platform::queryValue(m_handle, valueName, type, buffer.data(), size);
+    m_traced.tellValue(valueName, m_status, type, buffer.data(), size);
     if (m_status != Platform::errorSuccess) {
         return false;
     }
@@ -111,17 +116,24 @@ bool RegistryKey::subKeyNames(QStringList& names) {
     if (!isOpen()) {
         return false;
     }
+    QStringList listed;
+    m_status = listSubKeys(listed);
+    m_traced.tellSubKeys(listed);
+    names += listed;
+    return true;
+}
+
+Platform::ErrorCode RegistryKey::listSubKeys(QStringList& names) const {
     for (quint32 index = 0;; ++index) {
         std::array<char16_t, 256> name{};
         auto length = static_cast<quint32>(name.size());
-        m_status = Platform::enumKey(m_handle, index, name.data(), length);
-        if (m_status == Platform::errorSuccess) {
+        const Platform::ErrorCode status = Platform::enumKey(m_handle, index, name.data(), length);
+        if (status == Platform::errorSuccess) {
             names.append(QString(reinterpret_cast<const QChar*>(name.data()), static_cast<int>(length)));
-        } else if (m_status == Platform::errorNoMoreItems) {
-            m_status = Platform::errorSuccess;
-            return true;
-        } else if (m_status != Platform::errorMoreData) {
-            return true;
+        } else if (status == Platform::errorNoMoreItems) {
+            return Platform::errorSuccess;
+        } else if (status != Platform::errorMoreData) {
+            return status;
         }
     }
 }

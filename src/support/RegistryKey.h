@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Platform.h"
+#include "support/TracedKey.h"
 
 #include <QString>
 #include <QStringList>
@@ -62,7 +63,9 @@ private:
 
     bool readTyped(const QString& valueName, quint32& type, QString& value);
     bool readLongText(const QString& valueName, quint32 bytes, QString& value);
+    Platform::ErrorCode listSubKeys(QStringList& names) const;
 
+    TracedKey m_traced;
     Platform::KeyHandle m_handle;
     Platform::ErrorCode m_status = Platform::errorSuccess;
 };

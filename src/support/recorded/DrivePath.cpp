@@ -1,6 +1,6 @@
 #include "support/recorded/DrivePath.h"
 
-#include "support/recorded/Names.h"
+#include "support/WindowsNames.h"
 
 #include <algorithm>
 
@@ -21,7 +21,7 @@ bool isForbidden(QChar c) {
 }
 
 bool isDevice(const QString& name) {
-    const QString folded = foldName(name);
+    const QString folded = Windows::foldName(name);
     if (folded.size() == 4 && (folded.startsWith(QLatin1String("COM")) || folded.startsWith(QLatin1String("LPT")))) {
         return folded.at(3) >= QLatin1Char('1') && folded.at(3) <= QLatin1Char('9');
     }

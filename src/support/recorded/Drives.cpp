@@ -1,6 +1,6 @@
 #include "support/recorded/Drives.h"
 
-#include "support/recorded/Names.h"
+#include "support/WindowsNames.h"
 
 #include <algorithm>
 #include <tuple>
@@ -23,7 +23,7 @@ std::vector<Entry> entriesOf(const QByteArray& folder) {
 std::vector<std::pair<QString, Entry>> sortedEntries(const QByteArray& folder) {
     std::vector<std::pair<QString, Entry>> sorted; // by folded name
     for (Entry& entry : entriesOf(folder)) {
-        QString folded = foldName(entry.name);
+        QString folded = Windows::foldName(entry.name);
         sorted.emplace_back(std::move(folded), std::move(entry));
     }
     std::sort(sorted.begin(), sorted.end(), [](const auto& a, const auto& b) {
@@ -38,10 +38,10 @@ std::vector<std::pair<QString, Entry>> sortedEntries(const QByteArray& folder) {
 
 // The entry of `folder` that Windows would find under `name`; empty when there is none.
 QByteArray nameIgnoringCase(const QByteArray& folder, const QString& name) {
-    const QString folded = foldName(name);
+    const QString folded = Windows::foldName(name);
     QString best;
     for (const Entry& entry : entriesOf(folder)) {
-        if (foldName(entry.name) == folded && (best.isEmpty() || entry.name < best)) {
+        if (Windows::foldName(entry.name) == folded && (best.isEmpty() || entry.name < best)) {
             best = entry.name;
         }
     }
@@ -76,7 +76,7 @@ QSet<QString> foldedPaths(const QStringList& paths) {
     QSet<QString> folded;
     for (const QString& path : paths) {
         if (const std::optional<DrivePath> parsed = DrivePath::parse(path)) {
-            folded.insert(foldName(parsed->text()));
+            folded.insert(Windows::foldName(parsed->text()));
         }
     }
     return folded;
@@ -142,11 +142,11 @@ std::vector<struct stat> Drives::foldersOnTheWay(DrivePath path) const {
 }
 
 bool Drives::isHidden(const DrivePath& path) const {
-    return m_hidden.contains(foldName(path.text()));
+    return m_hidden.contains(Windows::foldName(path.text()));
 }
 
 bool Drives::isSystem(const DrivePath& path) const {
-    return m_system.contains(foldName(path.text()));
+    return m_system.contains(Windows::foldName(path.text()));
 }
 
 } // namespace Recorded

@@ -1,6 +1,6 @@
 #include "support/recorded/PcDescription.h"
 
-#include "support/Platform.h"
+#include "support/ShellFolderNames.h"
 #include "support/recorded/DrivePath.h"
 #include "support/recorded/Json.h"
 
@@ -10,19 +10,6 @@
 namespace Recorded {
 
 namespace {
-
-struct FolderName {
-    QLatin1String name;
-    int csidl;
-};
-
-const FolderName folderNames[] = {
-    {QLatin1String("personal"), Platform::csidlPersonal},
-    {QLatin1String("startMenu"), Platform::csidlStartMenu},
-    {QLatin1String("commonStartMenu"), Platform::csidlCommonStartMenu},
-    {QLatin1String("localAppData"), Platform::csidlLocalAppData},
-    {QLatin1String("commonAppData"), Platform::csidlCommonAppData},
-};
 
 bool hasControls(const QString& text) {
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x20; });
@@ -53,6 +40,7 @@ private:
     void readVolume(const JsonValue& value, const QString& place);
     void readVariable(const JsonValue& value, const QString& place);
     void readPackage(const JsonValue& value, const QString& place);
+    void readUserLocation(const JsonValue& value, const QString& place);
     void readHost(const JsonValue& value, const QString& place);
     void readVersion(const JsonValue& value, const QString& place);
 
@@ -89,6 +77,8 @@ void Reader::readMember(const JsonValue& value, const QString& place) {
     } else if (value.name == QLatin1String("packages")) {
         m_pc.packages.emplace();
         eachItem(value, place, &Reader::readPackage);
+    } else if (value.name == QLatin1String("userLocations")) {
+        eachMember(value, place, &Reader::readUserLocation);
     } else if (value.name == QLatin1String("host")) {
         eachMember(value, place, &Reader::readHost);
     } else if (value.name == QLatin1String("hidden")) {
@@ -101,9 +91,10 @@ void Reader::readMember(const JsonValue& value, const QString& place) {
 }
 
 void Reader::readShellFolder(const JsonValue& value, const QString& place) {
-    const auto* const folder = std::find_if(std::begin(folderNames), std::end(folderNames),
-                                            [&value](const FolderName& known) { return value.name == known.name; });
-    if (folder == std::end(folderNames)) {
+    const auto* const folder =
+        std::find_if(std::begin(Recording::shellFolders), std::end(Recording::shellFolders),
+                     [&value](const auto& known) { return value.name == QLatin1String(known.name); });
+    if (folder == std::end(Recording::shellFolders)) {
         report(value, place, unknownName());
     } else {
         m_pc.shellFolders.insert(folder->csidl, text(value, place));
@@ -150,6 +141,13 @@ void Reader::readPackage(const JsonValue& value, const QString& place) {
         report(value, place, QStringLiteral("a “family” and a “fullName” are expected"));
     } else {
         m_pc.packages->push_back(std::move(package));
+    }
+}
+
+void Reader::readUserLocation(const JsonValue& value, const QString& place) {
+    const QString folder = text(value, place);
+    if (!folder.isEmpty()) {
+        m_pc.userLocations.insert(value.name, folder);
     }
 }
 

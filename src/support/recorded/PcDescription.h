@@ -29,7 +29,8 @@ struct PcDescription {
     QProcessEnvironment environment;
     std::optional<AppPackages> packages; ///< empty on a system without app packages
     QString hostExecutable;
-    quint64 hostVersion = 0; ///< four numbers of 16 bits; 0 when not known
+    quint64 hostVersion = 0;              ///< four numbers of 16 bits; 0 when not known
+    QMap<QString, QString> userLocations; ///< the folders that the user chose, by the keys of the games
     QStringList hidden;
     QStringList system;
 };

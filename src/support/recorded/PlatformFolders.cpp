@@ -1,3 +1,4 @@
+#include "support/WindowsNames.h"
 #include "support/recorded/RecordedPc.h"
 
 #include <QFile>
@@ -63,6 +64,19 @@ bool volumeName(const QString& mountPoint, char16_t* buffer) {
         return false;
     }
     return copyPath(Recorded::currentPc()->description().volumes.value(mountPoint.at(0).toUpper()), buffer);
+}
+
+QString recordedUserLocation(const QString& key) {
+    const auto pc = Recorded::currentPc();
+    const QMap<QString, QString>& locations = pc->description().userLocations;
+    const auto found = std::find_if(locations.keyBegin(), locations.keyEnd(), [&key](const QString& known) {
+        return Windows::foldName(known) == Windows::foldName(key);
+    });
+    return found != locations.keyEnd() ? locations.value(*found) : QString();
+}
+
+QStringList recordedUserLocationKeys() {
+    return Recorded::currentPc()->description().userLocations.keys();
 }
 
 } // namespace Platform

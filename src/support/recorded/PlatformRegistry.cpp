@@ -50,11 +50,11 @@ const char* rootName(RootKey root) {
     return "HKU";
 }
 
-void observeKey(RootKey root, const QString& subKey, Recorded::RegistryView view) {
+void observeKey(RootKey root, const QString& subKey, Windows::RegistryView view) {
     if (!Recorded::isObserved()) {
         return;
     }
-    const QString bits = view == Recorded::RegistryView::Bits32 ? QStringLiteral("32") : QString();
+    const QString bits = view == Windows::RegistryView::Bits32 ? QStringLiteral("32") : QString();
     Recorded::observe(QLatin1String("key ") + QLatin1String(rootName(root)) + bits + QLatin1Char('\\') + subKey);
 }
 
@@ -107,7 +107,7 @@ void KeyCloser::operator()(void* key) const noexcept {
 ErrorCode openKey(RootKey root, const QString& subKey, quint32 access, KeyHandle& key) {
     key.reset();
     const QString path = terminated(subKey);
-    const auto view = (access & keyWow64_32Key) ? Recorded::RegistryView::Bits32 : Recorded::RegistryView::Bits64;
+    const auto view = (access & keyWow64_32Key) ? Windows::RegistryView::Bits32 : Windows::RegistryView::Bits64;
     observeKey(root, path, view);
     // Windows takes a backslash before the names in the one root that its kernel doesn't know.
     if (path.startsWith(QLatin1Char('\\')) && root != RootKey::ClassesRoot) {

@@ -1,4 +1,4 @@
-#include "support/recorded/Names.h"
+#include "support/WindowsNames.h"
 #include "support/recorded/RecordedPc.h"
 
 #include <cstring>
@@ -30,7 +30,7 @@ bool isSameFile(const QString& a, const QString& b) {
     const auto driveA = Recorded::DrivePath::parse(a);
     const auto driveB = Recorded::DrivePath::parse(b);
     if (driveA && driveB) {
-        return Recorded::foldName(driveA->text()) == Recorded::foldName(driveB->text());
+        return Windows::foldName(driveA->text()) == Windows::foldName(driveB->text());
     }
     return a == b;
 }

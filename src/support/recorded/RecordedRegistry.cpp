@@ -28,7 +28,7 @@ void RecordedRegistry::apply(const std::vector<RegKey>& keys) {
 RegistryNode& RecordedRegistry::nodeToChange(const RegKey& key, QStringList& path) {
     switch (key.root) {
     case RegKey::Root::LocalMachine:
-        path = storedMachinePath(path, RegistryView::Bits64);
+        path = Windows::storedMachinePath(path, Windows::RegistryView::Bits64);
         return m_machine;
     case RegKey::Root::CurrentUser:
         return m_user;
@@ -44,7 +44,7 @@ RegistryNode& RecordedRegistry::nodeToChange(const RegKey& key, QStringList& pat
 }
 
 RecordedRegistry::Layers RecordedRegistry::open(Platform::RootKey root, const QStringList& path,
-                                                RegistryView view) const {
+                                                Windows::RegistryView view) const {
     Layers layers;
     const auto add = [&layers](const RegistryNode* node) {
         if (node) {
@@ -53,14 +53,14 @@ RecordedRegistry::Layers RecordedRegistry::open(Platform::RootKey root, const QS
     };
     switch (root) {
     case Platform::RootKey::LocalMachine:
-        add(m_machine.find(storedMachinePath(path, view)));
+        add(m_machine.find(Windows::storedMachinePath(path, view)));
         break;
     case Platform::RootKey::CurrentUser:
-        add(m_user.find(storedUserPath(path, view)));
+        add(m_user.find(Windows::storedUserPath(path, view)));
         break;
     case Platform::RootKey::ClassesRoot:
-        add(m_user.find(classesPath(storedClassesPath(path, view))));
-        add(m_machine.find(classesPath(storedClassesPath(path, view))));
+        add(m_user.find(classesPath(Windows::storedClassesPath(path, view))));
+        add(m_machine.find(classesPath(Windows::storedClassesPath(path, view))));
         break;
     case Platform::RootKey::Users:
         add(m_users.find(path));

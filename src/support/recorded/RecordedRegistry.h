@@ -1,8 +1,8 @@
 #pragma once
 
 #include "support/Platform.h"
+#include "support/RegistryView.h"
 #include "support/recorded/RegistryTree.h"
-#include "support/recorded/RegistryView.h"
 
 #include <vector>
 
@@ -17,7 +17,7 @@ public:
 
     void apply(const std::vector<RegKey>& keys);
 
-    Layers open(Platform::RootKey root, const QStringList& path, RegistryView view) const;
+    Layers open(Platform::RootKey root, const QStringList& path, Windows::RegistryView view) const;
 
     static const RegistryNode::Value* value(const Layers& key, const QString& name);
 

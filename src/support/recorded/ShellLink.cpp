@@ -1,8 +1,8 @@
 #include "support/recorded/ShellLink.h"
 
+#include "support/WindowsNames.h"
 #include "support/recorded/ByteView.h"
 #include "support/recorded/DrivePath.h"
-#include "support/recorded/Names.h"
 
 #include <QHash>
 
@@ -177,11 +177,11 @@ QString expanded(const QString& text, const QProcessEnvironment& environment) {
     }
     QHash<QString, QString> values; // by folded name
     for (const QString& name : environment.keys()) {
-        values.insert(foldName(name), environment.value(name));
+        values.insert(Windows::foldName(name), environment.value(name));
     }
     QString result = parts.first();
     for (int i = 1; i < parts.size(); i += 2) {
-        const auto value = values.constFind(foldName(parts.at(i)));
+        const auto value = values.constFind(Windows::foldName(parts.at(i)));
         if (value == values.constEnd()) {
             return {};
         }

@@ -10,7 +10,6 @@ target_sources(
             support/recorded/Drives.cpp
             support/recorded/HostFiles.cpp
             support/recorded/Json.cpp
-            support/recorded/Names.cpp
             support/recorded/Observer.cpp
             support/recorded/PcDescription.cpp
             support/recorded/PlatformFiles.cpp
@@ -28,7 +27,6 @@ target_sources(
             support/recorded/RegFile.cpp
             support/recorded/RegText.cpp
             support/recorded/RegistryTree.cpp
-            support/recorded/RegistryView.cpp
             support/recorded/ShellLink.cpp
             support/recorded/Utf8Reader.cpp)
 # Qt's file engines are among its private headers (qtbase5-private-dev).

@@ -65,6 +65,14 @@ bool volumeName(const QString& mountPoint, char16_t* buffer) {
     return ::GetVolumeNameForVolumeMountPointW(wide(mountPoint), reinterpret_cast<wchar_t*>(buffer), maxPath) != 0;
 }
 
+QString recordedUserLocation(const QString& /*key*/) {
+    return {};
+}
+
+QStringList recordedUserLocationKeys() {
+    return {};
+}
+
 // ---- Version resources ----
 
 quint32 fileVersionInfoSize(const QString& path) {

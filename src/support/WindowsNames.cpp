@@ -1,6 +1,6 @@
-#include "support/recorded/Names.h"
+#include "support/WindowsNames.h"
 
-namespace Recorded {
+namespace Windows {
 
 namespace {
 
@@ -33,4 +33,4 @@ QString foldName(const QString& name) {
     return folded;
 }
 
-} // namespace Recorded
+} // namespace Windows

@@ -1,9 +1,9 @@
-#include "support/recorded/RegistryView.h"
+#include "support/RegistryView.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace Recorded {
+namespace Windows {
 
 namespace {
 
@@ -111,4 +111,4 @@ QStringList storedUserPath(const QStringList& path, RegistryView view) {
     return path.mid(0, 2) + storedClassesPath(path.mid(2), view);
 }
 
-} // namespace Recorded
+} // namespace Windows

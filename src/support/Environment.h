@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// An environment variable of the PC on which games are looked for. Empty when there is none.
+QString environmentVariable(const QString& name);

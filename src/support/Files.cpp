@@ -1,0 +1,59 @@
+#include "support/Files.h"
+
+#include "support/Trace.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+
+namespace Files {
+
+namespace {
+
+bool told(const QString& path, bool found) {
+    if (Trace::isOn()) {
+        Trace::tell("exists", {{QStringLiteral("path"), path}, {QStringLiteral("found"), found}});
+    }
+    return found;
+}
+
+} // namespace
+
+bool exists(const QString& path) {
+    return told(path, QFile::exists(path));
+}
+
+bool folderExists(const QDir& folder) {
+    return told(folder.path(), folder.exists());
+}
+
+QStringList names(const QString& folder, const QString& pattern) {
+    // Unsorted, as QDir::NoSort means "as the QDir is told to sort by itself".
+    const QStringList names = QDir(folder).entryList({pattern}, QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
+    if (Trace::isOn()) {
+        Trace::tell("list", {{QStringLiteral("path"), folder},
+                             {QStringLiteral("pattern"), pattern},
+                             {QStringLiteral("names"), QJsonArray::fromStringList(names)}});
+    }
+    return names;
+}
+
+QByteArray readAll(const QString& path) {
+    QFile file(path);
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (Trace::isOn()) {
+        Trace::tell("read", {{QStringLiteral("path"), path}, {QStringLiteral("bytes"), bytes.size()}});
+    }
+    return bytes;
+}
+
+QString shortcutTarget(const QString& path) {
+    const QString target = QFileInfo(path).symLinkTarget();
+    if (Trace::isOn()) {
+        Trace::tell("shortcut", {{QStringLiteral("path"), path}, {QStringLiteral("target"), target}});
+    }
+    return target;
+}
+
+} // namespace Files

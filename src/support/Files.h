@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+class QDir;
+
+/// What finders ask of the file system: Qt's own questions, each told to the trace. Names of files come in the file
+/// system's order.
+namespace Files {
+
+/// QFile::exists: a file or a folder of this name is there; for a shortcut, what it leads to.
+bool exists(const QString& path);
+
+/// QDir::exists: the folder itself is there.
+bool folderExists(const QDir& folder);
+
+/// The names of the folder's files that fit a pattern like "*.acf", without hidden ones; empty when it can't be listed.
+QStringList names(const QString& folder, const QString& pattern);
+
+/// All bytes of a file; empty when it is missing or can't be opened.
+QByteArray readAll(const QString& path);
+
+/// Where a shortcut leads, with forward slashes; empty when it leads nowhere.
+QString shortcutTarget(const QString& path);
+
+} // namespace Files
