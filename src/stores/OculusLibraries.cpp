@@ -59,8 +59,8 @@ void addLibrary(const QString& registered, const VolumeMap& volumes, QStringList
         return;
     }
     logger.logError("OculusStore: Failed to open. UNC: %ls, path: %ls, %d, %d, %d", qUtf16Printable(registered),
-                    qUtf16Printable(path), static_cast<int>(library.exists()), static_cast<int>(hasSoftware),
-                    static_cast<int>(hasManifests));
+                    qUtf16Printable(path), static_cast<int>(Files::folderExists(library)),
+                    static_cast<int>(hasSoftware), static_cast<int>(hasManifests));
 }
 
 } // namespace

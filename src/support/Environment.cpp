@@ -3,12 +3,30 @@
 #include "support/Platform.h"
 #include "support/Trace.h"
 
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+/// The name as the environment spells it: in the environment of a recorded PC, Qt minds letter case. Empty when there
+/// is none.
+QString spelledName(const QStringList& names, const QString& name) {
+    const auto found = std::find_if(names.begin(), names.end(), [&name](const QString& candidate) {
+        return candidate.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found != names.end() ? *found : QString();
+}
+
+} // namespace
+
 QString environmentVariable(const QString& name) {
     const QProcessEnvironment environment = Platform::systemEnvironment();
-    const QString value = environment.value(name);
+    const QString spelled = spelledName(environment.keys(), name);
+    const QString value = spelled.isEmpty() ? QString() : environment.value(spelled);
     if (Trace::isOn()) {
         QJsonObject fields{{QStringLiteral("name"), name}};
-        if (environment.contains(name)) {
+        if (!spelled.isEmpty()) {
             fields.insert(QStringLiteral("value"), value);
         }
         Trace::tell("environment", fields);

@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// An environment variable of the PC on which games are looked for. Empty when there is none.
+/// An environment variable of the PC on which games are looked for, letter case ignored. Empty when there is none.
 QString environmentVariable(const QString& name);

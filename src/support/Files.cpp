@@ -1,5 +1,6 @@
 #include "support/Files.h"
 
+#include "support/Paths.h"
 #include "support/Trace.h"
 
 #include <QDir>
@@ -11,9 +12,13 @@ namespace Files {
 
 namespace {
 
+QPair<QString, QJsonValue> tracedPath(const QString& path) {
+    return {QStringLiteral("path"), Paths::toNative(path)};
+}
+
 bool told(const QString& path, bool found) {
     if (Trace::isOn()) {
-        Trace::tell("exists", {{QStringLiteral("path"), path}, {QStringLiteral("found"), found}});
+        Trace::tell("exists", {tracedPath(path), {QStringLiteral("found"), found}});
     }
     return found;
 }
@@ -32,7 +37,7 @@ QStringList names(const QString& folder, const QString& pattern) {
     // Unsorted, as QDir::NoSort means "as the QDir is told to sort by itself".
     const QStringList names = QDir(folder).entryList({pattern}, QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
     if (Trace::isOn()) {
-        Trace::tell("list", {{QStringLiteral("path"), folder},
+        Trace::tell("list", {tracedPath(folder),
                              {QStringLiteral("pattern"), pattern},
                              {QStringLiteral("names"), QJsonArray::fromStringList(names)}});
     }
@@ -43,7 +48,7 @@ QByteArray readAll(const QString& path) {
     QFile file(path);
     const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (Trace::isOn()) {
-        Trace::tell("read", {{QStringLiteral("path"), path}, {QStringLiteral("bytes"), bytes.size()}});
+        Trace::tell("read", {tracedPath(path), {QStringLiteral("bytes"), bytes.size()}});
     }
     return bytes;
 }
@@ -51,7 +56,7 @@ QByteArray readAll(const QString& path) {
 QString shortcutTarget(const QString& path) {
     const QString target = QFileInfo(path).symLinkTarget();
     if (Trace::isOn()) {
-        Trace::tell("shortcut", {{QStringLiteral("path"), path}, {QStringLiteral("target"), target}});
+        Trace::tell("shortcut", {tracedPath(path), {QStringLiteral("target"), Paths::toNative(target)}});
     }
     return target;
 }

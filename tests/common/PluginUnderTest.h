@@ -8,7 +8,7 @@
 
 #include <memory>
 
-/// The built plug-in, loaded as a host loads it.
+/// The built plug-in, loaded as a host loads it, and unloaded at the end.
 class PluginUnderTest {
 public:
     PluginUnderTest()
@@ -17,7 +17,12 @@ public:
         EXPECT_TRUE(m_create) << m_library.errorString().toStdString();
     }
 
+    ~PluginUnderTest() { m_library.unload(); }
+
     std::unique_ptr<IGameFinderFactory> create() const { return std::unique_ptr<IGameFinderFactory>(m_create()); }
+
+    PluginUnderTest(const PluginUnderTest&) = delete;
+    PluginUnderTest& operator=(const PluginUnderTest&) = delete;
 
 private:
     QLibrary m_library;

@@ -12,6 +12,8 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <future>
+#include <thread>
 
 namespace {
 
@@ -44,6 +46,38 @@ TEST_F(FindersFactoryTest, CreateMakesAFactoryWhoseFolderFinderFindsAGame) {
                                       "D:\\Spiele\\Käferrennen",
                                       false}));
     EXPECT_THAT(pc.messages(logName), ElementsAre("A: Folder: D:/Spiele/Käferrennen/bin\\win64\\kaefer.exe"));
+}
+
+TEST(PluginTest, WhatItFoundOutlivesIt) {
+    TestPc pc;
+    pc.file("D:\\Spiele\\Käferrennen\\kaefer.exe");
+    GameLocation location;
+    {
+        const PluginUnderTest plugin;
+        const auto factory = plugin.create();
+        EXPECT_TRUE(factory->createFolderFinder("D:\\Spiele\\Käferrennen", {"kaefer.exe"})->find(location));
+    }
+    EXPECT_EQ(location.launchCommand, "D:\\Spiele\\Käferrennen\\kaefer.exe");
+    EXPECT_EQ(location.executablePaths, QStringList{"D:\\Spiele\\Käferrennen\\kaefer.exe"});
+}
+
+TEST(PluginTest, AThreadThatAskedItMayOutliveIt) {
+    const TestPc pc;
+    std::promise<void> asked;
+    std::promise<void> unloaded;
+    std::thread thread;
+    {
+        const PluginUnderTest plugin;
+        thread = std::thread([&] {
+            GameLocation location;
+            EXPECT_FALSE(plugin.create()->createUninstallFinder("Wal", {"wal.exe"}, 0)->find(location));
+            asked.set_value();
+            unloaded.get_future().wait();
+        });
+        asked.get_future().wait();
+    }
+    unloaded.set_value();
+    thread.join();
 }
 
 TEST_F(FindersFactoryTest, ALogFileFramesTheFactorysLife) {

@@ -125,6 +125,12 @@ TEST_F(RuntimeLocatorsTest, TheOculusBaseKeepsItsTrailingSeparator) {
     EXPECT_EQ(Runtimes::oculusRuntimeFolder(), "C:\\Oculus\\/Support/oculus-runtime");
 }
 
+TEST_F(RuntimeLocatorsTest, TheOculusBaseIsFoundInAnyLetterCase) {
+    pc.file(oculusLibrary);
+    pc.environment("OCULUSBASE", "C:\\Oculus");
+    EXPECT_EQ(Runtimes::oculusRuntimeFolder(), "C:\\Oculus/Support/oculus-runtime");
+}
+
 TEST_F(RuntimeLocatorsTest, WithoutTheOculusBaseNoLibraryIsLookedFor) {
     pc.file("C:\\Support\\oculus-runtime\\LibOVRRT64_1.dll"); // where an empty base leads to from drive C
     const QString current = QDir::currentPath();

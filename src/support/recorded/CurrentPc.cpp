@@ -9,7 +9,7 @@ namespace {
 class DriveFileEngineHandler : public QAbstractFileEngineHandler {
 public:
     QAbstractFileEngine* create(const QString& path) const override {
-        if (!DrivePath::parse(path)) {
+        if (!Windows::DrivePath::parse(path)) {
             return nullptr;
         }
         std::shared_ptr<const RecordedPc> pc = currentPc();

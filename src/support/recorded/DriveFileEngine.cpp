@@ -61,8 +61,8 @@ DriveFileEngine::DriveFileEngine(std::shared_ptr<const RecordedPc> pc, const QSt
 }
 
 void DriveFileEngine::setFileName(const QString& path) {
-    m_path = withSlashes(path);
-    m_parsed = DrivePath::parse(m_path).value_or(DrivePath{});
+    m_path = Windows::withSlashes(path);
+    m_parsed = Windows::DrivePath::parse(m_path).value_or(Windows::DrivePath{});
     m_subject.reset();
 }
 
@@ -82,7 +82,7 @@ const DriveFileEngine::Subject& DriveFileEngine::subject() const {
         if (subject.file) {
             subject.shortcutTarget = targetOf(*subject.file);
         }
-        subject.path = DrivePath::parse(subject.shortcutTarget).value_or(DrivePath{{}, {}, false});
+        subject.path = Windows::DrivePath::parse(subject.shortcutTarget).value_or(Windows::DrivePath{{}, {}, false});
         subject.file = m_pc->drives().find(subject.path);
     }
     m_subject = std::move(subject);
@@ -118,7 +118,7 @@ bool DriveFileEngine::open(QIODevice::OpenMode mode) {
     return false;
 }
 
-bool DriveFileEngine::isInFolder(DrivePath path) const {
+bool DriveFileEngine::isInFolder(Windows::DrivePath path) const {
     if (!path.isRoot()) {
         path.names.removeLast();
         path.isFolderOnly = true;

@@ -75,7 +75,7 @@ bool leadsElsewhere(const QByteArray& link, const std::vector<struct stat>& way)
 QSet<QString> foldedPaths(const QStringList& paths) {
     QSet<QString> folded;
     for (const QString& path : paths) {
-        if (const std::optional<DrivePath> parsed = DrivePath::parse(path)) {
+        if (const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path)) {
             folded.insert(Windows::foldName(parsed->text()));
         }
     }
@@ -89,7 +89,7 @@ Drives::Drives(QByteArray folder, const QStringList& hidden, const QStringList& 
     , m_hidden(foldedPaths(hidden))
     , m_system(foldedPaths(system)) {}
 
-std::optional<Drives::File> Drives::find(const DrivePath& path) const {
+std::optional<Drives::File> Drives::find(const Windows::DrivePath& path) const {
     if (m_folder.isEmpty() || !path.isValid) {
         return std::nullopt;
     }
@@ -107,7 +107,7 @@ std::optional<Drives::File> Drives::find(const DrivePath& path) const {
     return file && path.isFolderOnly && !file->isFolder() ? std::nullopt : file;
 }
 
-std::vector<QString> Drives::list(const DrivePath& path) const {
+std::vector<QString> Drives::list(const Windows::DrivePath& path) const {
     const std::optional<File> folder = find(path);
     if (!folder) {
         return {};
@@ -115,7 +115,7 @@ std::vector<QString> Drives::list(const DrivePath& path) const {
     std::vector<struct stat> way;
     std::vector<QString> names;
     for (const auto& [folded, entry] : sortedEntries(folder->realPath)) {
-        if (!DrivePath::canName(entry.name)) {
+        if (!Windows::DrivePath::canName(entry.name)) {
             continue;
         }
         if (entry.isLink && way.empty()) {
@@ -128,7 +128,7 @@ std::vector<QString> Drives::list(const DrivePath& path) const {
     return names;
 }
 
-std::vector<struct stat> Drives::foldersOnTheWay(DrivePath path) const {
+std::vector<struct stat> Drives::foldersOnTheWay(Windows::DrivePath path) const {
     std::vector<struct stat> way;
     while (true) {
         if (const std::optional<File> folder = find(path)) {
@@ -141,11 +141,11 @@ std::vector<struct stat> Drives::foldersOnTheWay(DrivePath path) const {
     }
 }
 
-bool Drives::isHidden(const DrivePath& path) const {
+bool Drives::isHidden(const Windows::DrivePath& path) const {
     return m_hidden.contains(Windows::foldName(path.text()));
 }
 
-bool Drives::isSystem(const DrivePath& path) const {
+bool Drives::isSystem(const Windows::DrivePath& path) const {
     return m_system.contains(Windows::foldName(path.text()));
 }
 

@@ -1,7 +1,7 @@
 #include "support/recorded/PcDescription.h"
 
+#include "support/DrivePath.h"
 #include "support/ShellFolderNames.h"
-#include "support/recorded/DrivePath.h"
 #include "support/recorded/Json.h"
 
 #include <algorithm>
@@ -102,7 +102,7 @@ void Reader::readShellFolder(const JsonValue& value, const QString& place) {
 }
 
 void Reader::readVolume(const JsonValue& value, const QString& place) {
-    if (value.name.size() != 1 || !DrivePath::parse(value.name + QLatin1Char(':'))) {
+    if (value.name.size() != 1 || !Windows::DrivePath::parse(value.name + QLatin1Char(':'))) {
         report(value, place, QStringLiteral("a drive letter is expected"));
         return;
     }
@@ -212,7 +212,7 @@ QStringList Reader::texts(const JsonValue& array, const QString& place) {
 QStringList Reader::paths(const JsonValue& array, const QString& place) {
     QStringList list = texts(array, place);
     const auto isBad = [this, &array, &place](const QString& path) {
-        const bool bad = !DrivePath::parse(path);
+        const bool bad = !Windows::DrivePath::parse(path);
         if (bad) {
             report(array, place, QStringLiteral("“%1” has no drive letter").arg(path));
         }

@@ -14,13 +14,13 @@ namespace {
 
 // A recorded PC is never written to, and without one there is no drive.
 bool isOnDrive(const QString& path) {
-    return Recorded::DrivePath::parse(path).has_value();
+    return Windows::DrivePath::parse(path).has_value();
 }
 
 } // namespace
 
 qint64 fileSize(const QString& path) {
-    if (const auto drivePath = Recorded::DrivePath::parse(path)) {
+    if (const auto drivePath = Windows::DrivePath::parse(path)) {
         const auto file = Recorded::currentPc()->drives().find(*drivePath);
         return file ? (file->isFolder() ? 0 : file->info.st_size) : -1;
     }

@@ -1,5 +1,5 @@
+#include "support/DrivePath.h"
 #include "support/Platform.h"
-#include "support/recorded/DrivePath.h"
 #include "support/recorded/Utf8Reader.h"
 
 #include <QFile>
@@ -85,7 +85,7 @@ bool isEmpty(std::FILE* file) {
 } // namespace
 
 std::unique_ptr<TextStream> openShared(const QString& path, const char* mode) {
-    if (Recorded::DrivePath::parse(path)) {
+    if (Windows::DrivePath::parse(path)) {
         return nullptr;
     }
     const std::string_view wanted(mode);

@@ -27,8 +27,8 @@ struct FixedVersion {
 static_assert(sizeof(FixedVersion) == 52);
 
 bool isSameFile(const QString& a, const QString& b) {
-    const auto driveA = Recorded::DrivePath::parse(a);
-    const auto driveB = Recorded::DrivePath::parse(b);
+    const auto driveA = Windows::DrivePath::parse(a);
+    const auto driveB = Windows::DrivePath::parse(b);
     if (driveA && driveB) {
         return Windows::foldName(driveA->text()) == Windows::foldName(driveB->text());
     }

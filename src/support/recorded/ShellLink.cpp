@@ -1,8 +1,8 @@
 #include "support/recorded/ShellLink.h"
 
+#include "support/DrivePath.h"
 #include "support/WindowsNames.h"
 #include "support/recorded/ByteView.h"
-#include "support/recorded/DrivePath.h"
 
 #include <QHash>
 
@@ -208,10 +208,10 @@ QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, 
         }
     }
     if (target.isEmpty() && !link.relativePath.isEmpty()) {
-        const auto path = DrivePath::parse(folder + QLatin1Char('/') + link.relativePath);
+        const auto path = Windows::DrivePath::parse(folder + QLatin1Char('/') + link.relativePath);
         target = path ? path->text() : QString();
     }
-    return target.size() > longestTarget ? QString() : withSlashes(target);
+    return target.size() > longestTarget ? QString() : Windows::withSlashes(target);
 }
 
 } // namespace Recorded

@@ -6,7 +6,6 @@ target_sources(
             support/recorded/CurrentPc.cpp
             support/recorded/DriveFileEngine.cpp
             support/recorded/DriveFolderIterator.cpp
-            support/recorded/DrivePath.cpp
             support/recorded/Drives.cpp
             support/recorded/HostFiles.cpp
             support/recorded/Json.cpp

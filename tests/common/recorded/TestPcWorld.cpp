@@ -1,6 +1,6 @@
 #include "common/TestPc.h"
 
-#include "common/recorded/ShellLinkWriter.h"
+#include "host/recording/ShellLinkWriter.h"
 #include "support/Recording.h"
 
 #include <QCoreApplication>
@@ -166,7 +166,7 @@ void TestPc::folder(const QString& path) {
 }
 
 void TestPc::shortcut(const QString& path, const QString& target) {
-    file(path, shellLinkTo(target));
+    file(path, Host::shellLinkTo(target));
 }
 
 void TestPc::link(const QString& path, const QString& folder) {

@@ -35,6 +35,7 @@ TEST_F(PcDescriptionTest, ReadsEverything) {
         "volumes": {"C": "\\\\?\\Volume{1}\\", "d": "\\\\?\\Volume{2}\\"},
         "environment": {"OculusBase": "C:\\Oculus\\", "EMPTY": ""},
         "packages": [{"family": "X_abc", "fullName": "X_1.0_x64__abc", "applicationIds": ["X_abc!App", "X_abc!B"]}],
+        "userLocations": {"wal": "D:\\Wal"},
         "host": {"executable": "C:\\Host\\host.exe", "version": "1.2.3.65535"},
         "hidden": ["C:\\a"], "system": ["C:\\b"]
     })");
@@ -53,6 +54,7 @@ TEST_F(PcDescriptionTest, ReadsEverything) {
     EXPECT_EQ(pc.packages->front().family, "X_abc");
     EXPECT_EQ(pc.packages->front().fullName, "X_1.0_x64__abc");
     EXPECT_THAT(pc.packages->front().applicationIds, ElementsAre("X_abc!App", "X_abc!B"));
+    EXPECT_EQ(pc.userLocations, (QMap<QString, QString>{{"wal", "D:\\Wal"}}));
     EXPECT_EQ(pc.hostExecutable, "C:\\Host\\host.exe");
     EXPECT_EQ(pc.hostVersion, 0x000100020003FFFFU);
     EXPECT_THAT(pc.hidden, ElementsAre("C:\\a"));

@@ -1,6 +1,8 @@
-#include "common/recorded/ShellLinkWriter.h"
+#include "host/recording/ShellLinkWriter.h"
 
 #include <QDataStream>
+
+namespace Host {
 
 namespace {
 
@@ -49,3 +51,5 @@ QByteArray shellLinkTo(const QString& target) {
     stream << quint32(0); // no extra data
     return link;
 }
+
+} // namespace Host

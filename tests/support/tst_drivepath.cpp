@@ -1,4 +1,4 @@
-#include "support/recorded/DrivePath.h"
+#include "support/DrivePath.h"
 
 #include "common/QtPrinters.h"
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-using Recorded::DrivePath;
+using Windows::DrivePath;
 
 /// The path taken apart and put together again; "(none)" without a drive, "(bad)" when no file can have the name.
 QString parsed(const QString& path) {

@@ -1,10 +1,10 @@
-#include "support/recorded/DrivePath.h"
+#include "support/DrivePath.h"
 
 #include "support/WindowsNames.h"
 
 #include <algorithm>
 
-namespace Recorded {
+namespace Windows {
 
 namespace {
 
@@ -21,7 +21,7 @@ bool isForbidden(QChar c) {
 }
 
 bool isDevice(const QString& name) {
-    const QString folded = Windows::foldName(name);
+    const QString folded = foldName(name);
     if (folded.size() == 4 && (folded.startsWith(QLatin1String("COM")) || folded.startsWith(QLatin1String("LPT")))) {
         return folded.at(3) >= QLatin1Char('1') && folded.at(3) <= QLatin1Char('9');
     }
@@ -84,4 +84,4 @@ QString DrivePath::text() const {
     return letter + QLatin1String(":/") + names.join(slash);
 }
 
-} // namespace Recorded
+} // namespace Windows

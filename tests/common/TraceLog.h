@@ -1,0 +1,66 @@
+#pragma once
+
+#include "support/Trace.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <vector>
+
+/// Has the library under test, linked into the test, tell its trace as long as this lives.
+class TraceLog {
+public:
+    TraceLog() {
+        qputenv(Trace::environmentVariable, path().toUtf8());
+        Trace::begin();
+        EXPECT_TRUE(Trace::isOn());
+    }
+
+    ~TraceLog() {
+        qunsetenv(Trace::environmentVariable);
+        Trace::begin();
+    }
+
+    QString path() const { return m_folder.filePath("trace"); }
+
+    QByteArray bytes() const {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /// All events of this name, or all when it is empty.
+    std::vector<QJsonObject> events(const QString& name = {}) const {
+        std::vector<QJsonObject> events;
+        for (const QByteArray& line : bytes().split('\n')) {
+            const QJsonObject event = QJsonDocument::fromJson(line).object();
+            EXPECT_TRUE(line.isEmpty() || !event.isEmpty()) << line.toStdString();
+            if (!event.isEmpty() && (name.isEmpty() || event["event"].toString() == name)) {
+                events.push_back(event);
+            }
+        }
+        return events;
+    }
+
+    /// A field of all events of this name.
+    QStringList texts(const QString& name, const QString& field) const {
+        QStringList texts;
+        for (const QJsonObject& event : events(name)) {
+            texts.append(event[field].toString());
+        }
+        return texts;
+    }
+
+    QStringList notes() const { return texts("note", "text"); }
+
+private:
+    Q_DISABLE_COPY_MOVE(TraceLog)
+
+    QTemporaryDir m_folder;
+};

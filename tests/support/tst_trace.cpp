@@ -1,0 +1,197 @@
+#include "support/Trace.h"
+
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "common/TraceLog.h"
+#include "support/Environment.h"
+#include "support/Files.h"
+#include "support/KnownFolders.h"
+#include "support/Logger.h"
+#include "support/RegistryKey.h"
+
+#include <QDir>
+
+#include <thread>
+
+namespace {
+
+const TestKey testKey{Platform::RootKey::CurrentUser, "Software\\Luruludri Test", View::view64};
+
+QJsonObject only(const std::vector<QJsonObject>& events) {
+    EXPECT_EQ(events.size(), 1U);
+    return events.empty() ? QJsonObject() : events.front();
+}
+
+TEST(Trace, TellsWhichKeyWasOpenedInWhichView) {
+    TestPc pc;
+    pc.key(testKey);
+    const TraceLog trace;
+    RegistryKey::open(testKey.path, Hive::currentUser, View::view64);
+    const QJsonObject event = only(trace.events("key"));
+    EXPECT_EQ(event["root"].toString(), "HKEY_CURRENT_USER");
+    EXPECT_EQ(event["view"].toInt(), 64);
+    EXPECT_EQ(event["key"].toString(), "Software\\Luruludri Test");
+    EXPECT_EQ(event["error"].toInt(-1), 0);
+}
+
+TEST(Trace, TellsThatAKeyIsNotThere) {
+    TestPc pc;
+    const TraceLog trace;
+    RegistryKey::open("Software\\Luruludri Test\\Nothing", Hive::localMachine, View::view32);
+    const QJsonObject event = only(trace.events("key"));
+    EXPECT_EQ(event["root"].toString(), "HKEY_LOCAL_MACHINE");
+    EXPECT_EQ(event["view"].toInt(), 32);
+    EXPECT_EQ(event["error"].toInt(), 2);
+}
+
+TEST(Trace, TellsAValueByteByByte) {
+    TestPc pc;
+    pc.value(testKey, "Ordner", "D:\\ä");
+    const TraceLog trace;
+    RegistryKey::open(testKey.path, Hive::currentUser, View::view64).text("Ordner");
+    const QJsonObject event = only(trace.events("value"));
+    EXPECT_EQ(event["key"].toString(), "Software\\Luruludri Test");
+    EXPECT_EQ(event["name"].toString(), "Ordner");
+    EXPECT_EQ(event["type"].toInt(), 1);
+    EXPECT_EQ(event["data"].toString(), "44003a005c00e4000000");
+}
+
+TEST(Trace, TellsALongValueOnce) {
+    TestPc pc;
+    pc.value(testKey, "Long", QString(600, 'x'));
+    const TraceLog trace;
+    RegistryKey::open(testKey.path, Hive::currentUser, View::view64).text("Long");
+    EXPECT_EQ(only(trace.events("value"))["data"].toString().size(), 601 * 4);
+}
+
+TEST(Trace, TellsThatAValueIsNotThereWithoutData) {
+    TestPc pc;
+    pc.key(testKey);
+    const TraceLog trace;
+    RegistryKey::open(testKey.path, Hive::currentUser, View::view64).text("Nothing");
+    const QJsonObject event = only(trace.events("value"));
+    EXPECT_EQ(event["error"].toInt(), 2);
+    EXPECT_FALSE(event.contains("type"));
+    EXPECT_FALSE(event.contains("data"));
+}
+
+TEST(Trace, TellsTheSubKeys) {
+    TestPc pc;
+    pc.key({testKey.root, testKey.path + "\\A", testKey.view});
+    pc.key({testKey.root, testKey.path + "\\B", testKey.view});
+    const TraceLog trace;
+    QStringList names;
+    RegistryKey::open(testKey.path, Hive::currentUser, View::view64).subKeyNames(names);
+    EXPECT_EQ(only(trace.events("subkeys"))["names"].toArray(), QJsonArray({"A", "B"}));
+}
+
+TEST(Trace, TellsWhichFilesAreLookedForAndListedAndRead) {
+    TestPc pc;
+    pc.file("C:\\Luruludri Test\\a.acf", "abc");
+    const TraceLog trace;
+    Files::exists("C:\\Luruludri Test\\a.acf");
+    Files::folderExists(QDir("C:\\Luruludri Test\\b"));
+    Files::names("C:\\Luruludri Test", "*.acf");
+    Files::readAll("C:\\Luruludri Test\\a.acf");
+    const std::vector<QJsonObject> events = trace.events();
+    ASSERT_EQ(events.size(), 4U);
+    EXPECT_EQ(events[0], QJsonObject({{"event", "exists"}, {"path", "C:\\Luruludri Test\\a.acf"}, {"found", true}}));
+    EXPECT_EQ(events[1]["found"], QJsonValue(false));
+    EXPECT_EQ(events[2]["pattern"].toString(), "*.acf");
+    EXPECT_EQ(events[2]["names"].toArray(), QJsonArray({"a.acf"}));
+    EXPECT_EQ(events[3]["bytes"].toInt(), 3);
+}
+
+TEST(Trace, TellsWhereAShortcutLeads) {
+    TestPc pc;
+    pc.shortcut("C:\\Luruludri Test\\x.lnk", "C:\\Luruludri Test\\x.exe");
+    const TraceLog trace;
+    Files::shortcutTarget("C:\\Luruludri Test\\x.lnk");
+    EXPECT_EQ(only(trace.events("shortcut"))["target"].toString(), "C:\\Luruludri Test\\x.exe");
+}
+
+TEST(Trace, TellsShellFoldersAndTheEnvironment) {
+    TestPc pc;
+    pc.shellFolder(Platform::csidlCommonAppData, "C:\\Luruludri Test");
+    pc.folder("C:\\Luruludri Test");
+    pc.environment("LuruludriTest", "x");
+    const TraceLog trace;
+    knownFolderPath(Platform::csidlCommonAppData);
+    environmentVariable("LuruludriTest");
+    environmentVariable("LuruludriNothing");
+    EXPECT_EQ(only(trace.events("shellFolder")),
+              QJsonObject({{"event", "shellFolder"}, {"csidl", 35}, {"path", "C:\\Luruludri Test"}}));
+    const std::vector<QJsonObject> variables = trace.events("environment");
+    ASSERT_EQ(variables.size(), 2U);
+    EXPECT_EQ(variables[0]["value"].toString(), "x");
+    EXPECT_FALSE(variables[1].contains("value"));
+}
+
+TEST(Trace, TellsTheLinesOfTheLogs) {
+    TestPc pc;
+    const TraceLog trace;
+    Logger::create("Quorvan.Test").logError("Käfer %d", 7);
+    const QJsonObject event = only(trace.events("log"));
+    EXPECT_EQ(event["logger"].toString(), "Quorvan.Test");
+    EXPECT_EQ(event["level"].toString(), "E");
+    EXPECT_EQ(event["text"].toString(), "Käfer 7");
+}
+
+TEST(Trace, TellsNotesAndLists) {
+    const TraceLog trace;
+    {
+        Trace::IndexSection section("Test");
+        Trace::entry("Käfer", "D:\\Käfer");
+        Trace::note("No %ls.", qUtf16Printable(QString("Käfer")));
+        section.setEntries(1);
+    }
+    const std::vector<QJsonObject> events = trace.events();
+    ASSERT_EQ(events.size(), 4U);
+    EXPECT_EQ(events[0], QJsonObject({{"event", "begin"}, {"what", "index"}, {"name", "Test"}}));
+    EXPECT_EQ(events[1], QJsonObject({{"event", "entry"}, {"name", "Käfer"}, {"folder", "D:\\Käfer"}}));
+    EXPECT_EQ(events[2], QJsonObject({{"event", "note"}, {"text", "No Käfer."}}));
+    EXPECT_EQ(events[3], QJsonObject({{"event", "end"}, {"what", "index"}, {"name", "Test"}, {"entries", 1}}));
+}
+
+TEST(Trace, AddsToAFileThatIsThere) {
+    const TraceLog trace;
+    Trace::note("first");
+    qunsetenv(Trace::environmentVariable);
+    Trace::begin();
+    Trace::note("untold");
+    qputenv(Trace::environmentVariable, trace.path().toUtf8());
+    Trace::begin();
+    Trace::note("second");
+    EXPECT_EQ(trace.notes(), QStringList({"first", "second"}));
+}
+
+TEST(Trace, IsOffWhenItsFileCannotBeOpened) {
+    const QTemporaryDir folder;
+    qputenv(Trace::environmentVariable, folder.filePath("missing/trace").toUtf8());
+    Trace::begin();
+    EXPECT_FALSE(Trace::isOn());
+    Trace::note("lost");
+    qunsetenv(Trace::environmentVariable);
+    Trace::begin();
+    EXPECT_FALSE(Trace::isOn());
+}
+
+TEST(Trace, KeepsTheLinesOfThreadsApart) {
+    const TraceLog trace;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 8; ++i) {
+        threads.emplace_back([] {
+            for (int line = 0; line < 50; ++line) {
+                Trace::note("%s", std::string(200, 'x').c_str());
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    const QStringList notes = trace.notes();
+    EXPECT_EQ(notes.size(), 400);
+    EXPECT_EQ(notes.count(QString(200, 'x')), 400);
+}
+
+} // namespace
