@@ -2,23 +2,13 @@
 
 #include "core/IGameFinderFactory.h"
 #include "host/FinderTypes.h"
+#include "host/Progress.h"
 
 #include <algorithm>
 
 namespace Host {
 
 namespace {
-
-GameAnswer askForGame(IGameFinderFactory& factory, const Game& game) {
-    GameAnswer answer;
-    answer.name = game.name;
-    const std::unique_ptr<IGameFinder> finder = makeMultiFinder(factory, game.finders);
-    answer.found = finder && finder->find(answer.location);
-    if (!answer.found) {
-        answer.location = GameLocation(); // a search in vain may leave anything there
-    }
-    return answer;
-}
 
 struct Question {
     const char* title;
@@ -59,9 +49,22 @@ bool Answers::allGamesFound() const {
     return std::all_of(games.begin(), games.end(), [](const GameAnswer& game) { return game.found; });
 }
 
-Answers ask(IGameFinderFactory& factory, const Catalogue& games) {
+GameAnswer askForGame(IGameFinderFactory& factory, const Game& game) {
+    GameAnswer answer;
+    answer.name = game.name;
+    const std::unique_ptr<IGameFinder> finder = makeMultiFinder(factory, game.finders);
+    answer.found = finder && finder->find(answer.location);
+    if (!answer.found) {
+        answer.location = GameLocation(); // a search in vain may leave anything there
+    }
+    return answer;
+}
+
+Answers ask(IGameFinderFactory& factory, const Catalogue& games, Progress& progress) {
     Answers answers;
+    const auto total = static_cast<int>(games.size());
     for (const Game& game : games) {
+        progress.step(static_cast<int>(answers.games.size()) + 1, total, game.name);
         answers.games.push_back(askForGame(factory, game));
     }
     for (const Question& question : questions) {

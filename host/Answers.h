@@ -12,6 +12,8 @@ class IGameFinderFactory;
 
 namespace Host {
 
+class Progress;
+
 struct GameAnswer {
     QString name;
     bool found = false;
@@ -33,7 +35,10 @@ struct Answers {
     bool allGamesFound() const;
 };
 
+/// Asks for one game. Its finder is gone afterwards.
+GameAnswer askForGame(IGameFinderFactory& factory, const Game& game);
+
 /// Asks for every game, in order, and for the runtimes. Every finder is gone afterwards.
-Answers ask(IGameFinderFactory& factory, const Catalogue& games);
+Answers ask(IGameFinderFactory& factory, const Catalogue& games, Progress& progress);
 
 } // namespace Host

@@ -23,7 +23,10 @@ struct Declared {
                                 text("FOLDER")};
     const QCommandLineOption game{text("game"), text("Ask for this game only. Can be given several times."),
                                   text("NAME")};
-    const QCommandLineOption json{text("json"), text("Print the answers as JSON.")};
+    const QCommandLineOption json{text("json"), text("Print the answers as JSON (docs/json.md).")};
+    const QCommandLineOption all{text("all"), text("With explain: leave out nothing of long lists.")};
+    const QCommandLineOption keepNames{text("keep-names"),
+                                       text("With record: leave the user's and the machine's name in the recording.")};
     const QCommandLineOption help{{text("h"), text("help")}, text("Print this help.")};
     const QCommandLineOption version{text("version"), text("Print the version.")};
 };
@@ -43,7 +46,17 @@ void declare(QCommandLineParser& parser, const Declared& declared) {
                                       "The catalogue names its executables."),
                                  text("| locate KEY FOLDER [CATALOGUE]"));
     parser.addPositionalArgument(text("forget"), text("Forget it."), text("| forget KEY"));
-    parser.addOptions({declared.plugin, declared.pc, declared.game, declared.json, declared.help, declared.version});
+    parser.addPositionalArgument(
+        text("record"),
+        text("Record into a new FOLDER what finders can read of this\nPC (docs/recorded-pc.md), "
+             "so that it can be looked at\nelsewhere."),
+        text("| record FOLDER [CATALOGUE]"));
+    parser.addPositionalArgument(text("explain"),
+                                 text("Tell why the game of this NAME was found or not: what each\nfinder looked for, "
+                                      "what it saw, why it went on."),
+                                 text("| explain NAME [CATALOGUE]"));
+    parser.addOptions({declared.plugin, declared.pc, declared.game, declared.json, declared.all, declared.keepNames,
+                       declared.help, declared.version});
 }
 
 /// One thing that the words of the command line come down to: what they are, and where their values go.
@@ -67,6 +80,8 @@ const std::vector<CommandForm>& commandForms() {
         {"runtimes", Command::Runtimes, {}, 0},
         {"locate", Command::Locate, {key, {"the folder", &Options::folder}, catalogue}, 2},
         {"forget", Command::Forget, {key}, 1},
+        {"record", Command::Record, {{"the folder", &Options::folder}, catalogue}, 1},
+        {"explain", Command::Explain, {{"the game's name", &Options::name}, catalogue}, 1},
     };
     return forms;
 }
@@ -110,8 +125,14 @@ QString findFault(const CommandForm& form, const QCommandLineParser& parser, con
     if (parser.isSet(declared.game) && form.command != Command::FindGames) {
         return text("--game: not with %1").arg(text(form.name));
     }
+    if (parser.isSet(declared.all) && form.command != Command::Explain) {
+        return text("--all: only with explain");
+    }
     if (parser.isSet(declared.json) && !hasAnswers) {
         return text("--json: not with %1").arg(text(form.name));
+    }
+    if (parser.isSet(declared.keepNames) && form.command != Command::Record) {
+        return text("--keep-names: only with record");
     }
     return QString();
 }
@@ -132,7 +153,12 @@ Options readOptions(const CommandForm& form, const QStringList& words, const QCo
         options.pc = parser.value(declared.pc);
     }
     options.games = parser.values(declared.game);
+    if (form.command == Command::Explain) {
+        options.games = QStringList{options.name};
+    }
     options.json = parser.isSet(declared.json);
+    options.keepNames = parser.isSet(declared.keepNames);
+    options.all = parser.isSet(declared.all);
     return options;
 }
 

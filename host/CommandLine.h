@@ -13,18 +13,23 @@ enum class Command {
     Runtimes, ///< asks for the VR runtimes only
     Locate,   ///< remembers where the user has a game
     Forget,   ///< forgets it
+    Record,   ///< makes a recording of the PC
+    Explain,  ///< tells why a game was found or not
 };
 
 /// What the user asked for.
 struct Options {
     Command command = Command::FindGames;
     QString key;               ///< the game's key in the user's settings, with Locate and Forget
-    QString folder;            ///< where the game is, with Locate
-    QString catalogue;         ///< means something with FindGames and Locate
+    QString folder;            ///< where the game is, with Locate; where the recording goes, with Record
+    QString name;              ///< the game's name, with Explain
+    QString catalogue;         ///< means something with FindGames, Locate, Explain and Record
     QString plugin;            ///< the plug-in's file; the one beside the program when none was given
     std::optional<QString> pc; ///< the recorded PC's folder, as given
     QStringList games;         ///< names of the games to ask for; empty for all
     bool json = false;
+    bool keepNames = false; ///< the user's and the machine's name stay in the recording, with Record
+    bool all = false;       ///< leave nothing out, with Explain
 };
 
 /// The arguments, understood: either something to do or a text that says why not.

@@ -7,9 +7,13 @@
 #include "host/Console.h"
 #include "host/OneLine.h"
 #include "host/Plugin.h"
+#include "host/PluginTrace.h"
+#include "host/Progress.h"
 #include "host/RecordedPc.h"
 #include "host/Report.h"
 #include "host/UserChoice.h"
+#include "host/explain/Explanation.h"
+#include "host/recording/RecordCommand.h"
 
 #include <memory>
 #include <new>
@@ -54,8 +58,10 @@ std::optional<Catalogue> loadGames(const Options& options) {
 }
 
 ExitStatus answer(IGameFinderFactory& factory, const Options& options, const Catalogue& games) {
-    const Answers answers = ask(factory, games);
-    return print(options.json ? renderJson(answers) : renderTables(answers),
+    Progress progress(QStringLiteral("asking"));
+    const Answers answers = ask(factory, games, progress);
+    progress.finish();
+    return print(options.json ? renderJson(answers) : renderTables(answers, Console::terminal(Stream::Output)),
                  answers.allGamesFound() ? allFound : someNotFound);
 }
 
@@ -63,6 +69,10 @@ ExitStatus locate(IGameFinderFactory& factory, const Options& options, const Cat
     const UserChoice choice = rememberChoice(factory, games, options.key, options.folder);
     if (choice.folder.isEmpty()) {
         return fail(QStringLiteral("the folder could not be remembered"));
+    }
+    if (!choice.isAskedFor) {
+        const QString message = QStringLiteral("%1: no game has the key \"%2\"; remembered all the same");
+        Console::complain(message.arg(options.catalogue, options.key.trimmed()));
     }
     if (!choice.missing.isEmpty()) {
         Console::complain(QStringLiteral("the folder holds none of the game's executables: ") +
@@ -79,7 +89,19 @@ ExitStatus forget(IGameFinderFactory& factory, const Options& options) {
     return print(oneLine(options.key.trimmed() + QLatin1String(": forgotten")) + QLatin1Char('\n'), allFound);
 }
 
-ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& games) {
+/// `games` holds the one that was named.
+ExitStatus explainGame(IGameFinderFactory& factory, const Options& options, const Catalogue& games,
+                       const PluginTrace& trace) {
+    const Game& game = games.front();
+    const GameAnswer answer = askForGame(factory, game);
+    const TraceEvents events = trace.events();
+    if (events.empty()) {
+        return fail(QStringLiteral("%1: this plug-in tells no trace").arg(options.plugin));
+    }
+    return print(explain(game, answer, events, options.all), answer.found ? allFound : someNotFound);
+}
+
+ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& games, const PluginTrace* trace) {
     QString fault;
     const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault);
     if (!factory) {
@@ -90,17 +112,27 @@ ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& ga
         return locate(*factory, options, games);
     case Command::Forget:
         return forget(*factory, options);
+    case Command::Explain:
+        return explainGame(*factory, options, games, *trace);
     case Command::FindGames:
     case Command::Runtimes:
+    case Command::Record: // which asks otherwise
         break;
     }
     return answer(*factory, options, games);
 }
 
 ExitStatus askPlugin(const Options& options, const Catalogue& games) {
+    std::optional<PluginTrace> trace; // outlives the plug-in, which keeps the trace's file open
+    if (options.command == Command::Explain) {
+        trace.emplace();
+        if (!trace->isOn()) {
+            return fail(QStringLiteral("a temporary file could not be made"));
+        }
+    }
     Plugin plugin(options.plugin);
     try {
-        return askWithin(plugin, options, games);
+        return askWithin(plugin, options, games, trace ? &*trace : nullptr);
     } catch (const std::bad_alloc&) {
         // Here and not further out: what the plug-in throws is destroyed by code of the plug-in.
         return failForMemory();
@@ -119,7 +151,8 @@ ExitStatus run(const Options& options) {
     for (const QString& problem : pc.problems) {
         Console::complain(problem);
     }
-    const ExitStatus status = askPlugin(options, *games);
+    const ExitStatus status =
+        options.command == Command::Record ? recordPc(options, *games) : askPlugin(options, *games);
     return pc.problems.isEmpty() ? status : failed;
 }
 

@@ -13,25 +13,39 @@ namespace {
 
 constexpr int jsonVersion = 1;
 
-std::vector<QStringList> gameRows(const std::vector<GameAnswer>& games) {
-    std::vector<QStringList> rows = {
-        {QStringLiteral("Game"), QStringLiteral("Found"), QStringLiteral("Folder"), QStringLiteral("Started by")}};
-    for (const GameAnswer& game : games) {
-        rows.push_back({game.name, game.found ? QStringLiteral("yes") : QStringLiteral("no"),
-                        game.location.installFolder, game.location.launchCommand});
+TableRow headings(const QStringList& titles) {
+    TableRow row;
+    for (const QString& title : titles) {
+        row.push_back({title, Tone::Heading});
     }
-    return rows;
+    return row;
 }
 
-std::vector<QStringList> runtimeRows(const std::vector<RuntimeAnswer>& runtimes) {
-    std::vector<QStringList> rows = {{QStringLiteral("Runtime"), QStringLiteral("Where")}};
+Table tableOf(const std::vector<GameAnswer>& games) {
+    Table table;
+    table.leading = 2;
+    table.rows.push_back(headings(
+        {QStringLiteral("Game"), QStringLiteral("Found"), QStringLiteral("Folder"), QStringLiteral("Started by")}));
+    for (const GameAnswer& game : games) {
+        const TableCell found =
+            game.found ? TableCell(QStringLiteral("yes"), Tone::Good) : TableCell(QStringLiteral("no"), Tone::Bad);
+        table.rows.push_back({game.name, found, game.location.installFolder, game.location.launchCommand});
+    }
+    return table;
+}
+
+Table tableOf(const std::vector<RuntimeAnswer>& runtimes) {
+    Table table;
+    table.rows.push_back(headings({QStringLiteral("Runtime"), QStringLiteral("Where")}));
     for (const RuntimeAnswer& runtime : runtimes) {
-        const QStringList values = runtime.values.isEmpty() ? QStringList{QStringLiteral("not found")} : runtime.values;
-        for (int i = 0; i < values.size(); ++i) {
-            rows.push_back({i == 0 ? runtime.title : QString(), values.at(i)});
+        if (runtime.values.isEmpty()) {
+            table.rows.push_back({runtime.title, {QStringLiteral("not found"), Tone::Bad}});
+        }
+        for (int i = 0; i < runtime.values.size(); ++i) {
+            table.rows.push_back({i == 0 ? runtime.title : QString(), runtime.values.at(i)});
         }
     }
-    return rows;
+    return table;
 }
 
 QJsonObject jsonOf(const GameAnswer& game) {
@@ -52,9 +66,12 @@ QJsonValue jsonOf(const RuntimeAnswer& runtime) {
 
 } // namespace
 
-QString renderTables(const Answers& answers) {
-    const QString runtimes = renderTable(runtimeRows(answers.runtimes));
-    return answers.games.empty() ? runtimes : renderTable(gameRows(answers.games)) + QLatin1Char('\n') + runtimes;
+QString renderTables(const Answers& answers, const Terminal& terminal) {
+    const QString runtimes = renderTable(tableOf(answers.runtimes), terminal);
+    if (answers.games.empty()) {
+        return runtimes;
+    }
+    return renderTable(tableOf(answers.games), terminal) + QLatin1Char('\n') + runtimes;
 }
 
 QString renderJson(const Answers& answers) {

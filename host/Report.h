@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/Terminal.h"
+
 #include <QString>
 
 namespace Host {
@@ -7,9 +9,9 @@ namespace Host {
 struct Answers;
 
 /// The answers for people: a table of the games, when there are any, and one of the runtimes.
-QString renderTables(const Answers& answers);
+QString renderTables(const Answers& answers, const Terminal& terminal = {});
 
-/// The answers for programs: a JSON object, described in docs/catalogue.md.
+/// The answers for programs: a JSON object, described in docs/json.md.
 QString renderJson(const Answers& answers);
 
 } // namespace Host

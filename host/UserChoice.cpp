@@ -4,27 +4,42 @@
 #include "core/IGameFinderFactory.h"
 #include "host/FinderTypes.h"
 
+#include <functional>
+
 namespace Host {
 
 namespace {
 
-void collectExecutables(const std::vector<FinderEntry>& finders, const QString& key, QStringList& executables) {
+using Visit = std::function<void(const FinderEntry&)>;
+
+/// Shows all finders that ask for the user's choice under this key.
+void visitFinders(const std::vector<FinderEntry>& finders, const QString& key, const Visit& visit) {
     static const FinderType* const userProvided = findFinderType(QStringLiteral("userProvidedLocation"));
     for (const FinderEntry& finder : finders) {
-        collectExecutables(finder.finders, key, executables);
+        visitFinders(finder.finders, key, visit);
         if (finder.type == userProvided && finder.subject.trimmed() == key) {
-            executables += finder.executables;
+            visit(finder);
         }
+    }
+}
+
+void visitFinders(const Catalogue& games, const QString& key, const Visit& visit) {
+    for (const Game& game : games) {
+        visitFinders(game.finders, key.trimmed(), visit);
     }
 }
 
 } // namespace
 
+bool hasKey(const Catalogue& games, const QString& key) {
+    bool hasIt = false;
+    visitFinders(games, key, [&](const FinderEntry&) { hasIt = true; });
+    return hasIt;
+}
+
 QStringList executablesFor(const Catalogue& games, const QString& key) {
     QStringList executables;
-    for (const Game& game : games) {
-        collectExecutables(game.finders, key.trimmed(), executables);
-    }
+    visitFinders(games, key, [&](const FinderEntry& finder) { executables += finder.executables; });
     executables.removeDuplicates();
     return executables;
 }
@@ -39,7 +54,7 @@ UserChoice rememberChoice(IGameFinderFactory& factory, const Catalogue& games, c
     finder->setUserLocation(folder);
     GameLocation location;
     const bool isThere = executables.isEmpty() || finder->find(location);
-    return {finder->userLocation(), isThere ? QStringList() : executables};
+    return {finder->userLocation(), isThere ? QStringList() : executables, hasKey(games, key)};
 }
 
 bool forgetChoice(IGameFinderFactory& factory, const QString& key) {

@@ -24,6 +24,9 @@ FindProgram::FindProgram()
     : m_folder(QDir::tempPath() + QStringLiteral("/finde-Käfer-XXXXXX")) {
     EXPECT_TRUE(m_folder.isValid()) << m_folder.errorString().toStdString();
     m_environment.remove(QString::fromLatin1(Recording::environmentVariable));
+    for (const char* name : {"COLUMNS", "NO_COLOR", "TERM"}) {
+        m_environment.remove(QString::fromLatin1(name));
+    }
     m_environment.insert(QStringLiteral("LURULUDRI_FAKE_LOG"), m_folder.filePath(QStringLiteral("fake.log")));
 }
 
@@ -47,11 +50,19 @@ FindRun FindProgram::run(const QStringList& arguments) const {
 FindRun FindProgram::runBare(const QStringList& arguments) const {
     QProcess process;
     process.setProcessEnvironment(m_environment);
+    process.setStandardOutputFile(m_outputFile);
+    process.setStandardErrorFile(m_errorFile);
     process.start(QStringLiteral(LURULUDRI_FIND), arguments);
     EXPECT_TRUE(process.waitForFinished(longestRunMs)) << process.errorString().toStdString();
     const bool exited = process.exitStatus() == QProcess::NormalExit && process.error() == QProcess::UnknownError;
-    return {exited ? process.exitCode() : -1, textOf(process.readAllStandardOutput()),
-            textOf(process.readAllStandardError())};
+    return {exited ? process.exitCode() : -1,
+            m_outputFile.isEmpty() ? textOf(process.readAllStandardOutput()) : QString(),
+            m_errorFile.isEmpty() ? textOf(process.readAllStandardError()) : QString()};
+}
+
+void FindProgram::redirect(const QString& outputFile, const QString& errorFile) {
+    m_outputFile = outputFile;
+    m_errorFile = errorFile;
 }
 
 QStringList FindProgram::fakeLog() const {

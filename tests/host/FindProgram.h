@@ -36,11 +36,17 @@ public:
     /// Runs with nothing but the arguments.
     FindRun runBare(const QStringList& arguments) const;
 
+    /// From now on what the program writes goes to these files, terminals for example, and is not part of the run; an
+    /// empty name leaves a stream alone.
+    void redirect(const QString& outputFile, const QString& errorFile);
+
     /// What the fake plug-in wrote down in all runs.
     QStringList fakeLog() const;
 
 private:
     Host::Console m_console; // lets this process, too, make files whose names are not ASCII
     QTemporaryDir m_folder;
+    QString m_outputFile;
+    QString m_errorFile;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
 };

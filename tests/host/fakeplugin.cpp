@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QString>
 #include <QStringList>
+#include <QThread>
 
 #include <memory>
 #include <new>
@@ -49,6 +50,12 @@ public:
     ~FakeFinder() override { note(QStringLiteral("~") + m_name.section(QLatin1Char('('), 0, 0)); }
 
     bool find(GameLocation& location) override {
+        if (isMode("slow") || isMode("slow and loud")) {
+            QThread::msleep(50);
+        }
+        if (isMode("slow and loud")) {
+            qWarning("searching %s", qUtf8Printable(m_name));
+        }
         location.installFolder = QStringLiteral("rest of a search in vain");
         for (const Finder& member : m_members) {
             if (member->find(location)) {

@@ -59,6 +59,17 @@ TEST(Program, OnlyTheGamesThatAreNamedAreAskedFor) {
     expectComplaint(program.run({"--game", "Käfer", catalogue}), "games.json: no game is named \"Käfer\"");
 }
 
+TEST(Program, WhatGoesToAPipeIsPlainAndWholeWhateverTheEnvironmentSays) {
+    FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    const QString plain = program.run({catalogue}).output;
+    EXPECT_TRUE(plain.contains("\nKäferrennen  yes    D:\\Spiele\\Käfer  steam://launch/42/VR\n"))
+        << plain.toStdString();
+    program.setVariable("COLUMNS", "30");
+    program.setVariable("TERM", "xterm-256color");
+    EXPECT_EQ(program.run({catalogue}).output, plain);
+}
+
 TEST(Program, HelpAndVersionNeedNothingElse) {
     const FindProgram program;
     for (const char* option : {"--help", "-h"}) {

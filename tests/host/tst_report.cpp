@@ -1,7 +1,6 @@
 #include "host/Answers.h"
 #include "host/OneLine.h"
 #include "host/Report.h"
-#include "host/Table.h"
 
 #include "common/QtPrinters.h"
 
@@ -10,14 +9,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 namespace {
 
 using namespace Host;
-
-std::string table(const std::vector<QStringList>& rows) {
-    return renderTable(rows).toStdString();
-}
 
 GameAnswer beetle() {
     GameAnswer game;
@@ -41,25 +37,6 @@ Answers someAnswers() {
     return answers;
 }
 
-TEST(Table, ColumnsAreAsWideAsTheirWidestCell) {
-    EXPECT_EQ(table({{"a", "bb", "c"}, {"aaa", "b", "ccc"}}), "a    bb  c\naaa  b   ccc\n");
-}
-
-TEST(Table, WidthsCountCharactersNotBytes) {
-    // One unit each: a letter of two bytes, a letter with a combining mark, a character outside the basic plane.
-    EXPECT_EQ(table({{"ä", "x"}, {"a\u0308", "x"}, {"\U0001D11E", "x"}, {"ab", "x"}}),
-              "ä   x\na\u0308   x\n\U0001D11E   x\nab  x\n");
-}
-
-TEST(Table, LinesEndWithoutBlanks) {
-    EXPECT_EQ(table({{"a", QString(), "c"}, {"a", "b", QString()}, {"a"}, {QString(), "b"}, {}}),
-              "a     c\na  b\na\n   b\n\n");
-}
-
-TEST(Table, CellsStayOnTheirLine) {
-    EXPECT_EQ(table({{"a\nb\u001B[1m", "c"}}), "a b [1m  c\n");
-}
-
 TEST(OneLine, OnlyWhatLeavesTheLineIsReplaced) {
     EXPECT_EQ(oneLine("Käfer 王 \U0001D11E\u200D"), "Käfer 王 \U0001D11E\u200D");
     EXPECT_EQ(oneLine("\r\n\t\u0085\u2028\u2029\u007F."), "       .");
@@ -76,6 +53,36 @@ TEST(RenderTables, GamesFirstThenRuntimes) {
                                                          "OpenXR            not found\n"
                                                          "Oculus libraries  C:/a\n"
                                                          "                  D:/b\n");
+}
+
+TEST(RenderTables, WhatIsFoundAndWhatIsNotDifferInColourToo) {
+    Terminal terminal;
+    terminal.colours = true;
+    const QString text = renderTables(someAnswers(), terminal);
+    EXPECT_TRUE(text.contains("\nKäferrennen  \x1B[32myes\x1B[0m")) << text.toStdString();
+    EXPECT_TRUE(text.contains("\nWal          \x1B[33mno\x1B[0m\n")) << text.toStdString();
+    EXPECT_TRUE(text.contains("\nOpenXR            \x1B[33mnot found\x1B[0m\n")) << text.toStdString();
+    EXPECT_TRUE(text.startsWith("\x1B[1mGame\x1B[0m ")) << text.toStdString();
+    EXPECT_TRUE(text.contains("\n\x1B[1mRuntime\x1B[0m ")) << text.toStdString();
+    EXPECT_EQ(QString(text).remove(QRegularExpression("\x1B\\[[0-9]+m")), renderTables(someAnswers()));
+}
+
+TEST(RenderTables, OnANarrowTerminalTheGamesStandAboveTheirPlaces) {
+    Terminal terminal;
+    terminal.width = 39;
+    EXPECT_EQ(renderTables(someAnswers(), terminal).toStdString(), "Game         Found\n"
+                                                                   "    Folder\n"
+                                                                   "    Started by\n"
+                                                                   "Käferrennen  yes\n"
+                                                                   "    D:\\Käfer\n"
+                                                                   "    steam://launch/42/VR\n"
+                                                                   "Wal          no\n"
+                                                                   "\n"
+                                                                   "Runtime           Where\n"
+                                                                   "Varjo             C:\\Varjo\n"
+                                                                   "OpenXR            not found\n"
+                                                                   "Oculus libraries  C:/a\n"
+                                                                   "                  D:/b\n");
 }
 
 TEST(RenderTables, WithoutGamesThereIsNoTableOfGames) {

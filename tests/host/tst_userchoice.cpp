@@ -47,12 +47,25 @@ TEST(UserChoice, AFolderWithoutTheGameIsRememberedAndTold) {
               "luruludri-find: the folder holds none of the game's executables: bin\\k.exe, k.exe, wal.exe\n");
 }
 
-TEST(UserChoice, AKeyThatTheCatalogueDoesNotHaveIsRememberedAllTheSame) {
+TEST(UserChoice, AKeyThatTheCatalogueDoesNotHaveIsRememberedAllTheSameAndTold) {
     const FindProgram program;
-    const FindRun run = program.run({"locate", "Qualle", "D:\\Spiele", program.file("g.json", games)});
+    const QString catalogue = program.file("g.json", games);
+    const FindRun run = program.run({"locate", " Qualle", "D:\\Spiele", catalogue});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.output, "Qualle: D:\\Spiele\\Gewählt\n");
+    EXPECT_EQ(run.errors,
+              "luruludri-find: " + catalogue + ": no game has the key \"Qualle\"; remembered all the same\n");
+    EXPECT_EQ(program.fakeLog().mid(1, 2),
+              (QStringList{"userProvidedLocation( Qualle|)", "setUserLocation(D:\\Spiele)"}));
+}
+
+TEST(UserChoice, AKeyOfAGameWithoutExecutablesIsKnown) {
+    const FindProgram program;
+    const QString catalogue = program.file("g.json", R"({"games": [{"name": "Wal", "finders": [
+        {"type": "multi", "finders": [{"type": "userProvidedLocation", "key": "Wal", "executables": []}]}]}]})");
+    const FindRun run = program.run({"locate", "Wal", "D:\\Spiele", catalogue});
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors, "");
-    EXPECT_EQ(program.fakeLog().value(1), "userProvidedLocation(Qualle|)");
 }
 
 TEST(UserChoice, AnEmptyFolderForgets) {
