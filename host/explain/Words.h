@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Host {
+
+struct Game;
+
+/// The words that a search is about, to tell which of many lines may interest: those of the game's name and of what its
+/// finders search for, of three letters and more.
+QStringList searchWords(const Game& game);
+
+/// Whether the text has any of the words in it, letter case ignored.
+bool mentions(const QString& text, const QStringList& words);
+
+} // namespace Host
