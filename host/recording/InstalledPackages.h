@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Host {
+
+/// The families of the app packages that are registered for the user, each once. Whether they are installed, the
+/// system's package functions say.
+QStringList installedPackageFamilies();
+
+/// "Maker.Game_1.2.3.0_x64__hash" belongs to "Maker.Game_hash". Empty when that is no package's full name.
+QString familyOfPackage(const QString& fullName);
+
+} // namespace Host

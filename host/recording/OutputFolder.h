@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QtGlobal>
+
+namespace Host {
+
+/// A new folder that a recording is written into. Removed again, with what is in it, unless it is kept.
+class OutputFolder {
+public:
+    /// Makes the folder; one that exists must be empty. `fault` says why it can't be used.
+    OutputFolder(const QString& folder, QString& fault);
+    ~OutputFolder();
+
+    /// Writes a file and makes the folders on the way. False when that failed.
+    bool write(const QString& name, const QByteArray& contents) const;
+
+    bool makeFolder(const QString& name) const;
+
+    void keep() { m_isToBeRemoved = false; }
+
+private:
+    Q_DISABLE_COPY_MOVE(OutputFolder)
+
+    QString m_folder;
+    bool m_wasThere = false;
+    bool m_isToBeRemoved = false;
+};
+
+} // namespace Host

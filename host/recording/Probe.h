@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace Host {
+
+/// The name of an executable that no game has: who looks for it looks everywhere and never stops early.
+inline QString probeName() {
+    return QStringLiteral("luruludri-record-probe");
+}
+
+} // namespace Host

@@ -1,0 +1,158 @@
+#include "FindProgram.h"
+#include "recorded/FullPc.h"
+
+#include "common/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+
+namespace {
+
+constexpr const char* noGames = R"({"games": []})";
+
+/// The names and contents of all files and folders below `folder`, by name.
+QMap<QString, QByteArray> filesBelow(const QString& folder) {
+    QMap<QString, QByteArray> files;
+    QDirIterator walk(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        QFile file(walk.next());
+        const bool isFile = walk.fileInfo().isFile() && file.open(QIODevice::ReadOnly);
+        files.insert(QDir(folder).relativeFilePath(walk.filePath()), isFile ? file.readAll() : QByteArray());
+    }
+    return files;
+}
+
+/// The files below `folder` that have the text in their names or their bytes, as UTF-8, UTF-16 or in the ANSI code
+/// page.
+QStringList filesWith(const QString& text, const QString& folder) {
+    const QByteArray utf16(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
+    QStringList found;
+    const QMap<QString, QByteArray> files = filesBelow(folder);
+    for (auto file = files.begin(); file != files.end(); ++file) {
+        if (file.key().contains(text, Qt::CaseInsensitive) || file->contains(text.toUtf8()) || file->contains(utf16) ||
+            file->contains(text.toLatin1())) {
+            found.append(file.key());
+        }
+    }
+    return found;
+}
+
+class RecordTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        program.setVariable("XDG_DATA_HOME", program.folder());
+        program.setVariable("XDG_CONFIG_HOME", program.folder() + "/settings");
+    }
+
+    QString path(const QString& name) const { return program.folder() + '/' + name; }
+
+    /// Records `pc` as the folder of that name in the test's.
+    FindRun record(const QString& pc, const QString& name, const QString& catalogue, const QStringList& options = {}) {
+        return program.runBare(QStringList{"--pc", pc, "record", path(name), catalogue} + options);
+    }
+
+    /// The answers for a catalogue on a recorded PC.
+    QString answers(const QString& pc, const QString& catalogue) {
+        const FindRun run = program.runBare({"--pc", pc, "--json", catalogue});
+        EXPECT_EQ(run.errors, "");
+        return run.output;
+    }
+
+    FindProgram program;
+    const QString samplePc = LURULUDRI_SAMPLES "/pc";
+    const QString sampleCatalogue = LURULUDRI_SAMPLES "/catalogue.json";
+};
+
+TEST_F(RecordTest, TheSamplePcAnswersAsItDid) {
+    const FindRun run = record(samplePc, "käfer-pc", sampleCatalogue, {"--keep-names"});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(answers(path("käfer-pc"), sampleCatalogue), answers(samplePc, sampleCatalogue));
+}
+
+TEST_F(RecordTest, TheUsersNameIsReplaced) {
+    ASSERT_EQ(record(samplePc, "pc", sampleCatalogue).exitStatus, 0);
+    QString expected = answers(samplePc, sampleCatalogue);
+    EXPECT_EQ(answers(path("pc"), sampleCatalogue), expected.replace("Jördis", "user"));
+    EXPECT_EQ(filesWith("Jördis", path("pc")), QStringList());
+}
+
+TEST_F(RecordTest, ARecordingOfARecordingIsTheSame) {
+    ASSERT_EQ(record(samplePc, "1", sampleCatalogue).exitStatus, 0);
+    ASSERT_EQ(record(path("1"), "2", sampleCatalogue).exitStatus, 0);
+    EXPECT_EQ(filesBelow(path("1")), filesBelow(path("2")));
+}
+
+TEST_F(RecordTest, GamesThatNobodyKnewWhileRecordingAreFound) {
+    const FullPc pc(program);
+    const FindRun run = record(pc.folder(), "pc", program.file("none.json", noGames), {"--keep-names"});
+    EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
+    const QString expected = answers(pc.folder(), pc.catalogue());
+    EXPECT_EQ(expected.count("\"found\": true"), FullPc::games) << expected.toStdString();
+    EXPECT_EQ(answers(path("pc"), pc.catalogue()), expected);
+}
+
+TEST_F(RecordTest, NothingIsTakenThatNoFinderReads) {
+    const FullPc pc(program);
+    ASSERT_NE(filesWith(FullPc::secret, pc.folder()), QStringList()) << "the test looks for the wrong thing";
+    for (const QStringList& options : {QStringList{}, QStringList{"--keep-names"}}) {
+        const QString name = QString("pc%1").arg(options.size());
+        ASSERT_EQ(record(pc.folder(), name, pc.catalogue(), options).exitStatus, 0);
+        EXPECT_EQ(filesWith(FullPc::secret, path(name)), QStringList());
+    }
+}
+
+TEST_F(RecordTest, TheUserAndTheMachineAreNamedNowhere) {
+    const FullPc pc(program);
+    const FindRun run = record(pc.folder(), "pc", pc.catalogue());
+    ASSERT_EQ(run.exitStatus, 0) << run.errors.toStdString();
+    EXPECT_TRUE(run.output.contains("\"Anneliese Ö\" is now \"user-2\", \"KAEFER-PC\" is now \"pc\""))
+        << run.output.toStdString();
+    for (const char* const name : {"Anneliese", "ANNELI~1", "KAEFER"}) {
+        EXPECT_EQ(filesWith(name, path("pc")), QStringList()) << name;
+    }
+    QString expected = answers(pc.folder(), pc.catalogue());
+    expected.replace("Anneliese Ö", "user-2").replace("ANNELI~1", "user-2").replace("KAEFER-PC", "pc");
+    EXPECT_EQ(answers(path("pc"), pc.catalogue()), expected);
+}
+
+TEST_F(RecordTest, TellsWhatItTookAndHowToReplayIt) {
+    const FullPc pc(program);
+    const FindRun run = record(pc.folder(), "pc", pc.catalogue(), {"--keep-names"});
+    EXPECT_EQ(run.output, "Recorded into " + path("pc") + ":\n" + FullPc::summary + "  names           kept\n" +
+                              "Replay it on Linux with: ./run --pc " + path("pc") + '\n');
+}
+
+TEST_F(RecordTest, ANameThatIsAWordOfPlacesStaysElsewhereAndIsTold) {
+    program.file("pc/pc.json", R"({"environment": {"USERPROFILE": "C:\\Users\\Games"}})");
+    program.file("pc/drives/C/Users/Games/G/g.exe", "");
+    program.file("pc/drives/C/Games/H/h.exe", "");
+    const QString catalogue = program.file("games.json", R"({"games": [{"name": "G", "finders": [
+        {"type": "folder", "folder": "C:\\Users\\Games\\G", "executables": ["g.exe"]},
+        {"type": "folder", "folder": "C:\\Games\\H", "executables": ["h.exe"]}]}]})");
+    const FindRun run = record(path("pc"), "new", catalogue);
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_TRUE(run.errors.contains("\"Games\" is too short a name, or a word that finders look for"))
+        << run.errors.toStdString();
+    EXPECT_TRUE(QFileInfo::exists(path("new/drives/C/Users/user/G/g.exe")));
+    EXPECT_TRUE(QFileInfo::exists(path("new/drives/C/Games/H/h.exe")));
+}
+
+TEST_F(RecordTest, WhatIsOnNoDriveIsTold) {
+    const QString game = program.file("outside/x.exe", "");
+    const QString catalogue = program.file("games.json", QString(R"({"games": [{"name": "X", "finders": [
+            {"type": "folder", "folder": "%1", "executables": ["x.exe"]}]}]})")
+                                                             .arg(path("outside"))
+                                                             .toUtf8());
+    const FindRun run = record(samplePc, "pc", catalogue);
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.errors.count("not recorded: "), 2) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.contains("luruludri-find: not recorded: " + game + '\n')) << run.errors.toStdString();
+}
+
+} // namespace
