@@ -1,0 +1,54 @@
+# What a host's engineer gets: by `cmake --install`, and as the zip file that CPack makes of the same.
+
+include(CMakePackageConfigHelpers)
+
+set(system "${CMAKE_SYSTEM_NAME}")
+if(WIN32)
+    set(system win64)
+endif()
+set(LURULUDRI_PACKAGE "${PROJECT_NAME}-${PROJECT_VERSION}-${system}")
+
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_PACKAGE_FILE_NAME "${LURULUDRI_PACKAGE}")
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_VENDOR "Veltrane")
+set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}")
+set(CPACK_STRIP_FILES ON)
+include(CPack)
+
+# The plug-in lies beside the program, which looks for it there, and so does the catalogue.
+install(TARGETS Luruludri LIBRARY DESTINATION bin)
+install(TARGETS luruludri-find RUNTIME DESTINATION bin)
+install(FILES samples/catalogue.json DESTINATION bin)
+
+install(FILES src/core/GameLocation.h src/core/IGameFinder.h src/core/IGameFinderFactory.h
+        DESTINATION include/luruludri)
+
+set(config "${CMAKE_CURRENT_BINARY_DIR}/package")
+configure_package_config_file(cmake/LuruludriConfig.cmake.in "${config}/LuruludriConfig.cmake"
+                              INSTALL_DESTINATION lib/cmake/Luruludri NO_SET_AND_CHECK_MACRO
+                              NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+write_basic_package_version_file("${config}/LuruludriConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
+install(FILES "${config}/LuruludriConfig.cmake" "${config}/LuruludriConfigVersion.cmake"
+        DESTINATION lib/cmake/Luruludri)
+
+# The README, and the documents that it and they link.
+file(GLOB documents CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/*.md")
+install(FILES README.md DESTINATION .)
+install(FILES ${documents} DESTINATION docs)
+install(FILES docs/host/CMakeLists.txt docs/host/main.cpp DESTINATION docs/host)
+
+if(LURULUDRI_QT_WINDOWS)
+    # Windows has no Qt of its own. What is made by others travels with what they ask for.
+    install(FILES $<TARGET_FILE:Qt5::Core> DESTINATION bin)
+
+    find_package(Python3 REQUIRED COMPONENTS Interpreter)
+    set(notices "${CMAKE_CURRENT_BINARY_DIR}/THIRD-PARTY-NOTICES.txt")
+    add_custom_command(
+        OUTPUT "${notices}"
+        COMMAND Python3::Interpreter "${PROJECT_SOURCE_DIR}/windows/notices" "${LURULUDRI_QT_WINDOWS}" "${notices}"
+        DEPENDS windows/notices windows/notices.txt
+        VERBATIM)
+    add_custom_target(notices ALL DEPENDS "${notices}")
+    install(FILES "${notices}" DESTINATION .)
+endif()
