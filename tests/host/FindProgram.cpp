@@ -50,6 +50,7 @@ FindRun FindProgram::run(const QStringList& arguments) const {
 FindRun FindProgram::runBare(const QStringList& arguments) const {
     QProcess process;
     process.setProcessEnvironment(m_environment);
+    process.setWorkingDirectory(m_folder.path());
     process.setStandardOutputFile(m_outputFile);
     process.setStandardErrorFile(m_errorFile);
     process.start(QStringLiteral(LURULUDRI_FIND), arguments);

@@ -41,4 +41,11 @@ TEST(Readme, ShowsWhatIsExplainedOfAGameOfTheSamples) {
     expectShown({"explain", "Tiefseelicht", LURULUDRI_SAMPLES "/catalogue.json"});
 }
 
+TEST(Readme, ShowsWhatIsSaidOfARecordingOfTheSamples) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    expectShown({"record", "my-pc", LURULUDRI_SAMPLES "/catalogue.json"});
+}
+
 } // namespace
