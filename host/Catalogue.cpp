@@ -97,4 +97,17 @@ std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringLi
     return selected;
 }
 
+QStringList namesLike(const Catalogue& catalogue, const QString& text) {
+    constexpr int mostNames = 3;
+    QStringList names;
+    for (const Game& game : catalogue) {
+        const bool isAlike =
+            game.name.contains(text, Qt::CaseInsensitive) || text.contains(game.name, Qt::CaseInsensitive);
+        if (isAlike && names.size() < mostNames) {
+            names.append(game.name);
+        }
+    }
+    return names;
+}
+
 } // namespace Host

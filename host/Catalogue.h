@@ -50,4 +50,7 @@ std::optional<Catalogue> readCatalogue(const QString& file, CatalogueFault& faul
 /// No value when a name is not in the catalogue; `unknown` is then that name.
 std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringList& names, QString& unknown);
 
+/// The names of games that contain the text or are contained in it, letter case ignored; the first three.
+QStringList namesLike(const Catalogue& catalogue, const QString& text);
+
 } // namespace Host

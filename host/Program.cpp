@@ -38,6 +38,11 @@ QString describe(const QString& file, const CatalogueFault& fault) {
                           : QStringLiteral("%1: %2").arg(file, fault.message);
 }
 
+QString describeUnknown(const QString& file, const QString& name, const QStringList& alike) {
+    const QString fault = QStringLiteral("%1: no game is named \"%2\"").arg(file, name);
+    return alike.isEmpty() ? fault : fault + QStringLiteral(" (but \"%1\")").arg(alike.join(QLatin1String("\", \"")));
+}
+
 /// The games that the command is about. No value after a fault, of which the user has been told.
 std::optional<Catalogue> loadGames(const Options& options) {
     if (options.command == Command::Runtimes || options.command == Command::Forget) {
@@ -52,7 +57,7 @@ std::optional<Catalogue> loadGames(const Options& options) {
     QString unknown;
     std::optional<Catalogue> games = selectGames(*catalogue, options.games, unknown);
     if (!games) {
-        Console::complain(QStringLiteral("%1: no game is named \"%2\"").arg(options.catalogue, unknown));
+        Console::complain(describeUnknown(options.catalogue, unknown, namesLike(*catalogue, unknown)));
     }
     return games;
 }

@@ -56,7 +56,8 @@ TEST(Program, OnlyTheGamesThatAreNamedAreAskedFor) {
     EXPECT_FALSE(one.output.contains("Wal"));
     EXPECT_EQ(program.run({"--game", "wal", catalogue, "--game=käferrennen"}).output, program.run({catalogue}).output);
 
-    expectComplaint(program.run({"--game", "Käfer", catalogue}), "games.json: no game is named \"Käfer\"");
+    expectComplaint(program.run({"--game", "Käfer", catalogue}),
+                    "games.json: no game is named \"Käfer\" (but \"Käferrennen\")");
 }
 
 TEST(Program, WhatGoesToAPipeIsPlainAndWholeWhateverTheEnvironmentSays) {

@@ -62,6 +62,15 @@ TEST(ExplainCommand, RefusesAGameThatTheCatalogueDoesNotHave) {
     EXPECT_EQ(run.errors, "luruludri-find: " + catalogue + ": no game is named \"Hai\"\n");
 }
 
+TEST(ExplainCommand, NamesTheGamesThatAreCalledAlikeInstead) {
+    FindProgram program;
+    const QString catalogue = program.file("Käfer.json", twoGames);
+    EXPECT_EQ(program.run({"explain", "käfer", catalogue}).errors,
+              "luruludri-find: " + catalogue + ": no game is named \"käfer\" (but \"Käferrennen\")\n");
+    EXPECT_EQ(program.run({"--game", "Wal (Demo)", catalogue}).errors,
+              "luruludri-find: " + catalogue + ": no game is named \"Wal (Demo)\" (but \"Wal\")\n");
+}
+
 TEST(ExplainCommand, RefusesAPlugInThatTellsNoTrace) {
     FindProgram program;
     const FindRun run = program.run({"explain", "Wal", program.file("Käfer.json", twoGames)});
