@@ -10,6 +10,13 @@
 #include <termios.h>
 #include <unistd.h>
 
+bool PseudoTerminal::areThere() {
+    const int master = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    const bool isThere = master >= 0 && grantpt(master) == 0 && unlockpt(master) == 0;
+    close(master);
+    return isThere;
+}
+
 PseudoTerminal::PseudoTerminal(unsigned short columns)
     : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)) {
     EXPECT_TRUE(m_master >= 0 && grantpt(m_master) == 0 && unlockpt(m_master) == 0);

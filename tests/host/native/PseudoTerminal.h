@@ -9,6 +9,9 @@
 /// A terminal whose screen is a text: what programs write to it is kept as they wrote it.
 class PseudoTerminal {
 public:
+    /// Whether the system has any: a container without /dev/pts does not.
+    static bool areThere();
+
     explicit PseudoTerminal(unsigned short columns);
     ~PseudoTerminal();
 

@@ -16,6 +16,15 @@ constexpr const char* twoGames = R"({"games": [
     {"name": "Käferrennen", "finders": [{"type": "universalApp", "packageFamily": "installed"}]},
     {"name": "Wal", "finders": [{"type": "universalApp", "packageFamily": "x"}]}]})";
 
+class OnTerminal : public ::testing::Test {
+protected:
+    void SetUp() override {
+        if (!PseudoTerminal::areThere()) {
+            GTEST_SKIP() << "no terminals here";
+        }
+    }
+};
+
 QByteArray manyGames(int count) {
     QByteArray games;
     for (int i = 1; i <= count; ++i) {
@@ -41,7 +50,7 @@ QString withoutColours(QString text) {
     return text.remove(QRegularExpression("\x1B\\[[0-9]+m"));
 }
 
-TEST(OnTerminal, TheTableKeepsToTheWidth) {
+TEST_F(OnTerminal, TheTableKeepsToTheWidth) {
     FindProgram program;
     const QString text = withoutColours(outputOn(program, 39));
     EXPECT_TRUE(text.startsWith("Game         Found\n"
@@ -59,7 +68,7 @@ TEST(OnTerminal, TheTableKeepsToTheWidth) {
     EXPECT_EQ(withoutColours(outputOn(program, 200)), text);
 }
 
-TEST(OnTerminal, OnAWideOneNothingDiffersButColours) {
+TEST_F(OnTerminal, OnAWideOneNothingDiffersButColours) {
     FindProgram program;
     const QString plain = program.run({program.file("games.json", twoGames)}).output;
     const QString coloured = outputOn(program, 200);
@@ -74,7 +83,7 @@ TEST(OnTerminal, OnAWideOneNothingDiffersButColours) {
     EXPECT_EQ(outputOn(program, 200), plain);
 }
 
-TEST(OnTerminal, AQuickCatalogueShowsNoProgress) {
+TEST_F(OnTerminal, AQuickCatalogueShowsNoProgress) {
     FindProgram program;
     PseudoTerminal terminal(80);
     program.redirect(QString(), terminal.name());
@@ -83,7 +92,7 @@ TEST(OnTerminal, AQuickCatalogueShowsNoProgress) {
     EXPECT_EQ(terminal.text(), "");
 }
 
-TEST(OnTerminal, ALongCatalogueShowsProgressAndErasesItBeforeTheAnswers) {
+TEST_F(OnTerminal, ALongCatalogueShowsProgressAndErasesItBeforeTheAnswers) {
     FindProgram program;
     program.setFakeMode("slow"); // two finders a game, 50 ms each
     const QString catalogue = program.file("games.json", manyGames(10));
@@ -101,7 +110,7 @@ TEST(OnTerminal, ALongCatalogueShowsProgressAndErasesItBeforeTheAnswers) {
     EXPECT_TRUE(withoutColours(lines.last()).startsWith("Game      Found  Folder")) << lines.last().toStdString();
 }
 
-TEST(OnTerminal, WithoutOneThereIsNoProgress) {
+TEST_F(OnTerminal, WithoutOneThereIsNoProgress) {
     FindProgram program;
     program.setFakeMode("slow");
     const QString catalogue = program.file("games.json", manyGames(10));
@@ -114,7 +123,7 @@ TEST(OnTerminal, WithoutOneThereIsNoProgress) {
     EXPECT_EQ(terminal.text(), "");
 }
 
-TEST(OnTerminal, AComplaintErasesTheProgressFirst) {
+TEST_F(OnTerminal, AComplaintErasesTheProgressFirst) {
     FindProgram program;
     program.setFakeMode("slow and loud"); // warns in every search
     PseudoTerminal terminal(80);
