@@ -53,6 +53,7 @@ expect_links() {
     done < <(find "$1" -name '*.md')
 }
 
+export LC_ALL=C.UTF-8 # names are not all ASCII, and the system's locale may be "C"
 scratch=$(mktemp -d "${TMPDIR:-/tmp}/luruludri-package.XXXXXX")
 wine_run=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../../windows/wine-run")
 
@@ -75,6 +76,6 @@ windows_program() {
 
 # Takes the text on stdin over into the registry.
 import_registry() {
-    { printf 'Windows Registry Editor Version 5.00\r\n\r\n' && cat; } | iconv -t UTF-16 >"$c_drive/import.reg"
+    { printf 'Windows Registry Editor Version 5.00\r\n\r\n' && cat; } | iconv -f UTF-8 -t UTF-16 >"$c_drive/import.reg"
     windows_program regedit /S 'C:\import.reg'
 }
