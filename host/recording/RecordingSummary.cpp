@@ -5,6 +5,8 @@
 
 #include <QDir>
 
+#include <algorithm>
+
 namespace Host {
 
 namespace {
@@ -48,6 +50,17 @@ QString folderElsewhere(const QString& folder) {
     return QDir::separator() == QLatin1Char('\\') ? QDir(folder).dirName() : folder;
 }
 
+/// As a shell wants it: within quotes when it has anything but letters, digits and a few signs.
+QString shellWord(const QString& text) {
+    const QString harmless = QStringLiteral("/._-+");
+    const bool isPlain = std::all_of(text.begin(), text.end(), [&harmless](QChar character) {
+        return character.isLetterOrNumber() || harmless.contains(character);
+    });
+    return isPlain ? text
+                   : QLatin1Char('\'') + QString(text).replace(QLatin1Char('\''), QLatin1String("'\\''")) +
+                         QLatin1Char('\'');
+}
+
 } // namespace
 
 QString summarize(const PcRecord& record, const std::vector<PrivateName>& names, const Options& options) {
@@ -59,7 +72,8 @@ QString summarize(const PcRecord& record, const std::vector<PrivateName>& names,
            line("app packages", QString::number(record.facts().packageCount())) +
            line("user's choices", QString::number(record.facts().userLocationCount())) +
            line("names", describeNames(names, options.keepNames)) +
-           QStringLiteral("Replay it on Linux with: ./run --pc %1\n").arg(oneLine(folderElsewhere(options.folder)));
+           QStringLiteral("Replay it on Linux with: ./run --pc %1\n")
+               .arg(shellWord(oneLine(folderElsewhere(options.folder))));
 }
 
 QStringList describeLosses(const QStringList& leftOut, const std::vector<PrivateName>& names) {

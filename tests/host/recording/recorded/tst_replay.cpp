@@ -128,6 +128,12 @@ TEST_F(RecordTest, TellsWhatItTookAndHowToReplayIt) {
                               "Replay it on Linux with: ./run --pc " + path("pc") + '\n');
 }
 
+TEST_F(RecordTest, TellsAFolderWithBlanksAsAShellWantsIt) {
+    const FullPc pc(program);
+    const FindRun run = record(pc.folder(), "Anna's PC", pc.catalogue());
+    EXPECT_TRUE(run.output.endsWith("./run --pc '" + path("Anna'\\''s PC") + "'\n")) << run.output.toStdString();
+}
+
 TEST_F(RecordTest, ANameThatIsAWordOfPlacesStaysElsewhereAndIsTold) {
     program.file("pc/pc.json", R"({"environment": {"USERPROFILE": "C:\\Users\\Games"}})");
     program.file("pc/drives/C/Users/Games/G/g.exe", "");
