@@ -36,7 +36,8 @@ QString describeNames(const std::vector<PrivateName>& names, bool areKept) {
     }
     QStringList replaced;
     for (const PrivateName& name : names) {
-        replaced.append(QStringLiteral("\"%1\" is now \"%2\"").arg(name.name, name.neutral));
+        const QString where = name.isEverywhere ? QString() : QStringLiteral(" (as a user's folder only)");
+        replaced.append(QStringLiteral("\"%1\" is now \"%2\"").arg(name.name, name.neutral) + where);
     }
     return replaced.isEmpty() ? QStringLiteral("none known, so none replaced") : replaced.join(QLatin1String(", "));
 }

@@ -59,11 +59,11 @@ TEST(GeneralFolders, AProfileInADrivesRootStandsForItselfOnly) {
 
 TEST(GeneralFolders, AreThoseThatAreAdded) {
     GeneralFolders folders{QProcessEnvironment()};
-    folders.add("D:/Work/here");
+    folders.add("D:/Here/below");
     folders.add("/home/anna");
-    EXPECT_TRUE(isGeneral(folders, "D:\\work\\HERE"));
-    EXPECT_FALSE(isGeneral(folders, "D:\\Work"));
-    EXPECT_FALSE(isGeneral(folders, "D:\\Work\\here\\Game"));
+    EXPECT_TRUE(isGeneral(folders, "D:\\here\\BELOW"));
+    EXPECT_FALSE(isGeneral(folders, "D:\\Here"));
+    EXPECT_FALSE(isGeneral(folders, "D:\\Here\\below\\Game"));
 }
 
 class InstallFoldersTest : public ::testing::Test {

@@ -145,6 +145,8 @@ TEST_F(RecordTest, ANameThatIsAWordOfPlacesStaysElsewhereAndIsTold) {
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_TRUE(run.errors.contains("\"Games\" is too short a name, or a word that finders look for"))
         << run.errors.toStdString();
+    EXPECT_TRUE(run.output.contains("\"Games\" is now \"user\" (as a user's folder only)\n"))
+        << run.output.toStdString();
     EXPECT_TRUE(QFileInfo::exists(path("new/drives/C/Users/user/G/g.exe")));
     EXPECT_TRUE(QFileInfo::exists(path("new/drives/C/Games/H/h.exe")));
 }
