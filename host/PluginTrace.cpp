@@ -1,24 +1,19 @@
 #include "host/PluginTrace.h"
 
 #include "host/Environment.h"
+#include "support/Trace.h"
 
 #include <QFile>
 
 namespace Host {
 
-namespace {
-
-constexpr const char* variable = "LURULUDRI_TRACE"; // docs/trace.md
-
-} // namespace
-
 PluginTrace::PluginTrace()
-    : m_before(qEnvironmentVariable(variable)) {
-    m_isOn = m_folder.isValid() && setEnvironmentVariable(variable, file());
+    : m_before(qEnvironmentVariable(Trace::environmentVariable)) {
+    m_isOn = m_folder.isValid() && setEnvironmentVariable(Trace::environmentVariable, file());
 }
 
 PluginTrace::~PluginTrace() {
-    setEnvironmentVariable(variable, m_before);
+    setEnvironmentVariable(Trace::environmentVariable, m_before);
 }
 
 TraceEvents PluginTrace::events() const {

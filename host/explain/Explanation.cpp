@@ -147,6 +147,9 @@ QString explain(const Game& game, const GameAnswer& answer, const TraceEvents& e
     const QStringList words = searchWords(game);
     Explainer explainer(isFull ? QStringList() : words);
     explainer.add(QStringLiteral("%1: %2").arg(oneLine(game.name), outcomeOf(answer)));
+    if (game.finders.empty()) {
+        explainer.add(QStringLiteral("The catalogue has no finder for it."));
+    }
     explainer.addSection(whole, game.finders, QString());
     const QStringList similar = answer.found ? QStringList() : similarNames(whole, words);
     if (!similar.isEmpty()) {

@@ -2,12 +2,10 @@
 #include "catalogue/StartMenuIndex.h"
 #include "catalogue/UninstallIndex.h"
 #include "core/GameLocation.h"
-#include "support/Logger.h"
-#include "support/recorded/Observer.h"
 
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
+#include "common/recorded/QuestionsTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,25 +18,9 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-/// What the catalogues ask a PC.
-class QuestionsTest : public ::testing::Test {
-protected:
-    ~QuestionsTest() override { Recorded::setObserver({}); }
+class CatalogueQuestionsTest : public QuestionsTest {};
 
-    template <class Act>
-    std::vector<std::string> questionsOf(Act act) {
-        std::vector<std::string> questions;
-        Recorded::setObserver([&questions](const QString& question) { questions.push_back(question.toStdString()); });
-        act();
-        Recorded::setObserver({});
-        return questions;
-    }
-
-    TestPc pc;
-    Logger logger = Logger::create("Test");
-};
-
-TEST_F(QuestionsTest, BuildingTheStartMenuIndexOnlyListsFolders) {
+TEST_F(CatalogueQuestionsTest, BuildingTheStartMenuIndexOnlyListsFolders) {
     pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
     pc.file("C:\\Menu\\a.lnk");
     pc.file("C:\\Menu\\Games\\b.lnk");
@@ -47,7 +29,7 @@ TEST_F(QuestionsTest, BuildingTheStartMenuIndexOnlyListsFolders) {
     EXPECT_THAT(questionsOf([&] { index.entries(); }), IsEmpty());
 }
 
-TEST_F(QuestionsTest, AStartMenuSearchOpensOnlyShortcutsOfTheName) {
+TEST_F(CatalogueQuestionsTest, AStartMenuSearchOpensOnlyShortcutsOfTheName) {
     pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
     for (const char* name : {"a", "b", "c"}) {
         pc.shortcut(QString("C:\\Menu\\") + name + ".lnk", "C:\\Games\\game.exe");
@@ -63,7 +45,7 @@ TEST_F(QuestionsTest, AStartMenuSearchOpensOnlyShortcutsOfTheName) {
     EXPECT_THAT(questions, Not(Contains(StartsWith("list "))));
 }
 
-TEST_F(QuestionsTest, SearchesOfABuiltUninstallIndexReadNoRegistry) {
+TEST_F(CatalogueQuestionsTest, SearchesOfABuiltUninstallIndexReadNoRegistry) {
     addProgram(pc, {"X", "X", "C:\\X", {}});
     UninstallIndex index;
     EXPECT_THAT(questionsOf([&] { index.entries(); }), Not(IsEmpty()));

@@ -161,6 +161,11 @@ TEST(Explanation, NumbersTheFindersWithinAMultiFinder) {
     EXPECT_EQ(lines.back(), "   => not found by 1.");
 }
 
+TEST(Explanation, SaysThatAGameHasNoFinders) {
+    TestPc pc;
+    EXPECT_EQ(explained(""), QStringList({"Käferrennen: not found", "The catalogue has no finder for it."}));
+}
+
 TEST(Explanation, KeepsEachLineALineWhateverTheRegistryHolds) {
     TestPc pc;
     addProgram(pc, {"Rennen", "Käferrennen", "D:\\a\nb\x1b[31m", {}});

@@ -2,13 +2,11 @@
 #include "stores/EpicManifestIndex.h"
 #include "stores/EpicStoreFinder.h"
 #include "stores/OculusLibraryIndex.h"
-#include "support/Logger.h"
-#include "support/recorded/Observer.h"
 
 #include "common/EpicLauncher.h"
 #include "common/OculusStore.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
+#include "common/recorded/QuestionsTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,23 +18,7 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-/// What the stores' indexes ask a PC.
-class StoreQuestionsTest : public ::testing::Test {
-protected:
-    ~StoreQuestionsTest() override { Recorded::setObserver({}); }
-
-    template <class Act>
-    std::vector<std::string> questionsOf(Act act) {
-        std::vector<std::string> questions;
-        Recorded::setObserver([&questions](const QString& question) { questions.push_back(question.toStdString()); });
-        act();
-        Recorded::setObserver({});
-        return questions;
-    }
-
-    TestPc pc;
-    Logger logger = Logger::create("Test");
-};
+class StoreQuestionsTest : public QuestionsTest {};
 
 TEST_F(StoreQuestionsTest, ABuiltEpicIndexIsNotReadAgain) {
     addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
