@@ -1,6 +1,6 @@
 #include "BenchPc.h"
 
-#include "support/Recording.h"
+#include "platform/Recording.h"
 
 #include <QDir>
 #include <QFile>

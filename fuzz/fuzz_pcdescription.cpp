@@ -1,4 +1,4 @@
-#include "support/recorded/PcDescription.h"
+#include "recordings/PcDescription.h"
 
 #include <cstddef>
 #include <cstdint>

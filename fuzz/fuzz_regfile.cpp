@@ -1,4 +1,4 @@
-#include "support/recorded/RecordedRegistry.h"
+#include "recordings/RecordedRegistry.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "support/recorded/ShellLink.h"
+#include "recordings/ShellLink.h"
 
 #include <cstddef>
 #include <cstdint>

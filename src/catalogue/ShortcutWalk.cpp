@@ -1,8 +1,8 @@
 #include "catalogue/ShortcutWalk.h"
 
+#include "platform/Listing.h"
 #include "support/Clock.h"
 #include "support/Paths.h"
-#include "support/Platform.h"
 #include "support/Trace.h"
 
 #include <QJsonArray>

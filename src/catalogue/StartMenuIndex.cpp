@@ -1,9 +1,9 @@
 #include "catalogue/StartMenuIndex.h"
 
 #include "catalogue/ShortcutWalk.h"
+#include "platform/Folders.h"
 #include "support/KnownFolders.h"
 #include "support/Paths.h"
-#include "support/Platform.h"
 #include "support/Trace.h"
 
 namespace {

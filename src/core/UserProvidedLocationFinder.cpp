@@ -1,10 +1,10 @@
 #include "core/UserProvidedLocationFinder.h"
 
 #include "core/LocationFilling.h"
+#include "platform/Folders.h"
 #include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
-#include "support/Platform.h"
 #include "support/Trace.h"
 
 #include <QDir>

@@ -1,10 +1,10 @@
 #include "stores/EpicManifestIndex.h"
 
+#include "platform/Folders.h"
 #include "stores/EpicManifest.h"
 #include "support/Files.h"
 #include "support/KnownFolders.h"
 #include "support/Logger.h"
-#include "support/Platform.h"
 #include "support/RegistryKey.h"
 #include "support/Trace.h"
 

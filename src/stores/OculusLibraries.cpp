@@ -1,8 +1,8 @@
 #include "stores/OculusLibraries.h"
 
+#include "platform/Folders.h"
 #include "support/Files.h"
 #include "support/Logger.h"
-#include "support/Platform.h"
 #include "support/RegistryKey.h"
 #include "support/Trace.h"
 

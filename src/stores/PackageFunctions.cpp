@@ -1,6 +1,6 @@
 #include "stores/PackageFunctions.h"
 
-#include "support/Platform.h"
+#include "platform/SystemFunctions.h"
 
 namespace {
 

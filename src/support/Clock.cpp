@@ -1,6 +1,7 @@
 #include "support/Clock.h"
 
-#include "support/Platform.h"
+#include "platform/Clocks.h"
+#include "platform/SystemFunctions.h"
 
 namespace {
 

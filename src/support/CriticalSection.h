@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Platform.h"
+#include "platform/Locks.h"
 
 /// One critical section of the system's: a lock that its thread may take again. Taken through a LockGuard.
 class CriticalSection {

@@ -1,6 +1,6 @@
 #include "support/Environment.h"
 
-#include "support/Platform.h"
+#include "platform/Process.h"
 #include "support/Trace.h"
 
 #include <QStringList>

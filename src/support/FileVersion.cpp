@@ -1,6 +1,6 @@
 #include "support/FileVersion.h"
 
-#include "support/Platform.h"
+#include "platform/Versions.h"
 
 #include <cstring>
 #include <vector>

@@ -1,7 +1,8 @@
 #include "support/HostExecutable.h"
 
+#include "platform/Folders.h"
+#include "platform/Process.h"
 #include "support/Paths.h"
-#include "support/Platform.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include "support/KnownFolders.h"
 
+#include "platform/Folders.h"
 #include "support/Paths.h"
-#include "support/Platform.h"
 #include "support/Trace.h"
 
 #include <array>

@@ -1,5 +1,8 @@
 #include "support/LogFile.h"
 
+#include "platform/Clocks.h"
+#include "platform/Files.h"
+#include "platform/Process.h"
 #include "support/FileVersion.h"
 #include "support/HostExecutable.h"
 #include "support/Paths.h"

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/TextStream.h"
 #include "support/KnownFolders.h"
-#include "support/Platform.h"
 
 #include <QByteArray>
 #include <QString>

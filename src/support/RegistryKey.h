@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Platform.h"
+#include "platform/Registry.h"
 #include "support/TracedKey.h"
 
 #include <QString>

@@ -1,8 +1,9 @@
 #include "allocation/FailingAllocation.h"
-#include "core/FindersFactory.h"
+#include "core/plugin/FindersFactory.h"
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "platform/Registry.h"
 
 #include <gtest/gtest.h>
 

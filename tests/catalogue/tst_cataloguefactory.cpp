@@ -4,6 +4,7 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "core/Locations.h"
+#include "platform/Folders.h"
 
 #include <QDir>
 

@@ -6,6 +6,7 @@
 #include "common/Games.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "platform/Registry.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

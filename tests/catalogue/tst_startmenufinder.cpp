@@ -6,6 +6,7 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "core/Locations.h"
+#include "platform/Folders.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 #include "common/AtOnce.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "platform/Folders.h"
 
 #include <QDir>
 

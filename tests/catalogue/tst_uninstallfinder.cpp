@@ -7,6 +7,7 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "core/Locations.h"
+#include "platform/Registry.h"
 
 #include <QDir>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/TestPc.h"
+#include "platform/Registry.h"
 #include "support/RegistryKey.h"
 
 #include <QJsonDocument>

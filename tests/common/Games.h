@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/TestPc.h"
+#include "platform/Registry.h"
 
 /// An entry of the Windows Games Explorer.
 struct TestGame {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/TestPc.h"
+#include "platform/Registry.h"
 #include "support/RegistryKey.h"
 
 /// An entry of the Uninstall registry; the machine's in the 32-bit view unless a test says otherwise.

@@ -1,5 +1,7 @@
 #include "common/TestPc.h"
 
+#include "platform/Folders.h"
+
 #include <QDir>
 #include <QFile>
 

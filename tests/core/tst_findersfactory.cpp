@@ -1,4 +1,4 @@
-#include "core/FindersFactory.h"
+#include "core/plugin/FindersFactory.h"
 
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"

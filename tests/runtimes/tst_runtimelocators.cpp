@@ -5,6 +5,7 @@
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "platform/Registry.h"
 
 #include <QDir>
 

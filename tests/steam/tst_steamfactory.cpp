@@ -4,6 +4,8 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "core/Locations.h"
+#include "platform/Folders.h"
+#include "platform/Registry.h"
 #include "steam/MessageLog.h"
 
 #include <gmock/gmock.h>

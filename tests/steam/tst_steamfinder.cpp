@@ -8,6 +8,8 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "core/Locations.h"
+#include "platform/Folders.h"
+#include "platform/Registry.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -3,6 +3,8 @@
 #include "common/AtOnce.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "platform/Folders.h"
+#include "platform/Registry.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

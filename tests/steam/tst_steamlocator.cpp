@@ -5,6 +5,8 @@
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "platform/Folders.h"
+#include "platform/Registry.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

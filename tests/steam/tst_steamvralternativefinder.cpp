@@ -6,6 +6,7 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "core/Locations.h"
+#include "platform/Registry.h"
 #include "steam/MessageLog.h"
 
 #include <gmock/gmock.h>

@@ -4,6 +4,8 @@
 #include "common/EpicLauncher.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "platform/Folders.h"
+#include "platform/Registry.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

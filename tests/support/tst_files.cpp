@@ -1,4 +1,5 @@
-#include "support/Platform.h"
+#include "platform/Files.h"
+#include "platform/TextStream.h"
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"

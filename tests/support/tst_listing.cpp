@@ -1,4 +1,4 @@
-#include "support/Platform.h"
+#include "platform/Listing.h"
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"

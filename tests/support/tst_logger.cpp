@@ -4,6 +4,7 @@
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "platform/Registry.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

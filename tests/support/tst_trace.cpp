@@ -3,6 +3,8 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "common/TraceLog.h"
+#include "platform/Folders.h"
+#include "platform/Registry.h"
 #include "support/Environment.h"
 #include "support/Files.h"
 #include "support/KnownFolders.h"

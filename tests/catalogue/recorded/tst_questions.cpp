@@ -6,6 +6,7 @@
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
 #include "common/recorded/QuestionsTest.h"
+#include "platform/Folders.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -5,6 +5,7 @@
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "platform/Folders.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

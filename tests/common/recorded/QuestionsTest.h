@@ -1,8 +1,8 @@
 #pragma once
 
 #include "common/TestPc.h"
+#include "platform/recorded/Observer.h"
 #include "support/Logger.h"
-#include "support/recorded/Observer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/recorded/RecordedPc.h"
+#include "platform/recorded/RecordedPc.h"
 
 #include <QByteArray>
 #include <QTemporaryDir>

@@ -1,7 +1,9 @@
 #include "common/TestPc.h"
 
-#include "host/recording/ShellLinkWriter.h"
-#include "support/Recording.h"
+#include "find/record/ShellLinkWriter.h"
+#include "platform/Folders.h"
+#include "platform/Recording.h"
+#include "platform/Registry.h"
 
 #include <QCoreApplication>
 #include <QDir>

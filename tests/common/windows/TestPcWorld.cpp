@@ -1,4 +1,6 @@
 #include "common/TestPc.h"
+#include "platform/Folders.h"
+#include "platform/Registry.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "core/GameLocation.h"
 #include "core/UserProvidedLocationFinder.h"
+#include "platform/Folders.h"
 #include "support/Logger.h"
-#include "support/Platform.h"
 
 #include "common/QtPrinters.h"
 #include "common/recorded/RecordingFolder.h"

@@ -1,0 +1,34 @@
+#include "find/answers/Plugin.h"
+
+#include "core/IGameFinderFactory.h"
+
+#include <QFileInfo>
+
+namespace Host {
+
+Plugin::Plugin(const QString& file)
+    // A name without a folder would be searched for among the system's libraries.
+    : m_library(QFileInfo(file).absoluteFilePath()) {}
+
+Plugin::~Plugin() {
+    m_library.unload();
+}
+
+std::unique_ptr<IGameFinderFactory> Plugin::createFactory(QString& fault) {
+    if (!m_library.load()) {
+        fault = m_library.errorString();
+        return nullptr;
+    }
+    const auto create = reinterpret_cast<CreateFactoryFunction>(m_library.resolve("Create"));
+    if (create == nullptr) {
+        fault = QStringLiteral("%1: no plug-in, as it has no function \"Create\"").arg(m_library.fileName());
+        return nullptr;
+    }
+    std::unique_ptr<IGameFinderFactory> factory(create());
+    if (!factory) {
+        fault = QStringLiteral("%1: Create made no factory").arg(m_library.fileName());
+    }
+    return factory;
+}
+
+} // namespace Host

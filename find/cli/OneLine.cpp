@@ -1,0 +1,19 @@
+#include "find/cli/OneLine.h"
+
+#include <QChar>
+
+namespace Host {
+
+QString oneLine(const QString& text) {
+    QString line = text;
+    for (QChar& character : line) {
+        const QChar::Category category = character.category();
+        if (category == QChar::Other_Control || category == QChar::Separator_Line ||
+            category == QChar::Separator_Paragraph) {
+            character = QLatin1Char(' ');
+        }
+    }
+    return line;
+}
+
+} // namespace Host

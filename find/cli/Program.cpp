@@ -1,0 +1,184 @@
+#include "find/cli/Program.h"
+
+#include "core/IGameFinderFactory.h"
+#include "find/answers/Answers.h"
+#include "find/answers/Plugin.h"
+#include "find/answers/RecordedPc.h"
+#include "find/answers/Report.h"
+#include "find/answers/UserChoice.h"
+#include "find/catalogue/Catalogue.h"
+#include "find/cli/CommandLine.h"
+#include "find/cli/Console.h"
+#include "find/cli/OneLine.h"
+#include "find/cli/Progress.h"
+#include "find/explain/Explanation.h"
+#include "find/explain/PluginTrace.h"
+#include "find/record/RecordCommand.h"
+
+#include <memory>
+#include <new>
+#include <optional>
+
+namespace Host {
+
+namespace {
+
+ExitStatus fail(const QString& message) {
+    Console::complain(message);
+    return failed;
+}
+
+ExitStatus print(const QString& text, ExitStatus status) {
+    return Console::print(text) ? status : fail(QStringLiteral("the answers could not be written"));
+}
+
+QString describe(const QString& file, const CatalogueFault& fault) {
+    return fault.line > 0 ? QStringLiteral("%1:%2:%3: %4")
+                                .arg(file, QString::number(fault.line), QString::number(fault.column), fault.message)
+                          : QStringLiteral("%1: %2").arg(file, fault.message);
+}
+
+QString describeUnknown(const QString& file, const QString& name, const QStringList& alike) {
+    const QString fault = QStringLiteral("%1: no game is named \"%2\"").arg(file, name);
+    return alike.isEmpty() ? fault : fault + QStringLiteral(" (but \"%1\")").arg(alike.join(QLatin1String("\", \"")));
+}
+
+/// The games that the command is about. No value after a fault, of which the user has been told.
+std::optional<Catalogue> loadGames(const Options& options) {
+    if (options.command == Command::Runtimes || options.command == Command::Forget) {
+        return Catalogue();
+    }
+    CatalogueFault fault;
+    const std::optional<Catalogue> catalogue = readCatalogue(options.catalogue, fault);
+    if (!catalogue) {
+        Console::complain(describe(options.catalogue, fault));
+        return std::nullopt;
+    }
+    QString unknown;
+    std::optional<Catalogue> games = selectGames(*catalogue, options.games, unknown);
+    if (!games) {
+        Console::complain(describeUnknown(options.catalogue, unknown, namesLike(*catalogue, unknown)));
+    }
+    return games;
+}
+
+ExitStatus answer(IGameFinderFactory& factory, const Options& options, const Catalogue& games) {
+    Progress progress(QStringLiteral("asking"));
+    const Answers answers = ask(factory, games, progress);
+    progress.finish();
+    return print(options.json ? renderJson(answers) : renderTables(answers, Console::terminal(Stream::Output)),
+                 answers.allGamesFound() ? allFound : someNotFound);
+}
+
+ExitStatus locate(IGameFinderFactory& factory, const Options& options, const Catalogue& games) {
+    const UserChoice choice = rememberChoice(factory, games, options.key, options.folder);
+    if (choice.folder.isEmpty()) {
+        return fail(QStringLiteral("the folder could not be remembered"));
+    }
+    if (!choice.isAskedFor) {
+        const QString message = QStringLiteral("%1: no game has the key \"%2\"; remembered all the same");
+        Console::complain(message.arg(options.catalogue, options.key.trimmed()));
+    }
+    if (!choice.missing.isEmpty()) {
+        Console::complain(QStringLiteral("the folder holds none of the game's executables: ") +
+                          choice.missing.join(QLatin1String(", ")));
+    }
+    return print(oneLine(options.key.trimmed() + QLatin1String(": ") + choice.folder) + QLatin1Char('\n'),
+                 choice.missing.isEmpty() ? allFound : someNotFound);
+}
+
+ExitStatus forget(IGameFinderFactory& factory, const Options& options) {
+    if (!forgetChoice(factory, options.key)) {
+        return fail(QStringLiteral("the folder could not be forgotten"));
+    }
+    return print(oneLine(options.key.trimmed() + QLatin1String(": forgotten")) + QLatin1Char('\n'), allFound);
+}
+
+/// `games` holds the one that was named.
+ExitStatus explainGame(IGameFinderFactory& factory, const Options& options, const Catalogue& games,
+                       const PluginTrace& trace) {
+    const Game& game = games.front();
+    const GameAnswer answer = askForGame(factory, game);
+    const TraceEvents events = trace.events();
+    if (events.empty()) {
+        return fail(QStringLiteral("%1: this plug-in tells no trace").arg(options.plugin));
+    }
+    return print(explain(game, answer, events, options.all), answer.found ? allFound : someNotFound);
+}
+
+ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& games, const PluginTrace* trace) {
+    QString fault;
+    const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault);
+    if (!factory) {
+        return fail(fault);
+    }
+    switch (options.command) {
+    case Command::Locate:
+        return locate(*factory, options, games);
+    case Command::Forget:
+        return forget(*factory, options);
+    case Command::Explain:
+        return explainGame(*factory, options, games, *trace);
+    case Command::FindGames:
+    case Command::Runtimes:
+    case Command::Record: // which asks otherwise
+        break;
+    }
+    return answer(*factory, options, games);
+}
+
+ExitStatus askPlugin(const Options& options, const Catalogue& games) {
+    std::optional<PluginTrace> trace; // outlives the plug-in, which keeps the trace's file open
+    if (options.command == Command::Explain) {
+        trace.emplace();
+        if (!trace->isOn()) {
+            return fail(QStringLiteral("a temporary file could not be made"));
+        }
+    }
+    Plugin plugin(options.plugin);
+    try {
+        return askWithin(plugin, options, games, trace ? &*trace : nullptr);
+    } catch (const std::bad_alloc&) {
+        // Here and not further out: what the plug-in throws is destroyed by code of the plug-in.
+        return failForMemory();
+    }
+}
+
+ExitStatus run(const Options& options) {
+    const std::optional<Catalogue> games = loadGames(options);
+    if (!games) {
+        return failed;
+    }
+    const RecordedPc pc = chooseRecordedPc(options.pc);
+    if (!pc.fault.isEmpty()) {
+        return fail(pc.fault);
+    }
+    for (const QString& problem : pc.problems) {
+        Console::complain(problem);
+    }
+    const ExitStatus status =
+        options.command == Command::Record ? recordPc(options, *games) : askPlugin(options, *games);
+    return pc.problems.isEmpty() ? status : failed;
+}
+
+} // namespace
+
+ExitStatus failForMemory() {
+    return fail(QStringLiteral("out of memory"));
+}
+
+ExitStatus runProgram(const QStringList& arguments) {
+    const CommandLine commandLine = parseCommandLine(arguments);
+    switch (commandLine.action) {
+    case CommandLine::Action::Run:
+        return run(commandLine.options);
+    case CommandLine::Action::PrintText:
+        return print(commandLine.text, allFound);
+    case CommandLine::Action::Refuse:
+        break;
+    }
+    Console::complain(commandLine.text);
+    return fail(QStringLiteral("try luruludri-find --help"));
+}
+
+} // namespace Host

@@ -1,0 +1,20 @@
+#include "find/cli/Console.h"
+#include "find/cli/Program.h"
+
+#include <QCoreApplication>
+#include <QLatin1String>
+
+#include <new>
+
+int main(int argc, char* argv[]) {
+    const Host::Console console;
+    Host::Console::complainOfQtMessages();
+    try {
+        QCoreApplication application(argc, argv);
+        QCoreApplication::setApplicationName(QStringLiteral("luruludri-find"));
+        QCoreApplication::setApplicationVersion(QLatin1String(LURULUDRI_VERSION));
+        return Host::runProgram(QCoreApplication::arguments());
+    } catch (const std::bad_alloc&) {
+        return Host::failForMemory();
+    }
+}

@@ -1,0 +1,12 @@
+#include "find/cli/Environment.h"
+
+#include <cstdlib>
+#include <string>
+
+namespace Host {
+
+bool setEnvironmentVariable(const char* name, const QString& value) {
+    return _wputenv_s(QString::fromLatin1(name).toStdWString().c_str(), value.toStdWString().c_str()) == 0;
+}
+
+} // namespace Host

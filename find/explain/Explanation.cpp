@@ -1,0 +1,165 @@
+#include "find/explain/Explanation.h"
+
+#include "find/answers/Answers.h"
+#include "find/catalogue/FinderTypes.h"
+#include "find/cli/OneLine.h"
+#include "find/explain/EventText.h"
+#include "find/explain/IndexText.h"
+#include "find/explain/TraceTree.h"
+#include "find/explain/Words.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace Host {
+
+namespace {
+
+const QLatin1String indentation("   ");
+
+QString quoted(const QString& text) {
+    return QLatin1Char('"') + oneLine(text) + QLatin1Char('"');
+}
+
+QString valueText(const QString& text) {
+    return quoted(text);
+}
+
+QString valueText(const QStringList& texts) {
+    QStringList list;
+    for (const QString& text : texts) {
+        list.append(quoted(text));
+    }
+    return QLatin1Char('[') + list.join(QLatin1String(", ")) + QLatin1Char(']');
+}
+
+QString valueText(int number) {
+    return QString::number(number);
+}
+
+QString valueText(const std::vector<FinderEntry>& finders) {
+    return QString::number(finders.size());
+}
+
+/// The finder as the catalogue has it.
+QString titleOf(const FinderEntry& finder) {
+    QStringList fields;
+    for (const FinderField& field : finder.type->fields) {
+        const QString value = std::visit([&finder](auto target) { return valueText(finder.*target); }, field.target);
+        fields.append(QStringLiteral("%1 %2").arg(QLatin1String(field.name), value));
+    }
+    return QStringLiteral("%1: %2").arg(QLatin1String(finder.type->name), fields.join(QLatin1String(", ")));
+}
+
+class Explainer {
+public:
+    explicit Explainer(const QStringList& words)
+        : m_words(words) {}
+
+    void add(const QString& line) { m_lines.append(line); }
+
+    /// What happened within a section in which these finders were asked. `place` is what their numbers begin with:
+    /// "2." within a multi finder that is the second.
+    void addSection(const TraceSection& section, const std::vector<FinderEntry>& finders, const QString& place);
+
+    QString text() const { return m_lines.join(QLatin1Char('\n')) + QLatin1Char('\n'); }
+
+private:
+    void addInner(const TraceSection& inner, const std::vector<FinderEntry>& finders, const QString& place);
+    void addFinder(const TraceSection& section, const FinderEntry& finder, const QString& number);
+    void addEvent(const TraceEvent& event);
+    void addIndented(const QStringList& lines);
+
+    QStringList m_words; ///< empty when everything is to be told
+    QStringList m_lines;
+    QStringList m_userLocation; ///< what was told of the user's choice last
+};
+
+void Explainer::addSection(const TraceSection& section, const std::vector<FinderEntry>& finders, const QString& place) {
+    int asked = 0;
+    for (const TraceSection::Part& part : section.parts) {
+        if (const auto* const event = std::get_if<TraceEvent>(&part)) {
+            addEvent(*event);
+            continue;
+        }
+        const TraceSection& inner = *std::get<std::unique_ptr<TraceSection>>(part);
+        asked = std::max(asked, inner.number);
+        addInner(inner, finders, place);
+    }
+    for (auto i = static_cast<std::size_t>(asked); i < finders.size(); ++i) {
+        add(QString());
+        add(QStringLiteral("%1%2. %3").arg(place, QString::number(i + 1), titleOf(finders[i])));
+        add(indentation + QStringLiteral("=> not asked"));
+    }
+}
+
+void Explainer::addInner(const TraceSection& inner, const std::vector<FinderEntry>& finders, const QString& place) {
+    const auto index = static_cast<std::size_t>(inner.number) - 1;
+    if (inner.what == QLatin1String("index")) {
+        addIndented(describeIndex(inner, m_words));
+    } else if (inner.what == QLatin1String("finder") && inner.number > 0 && index < finders.size()) {
+        addFinder(inner, finders[index], place + QString::number(inner.number) + QLatin1Char('.'));
+    }
+}
+
+void Explainer::addFinder(const TraceSection& section, const FinderEntry& finder, const QString& number) {
+    add(QString());
+    add(number + QLatin1Char(' ') + titleOf(finder));
+    addSection(section, finder.finders, number);
+    const QString outcome = section.found ? QStringLiteral("=> found") : QStringLiteral("=> not found");
+    add(indentation + (finder.finders.empty() ? outcome : QStringLiteral("%1 by %2").arg(outcome, number)));
+}
+
+void Explainer::addEvent(const TraceEvent& event) {
+    if (isOfLogLevel(event)) {
+        return;
+    }
+    const QStringList lines = describeEvent(event);
+    if (event.is("userLocation")) {
+        // After a finder, its multi finder asks for the user's choice as well.
+        if (lines == m_userLocation) {
+            return;
+        }
+        m_userLocation = lines;
+    }
+    addIndented(lines);
+}
+
+void Explainer::addIndented(const QStringList& lines) {
+    for (const QString& line : lines) {
+        add(indentation + line);
+    }
+}
+
+QString outcomeOf(const GameAnswer& answer) {
+    if (!answer.found) {
+        return QStringLiteral("not found");
+    }
+    return QStringLiteral("found in %1, started by %2")
+        .arg(oneLine(answer.location.installFolder), oneLine(answer.location.launchCommand));
+}
+
+} // namespace
+
+QString explain(const Game& game, const GameAnswer& answer, const TraceEvents& events, bool isFull) {
+    const TraceSection whole = traceTree(events);
+    const QStringList words = searchWords(game);
+    Explainer explainer(isFull ? QStringList() : words);
+    explainer.add(QStringLiteral("%1: %2").arg(oneLine(game.name), outcomeOf(answer)));
+    if (game.finders.empty()) {
+        explainer.add(QStringLiteral("The catalogue has no finder for it."));
+    }
+    explainer.addSection(whole, game.finders, QString());
+    const QStringList similar = answer.found ? QStringList() : similarNames(whole, words);
+    if (!similar.isEmpty()) {
+        explainer.add(QString());
+        explainer.add(QStringLiteral("Similar names in the lists:"));
+        for (const QString& name : similar) {
+            explainer.add(QStringLiteral("   ") + name);
+        }
+    }
+    return explainer.text();
+}
+
+} // namespace Host

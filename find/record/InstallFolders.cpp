@@ -1,0 +1,122 @@
+#include "find/record/InstallFolders.h"
+
+#include "find/cli/Progress.h"
+#include "find/record/FolderListing.h"
+#include "find/record/Probe.h"
+#include "platform/Listing.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+namespace Host {
+
+namespace {
+
+const QLatin1String suffixes[] = {QLatin1String(".exe"), QLatin1String(".com"), QLatin1String(".bat"),
+                                  QLatin1String(".cmd")};
+
+bool isSeparator(QChar character) {
+    return character == QLatin1Char('\\') || character == QLatin1Char('/');
+}
+
+/// The folder in which the probe was looked for; empty when something else was.
+QString folderOfProbe(const QString& path) {
+    const int end = path.size() - probeName().size();
+    return end > 0 && path.endsWith(probeName()) && isSeparator(path.at(end - 1)) ? path.left(end - 1) : QString();
+}
+
+class ExecutableWalk {
+public:
+    ExecutableWalk(DriveRecord& drives, Progress& progress)
+        : m_drives(drives)
+        , m_progress(progress) {}
+
+    void walk(const Windows::DrivePath& folder, bool isDeep);
+
+private:
+    void visit(const Windows::DrivePath& folder, bool isDeep);
+
+    DriveRecord& m_drives;
+    Progress& m_progress;
+    std::vector<Windows::DrivePath> m_pending;
+    int m_visited = 0;
+};
+
+void ExecutableWalk::walk(const Windows::DrivePath& folder, bool isDeep) {
+    m_pending.push_back(folder);
+    while (!m_pending.empty()) {
+        const Windows::DrivePath next = m_pending.back();
+        m_pending.pop_back();
+        visit(next, isDeep);
+    }
+}
+
+void ExecutableWalk::visit(const Windows::DrivePath& folder, bool isDeep) {
+    m_progress.step(++m_visited, 0, folder.text());
+    for (const Platform::FolderEntry& entry : listFolder(folder.text())) {
+        const Windows::DrivePath path = pathIn(folder, entry.name);
+        if (isDeep && isRealFolder(entry)) {
+            m_pending.push_back(path);
+        }
+        if ((entry.attributes & Platform::attributeFolder) == 0 && isExecutableName(entry.name)) {
+            m_drives.addFile(path);
+            m_drives.spell(path);
+        }
+    }
+}
+
+/// Whether `path` is the folder of that folded path, or below it.
+bool isWithin(const QString& path, const QString& folder) {
+    return !folder.isEmpty() && path.startsWith(folder) &&
+           (path.size() == folder.size() || path.at(folder.size()) == QLatin1Char('/'));
+}
+
+} // namespace
+
+bool isExecutableName(const QString& name) {
+    return std::any_of(std::begin(suffixes), std::end(suffixes),
+                       [&](QLatin1String suffix) { return name.endsWith(suffix, Qt::CaseInsensitive); });
+}
+
+void InstallFolders::add(const TraceEvent& event) {
+    if (!event.is("exists")) {
+        return;
+    }
+    const QString path = event.text("path");
+    const QString folder = folderOfProbe(path);
+    std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(folder.isEmpty() ? path : folder);
+    if (!folder.isEmpty() && !parsed && isSeparator(folder.at(0))) {
+        m_networkFolders.append(folder);
+    }
+    if (!parsed || !parsed->isValid) {
+        return;
+    }
+    if (folder.isEmpty()) {
+        if (parsed->isRoot() || !event.flag("found") || !isExecutableName(path)) {
+            return;
+        }
+        parsed->names.removeLast();
+    }
+    m_folders.emplace(foldedPath(*parsed), *parsed);
+}
+
+void InstallFolders::listExecutables(const GeneralFolders& general, DriveRecord& drives, Progress& progress) const {
+    ExecutableWalk walk(drives, progress);
+    QStringList walked; // those with all that is below them
+    for (const auto& [folded, folder] : m_folders) {
+        const QString& path = folded;
+        const bool isDone =
+            std::any_of(walked.begin(), walked.end(), [&](const QString& known) { return isWithin(path, known); });
+        if (isDone) {
+            continue;
+        }
+        const bool isDeep = !general.contains(folder);
+        walk.walk(folder, isDeep);
+        if (isDeep) {
+            walked.append(path);
+        }
+    }
+}
+
+} // namespace Host

@@ -1,0 +1,52 @@
+#include "find/record/OutputFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace Host {
+
+namespace {
+
+constexpr QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+
+} // namespace
+
+OutputFolder::OutputFolder(const QString& folder, QString& fault)
+    : m_folder(QFileInfo(folder).absoluteFilePath()) {
+    const QFileInfo info(m_folder);
+    m_wasThere = info.exists() || info.isSymLink();
+    if (m_wasThere && !info.isDir()) {
+        fault = QStringLiteral("%1: is no folder").arg(folder);
+    } else if (m_wasThere && !QDir(m_folder).isEmpty(everything)) {
+        fault = QStringLiteral("%1: the folder is not empty").arg(folder);
+    } else if (!QDir().mkpath(m_folder) || !QFileInfo(m_folder).isWritable()) {
+        fault = QStringLiteral("%1: the folder cannot be made").arg(folder);
+    } else {
+        m_isToBeRemoved = true;
+    }
+}
+
+OutputFolder::~OutputFolder() {
+    if (m_isToBeRemoved) {
+        QDir(m_folder).removeRecursively();
+        if (m_wasThere) {
+            QDir().mkpath(m_folder);
+        }
+    }
+}
+
+bool OutputFolder::write(const QString& name, const QByteArray& contents) const {
+    const QString path = m_folder + QLatin1Char('/') + name;
+    if (!QDir().mkpath(QFileInfo(path).path())) {
+        return false;
+    }
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush();
+}
+
+bool OutputFolder::makeFolder(const QString& name) const {
+    return QDir().mkpath(m_folder + QLatin1Char('/') + name);
+}
+
+} // namespace Host

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "find/catalogue/Catalogue.h"
+#include "find/explain/TraceReader.h"
+
+#include <functional>
+
+class IGameFinderFactory;
+
+namespace Host {
+
+class Progress;
+
+/// What the plug-in told so far.
+using ReadTrace = std::function<TraceEvents()>;
+
+/// Asks the plug-in whatever makes its finders look at everything that they can look at: first for the games of the
+/// catalogue and the runtimes, then for all that its lists of what is installed have, whether the catalogue has it or
+/// not. The answers do not matter, but what the trace tells afterwards.
+void askEverything(IGameFinderFactory& factory, const Catalogue& games, const ReadTrace& readTrace, Progress& progress);
+
+} // namespace Host

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "find/catalogue/Catalogue.h"
+#include "find/explain/TraceReader.h"
+#include "find/record/PcRecord.h"
+#include "find/record/PrivateNames.h"
+
+namespace Host {
+
+/// What neutral names must not change: the keys, values and variables that finders ask for by names of their own, what
+/// the catalogue's games are called, and which files and keys there are.
+RecordedTexts collectTexts(const TraceEvents& events, const Catalogue& games, const PcRecord& record);
+
+} // namespace Host

@@ -1,0 +1,48 @@
+#include "recordings/AnsiText.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace Recorded {
+
+namespace {
+
+// What the code page has at 0x80 to 0x9F; 0 where the byte stands for the control character of its number.
+constexpr char16_t upperControls[] = {
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178,
+};
+
+char ansiByte(char16_t unit) {
+    const auto* const found = std::find(std::begin(upperControls), std::end(upperControls), unit);
+    if (unit != 0 && found != std::end(upperControls)) {
+        return static_cast<char>(0x80 + (found - std::begin(upperControls)));
+    }
+    const bool isOverridden = unit >= 0x80 && unit < 0xA0 && upperControls[unit - 0x80] != 0;
+    return unit < 0x100 && !isOverridden ? static_cast<char>(unit) : '?';
+}
+
+} // namespace
+
+QByteArray toAnsi(const QString& text) {
+    QByteArray bytes;
+    bytes.reserve(text.size());
+    for (const QChar c : text) {
+        bytes += ansiByte(c.unicode());
+    }
+    return bytes;
+}
+
+QString fromAnsi(const QByteArray& bytes) {
+    QString text = QString::fromLatin1(bytes);
+    for (QChar& c : text) {
+        const char16_t unit = c.unicode();
+        if (unit >= 0x80 && unit < 0xA0 && upperControls[unit - 0x80] != 0) {
+            c = QChar(upperControls[unit - 0x80]);
+        }
+    }
+    return text;
+}
+
+} // namespace Recorded

@@ -1,0 +1,98 @@
+#include "recordings/RecordedRegistry.h"
+
+namespace Recorded {
+
+namespace {
+
+QStringList classesPath(const QStringList& stored) {
+    return QStringList{QStringLiteral("Software"), QStringLiteral("Classes")} + stored;
+}
+
+} // namespace
+
+void RecordedRegistry::apply(const std::vector<RegKey>& keys) {
+    for (const RegKey& key : keys) {
+        QStringList path = key.path.split(QLatin1Char('\\'), Qt::SkipEmptyParts);
+        RegistryNode& root = nodeToChange(key, path);
+        if (key.isErased) {
+            root.erase(path);
+            continue;
+        }
+        RegistryNode& node = root.make(path);
+        for (const RegValue& value : key.values) {
+            node.apply(value);
+        }
+    }
+}
+
+RegistryNode& RecordedRegistry::nodeToChange(const RegKey& key, QStringList& path) {
+    switch (key.root) {
+    case RegKey::Root::LocalMachine:
+        path = Windows::storedMachinePath(path, Windows::RegistryView::Bits64);
+        return m_machine;
+    case RegKey::Root::CurrentUser:
+        return m_user;
+    case RegKey::Root::ClassesRoot:
+        // Windows writes to the machine's classes, unless the user has a key of that name.
+        path = classesPath(path);
+        return m_user.find(path) ? m_user : m_machine;
+    case RegKey::Root::Users:
+    case RegKey::Root::Other:
+        break;
+    }
+    return m_users;
+}
+
+RecordedRegistry::Layers RecordedRegistry::open(RegKey::Root root, const QStringList& path,
+                                                Windows::RegistryView view) const {
+    Layers layers;
+    const auto add = [&layers](const RegistryNode* node) {
+        if (node) {
+            layers.push_back(node);
+        }
+    };
+    switch (root) {
+    case RegKey::Root::LocalMachine:
+        add(m_machine.find(Windows::storedMachinePath(path, view)));
+        break;
+    case RegKey::Root::CurrentUser:
+        add(m_user.find(Windows::storedUserPath(path, view)));
+        break;
+    case RegKey::Root::ClassesRoot:
+        add(m_user.find(classesPath(Windows::storedClassesPath(path, view))));
+        add(m_machine.find(classesPath(Windows::storedClassesPath(path, view))));
+        break;
+    case RegKey::Root::Users:
+        add(m_users.find(path));
+        break;
+    case RegKey::Root::Other:
+        break;
+    }
+    return layers;
+}
+
+const RegistryNode::Value* RecordedRegistry::value(const Layers& key, const QString& name) {
+    for (const RegistryNode* node : key) {
+        if (const RegistryNode::Value* value = node->value(name)) {
+            return value;
+        }
+    }
+    return nullptr;
+}
+
+std::vector<QString> RecordedRegistry::subKeys(const Layers& key) {
+    std::map<QString, QString> names; // by folded name
+    for (const RegistryNode* node : key) {
+        for (const auto& [folded, child] : node->children()) {
+            names.try_emplace(folded, child->name());
+        }
+    }
+    std::vector<QString> list;
+    list.reserve(names.size());
+    for (auto& [folded, name] : names) {
+        list.push_back(std::move(name));
+    }
+    return list;
+}
+
+} // namespace Recorded

@@ -1,0 +1,63 @@
+#include "recordings/RegistryTree.h"
+
+#include "recordings/WindowsNames.h"
+
+#include <QStringList>
+
+namespace Recorded {
+
+const RegistryNode* RegistryNode::find(const QStringList& path) const {
+    const RegistryNode* node = this;
+    for (const QString& name : path) {
+        const auto child = node->m_children.find(Windows::foldName(name));
+        if (child == node->m_children.end()) {
+            return nullptr;
+        }
+        node = child->second.get();
+    }
+    return node;
+}
+
+const RegistryNode::Value* RegistryNode::value(const QString& name) const {
+    const auto value = m_values.find(Windows::foldName(name));
+    return value == m_values.end() ? nullptr : &value->second;
+}
+
+RegistryNode& RegistryNode::make(const QStringList& path) {
+    RegistryNode* node = this;
+    for (const QString& name : path) {
+        std::unique_ptr<RegistryNode>& child = node->m_children[Windows::foldName(name)];
+        if (!child) {
+            child = std::make_unique<RegistryNode>(name);
+        }
+        node = child.get();
+    }
+    return *node;
+}
+
+void RegistryNode::erase(const QStringList& path) {
+    if (path.isEmpty()) {
+        m_children.clear();
+        m_values.clear();
+        return;
+    }
+    RegistryNode* parent = this;
+    for (int i = 0; i + 1 < path.size(); ++i) {
+        const auto child = parent->m_children.find(Windows::foldName(path.at(i)));
+        if (child == parent->m_children.end()) {
+            return;
+        }
+        parent = child->second.get();
+    }
+    parent->m_children.erase(Windows::foldName(path.last()));
+}
+
+void RegistryNode::apply(const RegValue& value) {
+    if (value.isErased) {
+        m_values.erase(Windows::foldName(value.name));
+    } else {
+        m_values[Windows::foldName(value.name)] = {value.type, value.data};
+    }
+}
+
+} // namespace Recorded

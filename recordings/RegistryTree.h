@@ -1,0 +1,48 @@
+#pragma once
+
+#include "recordings/RegFile.h"
+
+#include <map>
+#include <memory>
+
+namespace Recorded {
+
+/// A key of a recorded registry with its values and all that is below it. Names are found ignoring case and keep the
+/// spelling in which they came first.
+class RegistryNode {
+public:
+    struct Value {
+        quint32 type = 0;
+        QByteArray data;
+    };
+
+    using Children = std::map<QString, std::unique_ptr<RegistryNode>>; // by folded name
+
+    explicit RegistryNode(QString name = {})
+        : m_name(std::move(name)) {}
+
+    const QString& name() const { return m_name; }
+
+    const Children& children() const { return m_children; }
+
+    /// The key at `path`, names below this key; null when there is none.
+    const RegistryNode* find(const QStringList& path) const;
+
+    /// Null when there is none. The default value has the empty name.
+    const Value* value(const QString& name) const;
+
+    /// The key at `path`, made when it is missing.
+    RegistryNode& make(const QStringList& path);
+
+    /// Removes the key at `path` and all that is below it. The root itself stays, emptied.
+    void erase(const QStringList& path);
+
+    void apply(const RegValue& value);
+
+private:
+    QString m_name;
+    Children m_children;
+    std::map<QString, Value> m_values; // by folded name
+};
+
+} // namespace Recorded

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace Recorded {
+
+/// The text of bytes in UTF-8; empty when they are not.
+std::optional<QString> decoded(const QByteArray& utf8);
+
+} // namespace Recorded

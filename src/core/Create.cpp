@@ -1,7 +1,0 @@
-#include "core/FindersFactory.h"
-
-extern "C" Q_DECL_EXPORT IGameFinderFactory* Create();
-
-IGameFinderFactory* Create() {
-    return std::make_unique<Finders::FindersFactory>().release();
-}

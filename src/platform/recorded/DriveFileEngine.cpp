@@ -1,0 +1,270 @@
+#include "platform/recorded/DriveFileEngine.h"
+
+#include "platform/recorded/DriveFolderIterator.h"
+#include "platform/recorded/Observer.h"
+#include "recordings/ShellLink.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <unistd.h>
+
+namespace Recorded {
+
+namespace {
+
+constexpr QLatin1Char slash('/');
+constexpr int rootLength = 3; // of "C:/"
+constexpr qint64 longestShortcut = qint64{1024} * 1024;
+
+qint64 milliseconds(const timespec& time) {
+    return qint64{time.tv_sec} * 1000 + time.tv_nsec / 1000000;
+}
+
+bool isExecutable(const QString& path) {
+    static constexpr std::array suffixes = {".exe", ".com", ".bat", ".pif", ".cmd"};
+    return std::any_of(suffixes.begin(), suffixes.end(), [&path](const char* suffix) {
+        return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive);
+    });
+}
+
+// Qt asks Windows to work a path out only when it isn't clean already.
+bool isClean(const QString& path) {
+    const QStringList names = path.split(slash);
+    for (int i = 1; i < names.size(); ++i) {
+        const QString& name = names.at(i);
+        const bool isEmptyInside = name.isEmpty() && i + 1 < names.size();
+        if (isEmptyInside || name == QLatin1String(".") || name == QLatin1String("..")) {
+            return false;
+        }
+    }
+    return names.size() > 1 && names.first().size() == 2;
+}
+
+QString parentOf(const QString& path) {
+    const int last = path.lastIndexOf(slash);
+    return path.left(last < rootLength ? rootLength : last);
+}
+
+QString withUpperDrive(QString path) {
+    path[0] = path.at(0).toUpper();
+    return path;
+}
+
+} // namespace
+
+DriveFileEngine::DriveFileEngine(std::shared_ptr<const RecordedPc> pc, const QString& path)
+    : m_pc(std::move(pc)) {
+    DriveFileEngine::setFileName(path);
+}
+
+void DriveFileEngine::setFileName(const QString& path) {
+    m_path = Windows::withSlashes(path);
+    m_parsed = Windows::DrivePath::parse(m_path).value_or(Windows::DrivePath{});
+    m_subject.reset();
+}
+
+const DriveFileEngine::Subject& DriveFileEngine::subject() const {
+    if (m_subject) {
+        return *m_subject;
+    }
+    Subject subject;
+    subject.path = m_parsed;
+    subject.file = m_pc->drives().find(m_parsed);
+    if (isObserved()) {
+        observe(QLatin1String("stat ") + m_parsed.text());
+    }
+    // Qt takes the letter case of ".lnk" exactly, and a missing file for a shortcut without a target.
+    if (m_path.endsWith(QLatin1String(".lnk")) && !(subject.file && subject.file->isFolder())) {
+        subject.isShortcut = true;
+        if (subject.file) {
+            subject.shortcutTarget = targetOf(*subject.file);
+        }
+        subject.path = Windows::DrivePath::parse(subject.shortcutTarget).value_or(Windows::DrivePath{{}, {}, false});
+        subject.file = m_pc->drives().find(subject.path);
+    }
+    m_subject = std::move(subject);
+    return *m_subject;
+}
+
+QString DriveFileEngine::targetOf(const Drives::File& shortcut) const {
+    const std::optional<QByteArray> bytes = HostFiles::readFile(shortcut.realPath, longestShortcut);
+    const std::optional<ShellLink> link = bytes ? parseShellLink(*bytes) : std::nullopt;
+    return link ? Recorded::targetOf(*link, m_pc->description().environment, parentOf(m_parsed.text())) : QString();
+}
+
+bool DriveFileEngine::open(QIODevice::OpenMode mode) {
+    const std::optional<Drives::File> file = m_pc->drives().find(m_parsed);
+    if (isObserved()) {
+        observe(QLatin1String("open ") + m_parsed.text());
+    }
+    const bool isDenied = (file && file->isFolder()) || (mode & QIODevice::WriteOnly);
+    if (!isDenied && file) {
+        m_file = HostFiles::openFile(file->realPath);
+    }
+    if (m_file.isOpen()) {
+        return true;
+    }
+    // The words of Windows, as they reach logs.
+    if (isDenied || file) {
+        setError(QFile::OpenError, QStringLiteral("Access is denied."));
+    } else if (isInFolder(m_parsed)) {
+        setError(QFile::OpenError, QStringLiteral("The system cannot find the file specified."));
+    } else {
+        setError(QFile::OpenError, QStringLiteral("The system cannot find the path specified."));
+    }
+    return false;
+}
+
+bool DriveFileEngine::isInFolder(Windows::DrivePath path) const {
+    if (!path.isRoot()) {
+        path.names.removeLast();
+        path.isFolderOnly = true;
+    }
+    return m_pc->drives().find(path).has_value();
+}
+
+bool DriveFileEngine::close() {
+    const bool wasOpen = m_file.isOpen();
+    m_file.close();
+    return wasOpen;
+}
+
+bool DriveFileEngine::flush() {
+    return true;
+}
+
+qint64 DriveFileEngine::size() const {
+    struct stat info {};
+
+    if (m_file.isOpen() && ::fstat(m_file.get(), &info) == 0) {
+        return info.st_size;
+    }
+    const std::optional<Drives::File>& file = subject().file;
+    return file && !file->isFolder() ? file->info.st_size : 0;
+}
+
+qint64 DriveFileEngine::pos() const {
+    return ::lseek(m_file.get(), 0, SEEK_CUR);
+}
+
+bool DriveFileEngine::seek(qint64 position) {
+    return ::lseek(m_file.get(), position, SEEK_SET) == position;
+}
+
+qint64 DriveFileEngine::read(char* data, qint64 length) {
+    ssize_t count = 0;
+    do {
+        count = ::read(m_file.get(), data, static_cast<size_t>(length));
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) {
+        setError(QFile::ReadError, QStringLiteral("The file cannot be read."));
+    }
+    return count;
+}
+
+QString DriveFileEngine::absoluteName() const {
+    if (isClean(m_path)) {
+        return m_path;
+    }
+    const QString text = withUpperDrive(m_parsed.text());
+    return m_parsed.isFolderOnly && !text.endsWith(slash) ? text + slash : text;
+}
+
+// Qt follows a shortcut but asks nobody how the names on the way are really spelled.
+QString DriveFileEngine::canonicalName() const {
+    const Subject& s = subject();
+    if (!s.file) {
+        return {};
+    }
+    QString name = withUpperDrive(s.isShortcut ? s.path.text() : absoluteName());
+    if (name.size() > rootLength && name.endsWith(slash)) {
+        name.chop(1);
+    }
+    return name;
+}
+
+QString DriveFileEngine::fileName(FileName part) const {
+    switch (part) {
+    case BaseName:
+        return m_path.mid(m_path.lastIndexOf(slash) + 1);
+    case PathName:
+        return parentOf(m_path);
+    case AbsoluteName:
+        return absoluteName();
+    case AbsolutePathName:
+        return withUpperDrive(parentOf(absoluteName()));
+    case CanonicalName:
+        return canonicalName();
+    case CanonicalPathName:
+        return subject().file ? parentOf(canonicalName()) : QStringLiteral(".");
+    case LinkName:
+        return subject().shortcutTarget;
+    case BundleName:
+        return {};
+    default:
+        return m_path;
+    }
+}
+
+QAbstractFileEngine::FileFlags DriveFileEngine::fileFlags(FileFlags wanted) const {
+    if (wanted & Refresh) {
+        m_subject.reset();
+    }
+    FileFlags flags;
+    const Subject& s = subject();
+    if (s.isShortcut) {
+        flags |= LinkType;
+    }
+    if (s.file) {
+        flags |= ExistsFlag;
+        flags |= s.file->isFolder() ? DirectoryType : FileType;
+        flags |= FileFlags(ReadOwnerPerm | ReadUserPerm | ReadGroupPerm | ReadOtherPerm);
+        if (s.file->isFolder() || isExecutable(s.path.text())) {
+            flags |= FileFlags(ExeOwnerPerm | ExeUserPerm | ExeGroupPerm | ExeOtherPerm);
+        }
+        if (m_path.size() <= rootLength) {
+            flags |= RootFlag;
+        } else if (m_pc->drives().isHidden(s.path)) {
+            flags |= HiddenFlag;
+        }
+    }
+    return flags & wanted;
+}
+
+QDateTime DriveFileEngine::fileTime(FileTime time) const {
+    const std::optional<Drives::File>& file = subject().file;
+    if (!file) {
+        return {};
+    }
+    return QDateTime::fromMSecsSinceEpoch(milliseconds(time == AccessTime ? file->info.st_atim : file->info.st_mtim));
+}
+
+QByteArray DriveFileEngine::id() const {
+    const std::optional<Drives::File> file = m_pc->drives().find(m_parsed);
+    if (!file) {
+        return {};
+    }
+    return QByteArray::number(qulonglong{file->info.st_dev}, 16) + ':' +
+           QByteArray::number(qulonglong{file->info.st_ino}, 16);
+}
+
+QStringList DriveFileEngine::entryList(QDir::Filters filters, const QStringList& names) const {
+    return QAbstractFileEngine::entryList(filters, names);
+}
+
+QAbstractFileEngine::Iterator* DriveFileEngine::beginEntryList(QDir::Filters filters, const QStringList& names) {
+    const Subject& s = subject();
+    if (!s.file || !s.file->isFolder()) {
+        return nullptr;
+    }
+    if (isObserved()) {
+        observe(QLatin1String("list ") + s.path.text());
+    }
+    const QString folder = s.isShortcut ? s.path.text() : m_path;
+    return new DriveFolderIterator(filters, names, folder, s.path.isRoot(), m_pc->drives().list(s.path));
+}
+
+} // namespace Recorded

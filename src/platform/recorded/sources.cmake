@@ -1,0 +1,23 @@
+# The platform layer over a recorded PC.
+target_sources(
+    luruludri_platform
+    PRIVATE platform/recorded/Clocks.cpp
+            platform/recorded/CurrentPc.cpp
+            platform/recorded/DriveFileEngine.cpp
+            platform/recorded/DriveFolderIterator.cpp
+            platform/recorded/Drives.cpp
+            platform/recorded/Files.cpp
+            platform/recorded/Folders.cpp
+            platform/recorded/HostFiles.cpp
+            platform/recorded/Listing.cpp
+            platform/recorded/Locks.cpp
+            platform/recorded/Observer.cpp
+            platform/recorded/Process.cpp
+            platform/recorded/RecordedPc.cpp
+            platform/recorded/Recording.cpp
+            platform/recorded/Registry.cpp
+            platform/recorded/SystemFunctions.cpp
+            platform/recorded/TextStream.cpp
+            platform/recorded/Versions.cpp)
+# Qt's file engines are among its private headers (qtbase5-private-dev).
+target_link_libraries(luruludri_platform PRIVATE Qt5::CorePrivate)

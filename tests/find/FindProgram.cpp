@@ -1,0 +1,76 @@
+#include "FindProgram.h"
+
+#include "common/QtPrinters.h"
+#include "platform/Recording.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+namespace {
+
+constexpr int longestRunMs = 60000;
+
+QString textOf(const QByteArray& utf8) {
+    return QString::fromUtf8(utf8).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+} // namespace
+
+FindProgram::FindProgram()
+    : m_folder(QDir::tempPath() + QStringLiteral("/finde-Käfer-XXXXXX")) {
+    EXPECT_TRUE(m_folder.isValid()) << m_folder.errorString().toStdString();
+    m_environment.remove(QString::fromLatin1(Recording::environmentVariable));
+    for (const char* const variable : {"COLUMNS", "NO_COLOR", "TERM"}) { // the wishes of who runs the tests
+        m_environment.remove(QString::fromLatin1(variable));
+    }
+    for (const char* name : {"COLUMNS", "NO_COLOR", "TERM"}) {
+        m_environment.remove(QString::fromLatin1(name));
+    }
+    m_environment.insert(QStringLiteral("LURULUDRI_FAKE_LOG"), m_folder.filePath(QStringLiteral("fake.log")));
+}
+
+QString FindProgram::file(const QString& name, const QByteArray& content) const {
+    const QString path = m_folder.filePath(name);
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    EXPECT_EQ(file.write(content), content.size());
+    return path;
+}
+
+void FindProgram::setFakeMode(const char* mode) {
+    m_environment.insert(QStringLiteral("LURULUDRI_FAKE_MODE"), QString::fromLatin1(mode));
+}
+
+FindRun FindProgram::run(const QStringList& arguments) const {
+    return runBare(QStringList{QStringLiteral("--plugin"), QStringLiteral(LURULUDRI_FAKE_PLUGIN)} + arguments);
+}
+
+FindRun FindProgram::runBare(const QStringList& arguments) const {
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.setWorkingDirectory(m_folder.path());
+    process.setStandardOutputFile(m_outputFile);
+    process.setStandardErrorFile(m_errorFile);
+    process.start(QStringLiteral(LURULUDRI_FIND), arguments);
+    EXPECT_TRUE(process.waitForFinished(longestRunMs)) << process.errorString().toStdString();
+    const bool exited = process.exitStatus() == QProcess::NormalExit && process.error() == QProcess::UnknownError;
+    return {exited ? process.exitCode() : -1,
+            m_outputFile.isEmpty() ? textOf(process.readAllStandardOutput()) : QString(),
+            m_errorFile.isEmpty() ? textOf(process.readAllStandardError()) : QString()};
+}
+
+void FindProgram::redirect(const QString& outputFile, const QString& errorFile) {
+    m_outputFile = outputFile;
+    m_errorFile = errorFile;
+}
+
+QStringList FindProgram::fakeLog() const {
+    QFile file(m_folder.filePath(QStringLiteral("fake.log")));
+    return file.open(QIODevice::ReadOnly) ? textOf(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+                                          : QStringList();
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "common/TraceLog.h"
+#include "core/plugin/FindersFactory.h"
+#include "find/answers/Answers.h"
+#include "find/catalogue/Catalogue.h"
+#include "find/explain/Explanation.h"
+#include "find/explain/TraceReader.h"
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+
+/// What is told, line by line, of a game "Käferrennen" with these finders, after the PC under test was really asked.
+inline QStringList explained(const QByteArray& finders, bool isFull = false) {
+    const QString json = QString("{\"games\": [{\"name\": \"Käferrennen\", \"finders\": [%1]}]}");
+    Host::CatalogueFault fault;
+    const auto catalogue = Host::parseCatalogue(json.arg(QString::fromUtf8(finders)).toUtf8(), fault);
+    EXPECT_TRUE(catalogue) << fault.message.toStdString();
+    if (!catalogue) {
+        return {};
+    }
+    const TraceLog trace;
+    Finders::FindersFactory factory;
+    const Host::Game& game = catalogue->front();
+    const Host::GameAnswer answer = Host::askForGame(factory, game);
+    const Host::TraceEvents events = Host::parseTrace(trace.bytes());
+    return Host::explain(game, answer, events, isFull).split('\n', Qt::SkipEmptyParts);
+}

@@ -1,0 +1,66 @@
+#include "common/QtPrinters.h"
+#include "find/explain/EventText.h"
+#include "find/explain/TraceReader.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList describe(const QByteArray& line) {
+    const Host::TraceEvents events = Host::parseTrace(line);
+    EXPECT_EQ(events.size(), 1U) << line.toStdString();
+    return events.empty() ? QStringList() : Host::describeEvent(events.front());
+}
+
+TEST(EventText, ShowsTextsAndNumbersAsTheRegistryEditorDoes) {
+    EXPECT_EQ(describe(R"({"event":"value","name":"X","error":0,"type":1,"data":"4100e4000000"})"),
+              QStringList({"    X = \"Aä\""}));
+    EXPECT_EQ(describe(R"({"event":"value","name":"X","error":0,"type":1,"data":"4100"})"),
+              QStringList({"    X = \"A\""}));
+    EXPECT_EQ(describe(R"({"event":"value","name":"","error":0,"type":2,"data":"25000000"})"),
+              QStringList({"    (default) = \"%\" (REG_EXPAND_SZ)"}));
+    EXPECT_EQ(describe(R"({"event":"value","name":"X","error":0,"type":4,"data":"02010000"})"),
+              QStringList({"    X = 258"}));
+    EXPECT_EQ(describe(R"({"event":"value","name":"X","error":0,"type":3,"data":"0201"})"),
+              QStringList({"    X = 2 bytes of type 3"}));
+}
+
+TEST(EventText, SaysWhyAKeyOrAValueCannotBeRead) {
+    EXPECT_EQ(describe(R"({"event":"key","root":"HKEY_USERS","view":64,"key":"K","error":5})"),
+              QStringList({"registry key HKEY_USERS\\K (64-bit view): access is denied"}));
+    EXPECT_EQ(describe(R"({"event":"value","name":"X","error":234})"), QStringList({"    X: error 234"}));
+}
+
+TEST(EventText, NamesWhatIsInAFolder) {
+    EXPECT_EQ(describe(R"({"event":"walk","path":"C:\\M","folders":["F"],"files":["a.lnk"]})"),
+              QStringList({"C:\\M: 2 entries", "    F", "    a.lnk"}));
+    EXPECT_EQ(describe(R"({"event":"list","path":"C:\\M","pattern":"*.acf","names":[]})"),
+              QStringList({"C:\\M, files *.acf: 0"}));
+}
+
+TEST(EventText, SaysThatTheSystemKnowsNoPackages) {
+    EXPECT_EQ(describe(R"({"event":"package","family":"F","supported":false,"fullName":"","applicationId":""})"),
+              QStringList({"app package F: this Windows knows no app packages"}));
+    EXPECT_EQ(describe(R"({"event":"package","family":"F","supported":true,"fullName":"","applicationId":""})"),
+              QStringList({"app package F: not installed"}));
+    EXPECT_EQ(describe(R"({"event":"package","family":"F","supported":true,"fullName":"F1","applicationId":""})"),
+              QStringList({"app package F: F1, without an application"}));
+}
+
+TEST(EventText, TellsVolumesVariablesAndFolders) {
+    EXPECT_EQ(describe(R"({"event":"volume","drive":"D:\\","name":"\\\\?\\Volume{1}\\"})"),
+              QStringList({"drive D:\\: volume \\\\?\\Volume{1}\\"}));
+    EXPECT_EQ(describe(R"({"event":"environment","name":"OculusBase"})"),
+              QStringList({"environment variable OculusBase: none"}));
+    EXPECT_EQ(describe(R"({"event":"shellFolder","csidl":22,"path":""})"),
+              QStringList({"shell folder 22: there is none"}));
+    EXPECT_EQ(describe(R"({"event":"shortcut","path":"a.lnk","target":""})"),
+              QStringList({"shortcut a.lnk: leads to nothing"}));
+    EXPECT_EQ(describe(R"({"event":"read","path":"a","bytes":1})"), QStringList({"file a: 1 byte"}));
+}
+
+TEST(EventText, PassesOverWhatItDoesNotKnow) {
+    EXPECT_EQ(describe(R"({"event":"from the future","path":"a"})"), QStringList());
+}
+
+} // namespace

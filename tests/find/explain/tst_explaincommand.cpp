@@ -1,0 +1,98 @@
+#include "FindProgram.h"
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "platform/Recording.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+namespace {
+
+constexpr const char* twoGames = R"({"games": [
+    {"name": "Käferrennen", "finders": [{"type": "folder", "folder": "D:\\Käfer", "executables": ["a.exe"]}]},
+    {"name": "Wal", "finders": [{"type": "folder", "folder": "D:\\Wal", "executables": ["wal.exe"]}]}]})";
+
+/// What the program explains of a game, with the real plug-in, over the PC under test.
+FindRun explain(FindProgram& program, const QStringList& arguments) {
+    program.setVariable("XDG_DATA_HOME", program.folder());
+    program.setVariable(Recording::environmentVariable, qEnvironmentVariable(Recording::environmentVariable));
+    return program.runBare(QStringList{"explain"} + arguments);
+}
+
+TEST(ExplainCommand, TellsWhyAGameWasNotFound) {
+    TestPc pc;
+    FindProgram program;
+    const FindRun run = explain(program, {"wal", program.file("Käfer.json", twoGames)});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.output, "Wal: not found\n\n1. folder: folder \"D:\\Wal\", executables [\"wal.exe\"]\n"
+                          "   D:\\Wal: missing\n   * The folder D:\\Wal is missing.\n   => not found\n");
+}
+
+TEST(ExplainCommand, EndsWellForAGameThatIsFound) {
+    TestPc pc;
+    pc.file("D:\\Käfer\\a.exe");
+    FindProgram program;
+    const FindRun run = explain(program, {"Käferrennen", program.file("Käfer.json", twoGames)});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_TRUE(run.output.startsWith("Käferrennen: found in D:\\Käfer, started by D:\\Käfer\\a.exe\n"))
+        << run.output.toStdString();
+}
+
+TEST(ExplainCommand, LeavesNoFileBehind) {
+    TestPc pc;
+    FindProgram program;
+    const QString catalogue = program.file("Käfer.json", twoGames);
+    const QString temporary = program.folder() + "/temp";
+    ASSERT_TRUE(QDir().mkpath(temporary));
+    for (const char* variable : {"TMPDIR", "TMP", "TEMP"}) {
+        program.setVariable(variable, QDir::toNativeSeparators(temporary));
+    }
+    EXPECT_EQ(explain(program, {"Wal", catalogue}).exitStatus, 1);
+    EXPECT_EQ(QDir(temporary).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
+}
+
+TEST(ExplainCommand, RefusesAGameThatTheCatalogueDoesNotHave) {
+    FindProgram program;
+    const QString catalogue = program.file("Käfer.json", twoGames);
+    const FindRun run = program.run({"explain", "Hai", catalogue});
+    EXPECT_EQ(run.exitStatus, 2);
+    EXPECT_EQ(run.output, "");
+    EXPECT_EQ(run.errors, "luruludri-find: " + catalogue + ": no game is named \"Hai\"\n");
+}
+
+TEST(ExplainCommand, NamesTheGamesThatAreCalledAlikeInstead) {
+    FindProgram program;
+    const QString catalogue = program.file("Käfer.json", twoGames);
+    EXPECT_EQ(program.run({"explain", "käfer", catalogue}).errors,
+              "luruludri-find: " + catalogue + ": no game is named \"käfer\" (but \"Käferrennen\")\n");
+    EXPECT_EQ(program.run({"--game", "Wal (Demo)", catalogue}).errors,
+              "luruludri-find: " + catalogue + ": no game is named \"Wal (Demo)\" (but \"Wal\")\n");
+}
+
+TEST(ExplainCommand, RefusesAPlugInThatTellsNoTrace) {
+    FindProgram program;
+    const FindRun run = program.run({"explain", "Wal", program.file("Käfer.json", twoGames)});
+    EXPECT_EQ(run.exitStatus, 2);
+    EXPECT_EQ(run.output, "");
+    EXPECT_TRUE(run.errors.endsWith(": this plug-in tells no trace\n")) << run.errors.toStdString();
+}
+
+TEST(ExplainCommand, RefusesWrongArguments) {
+    const FindProgram program;
+    const auto complaint = [&program](const QStringList& arguments) {
+        const FindRun run = program.run(arguments);
+        EXPECT_EQ(run.exitStatus, 2);
+        EXPECT_EQ(run.output, "");
+        return run.errors.section('\n', 0, 0);
+    };
+    EXPECT_EQ(complaint({"explain"}), "luruludri-find: explain: the game's name is missing");
+    EXPECT_EQ(complaint({"explain", " "}), "luruludri-find: the game's name is empty");
+    EXPECT_EQ(complaint({"explain", "Wal", "a.json", "b"}), "luruludri-find: surplus argument \"b\"");
+    EXPECT_EQ(complaint({"--json", "explain", "Wal"}), "luruludri-find: --json: not with explain");
+    EXPECT_EQ(complaint({"--game", "Wal", "explain", "Wal"}), "luruludri-find: --game: not with explain");
+    EXPECT_EQ(complaint({"--all", "a.json"}), "luruludri-find: --all: only with explain");
+}
+
+} // namespace

@@ -1,0 +1,58 @@
+#include "find/record/PrivateNames.h"
+
+#include "common/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Host::NameSources;
+using Host::RecordedTexts;
+
+/// The names that are chosen, as "anna=user"; one that is not replaced everywhere as "anna=user only beside".
+QStringList chosen(const NameSources& sources, const RecordedTexts& texts = {}) {
+    QStringList names;
+    for (const Host::PrivateName& name : Host::choosePrivateNames(sources, texts)) {
+        names.append(name.name + '=' + name.neutral + (name.isEverywhere ? "" : " only beside"));
+    }
+    return names;
+}
+
+TEST(PrivateNames, AreTheUsersTheProfilesAndTheMachines) {
+    EXPECT_EQ(chosen({"Anna", "C:\\Users\\annal", {"KAEFER"}}), (QStringList{"annal=user", "Anna=user", "KAEFER=pc"}));
+    EXPECT_EQ(chosen({"anna", "D:/profiles/Anna", {"Kaefer", "KAEFER"}}), (QStringList{"Anna=user", "Kaefer=pc"}));
+    EXPECT_EQ(chosen({}), QStringList());
+    EXPECT_EQ(chosen({"", "C:\\", {""}}), QStringList());
+    EXPECT_EQ(Host::profilesFolderName({"", "D:\\Profile\\anna", {}}), "Profile");
+    EXPECT_EQ(Host::profilesFolderName({}), "Users");
+}
+
+TEST(PrivateNames, ThatAreNeutralAlreadyStay) {
+    EXPECT_EQ(chosen({"User", "C:\\Users\\user", {"PC"}}), QStringList());
+}
+
+TEST(PrivateNames, ThatAreShortOrWordsOfPlacesAreReplacedInOnePlaceOnly) {
+    EXPECT_EQ(chosen({"al", "C:\\Users\\al", {"Steam"}}), (QStringList{"al=user only beside", "Steam=pc only beside"}));
+    const RecordedTexts texts{{"SOFTWARE\\Maker of Games", "Max Power"}, {}};
+    EXPECT_EQ(chosen({"max", "", {"MAKER"}}, texts), (QStringList{"max=user only beside", "MAKER=pc only beside"}));
+    EXPECT_EQ(chosen({"maxi", "", {"make"}}, texts), (QStringList{"maxi=user", "make=pc"}));
+    EXPECT_EQ(chosen({"Programmer", "", {}}), QStringList{"Programmer=user only beside"}) << "PROGRA~1";
+}
+
+TEST(PrivateNames, NeverMakeTwoPathsOne) {
+    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna", {}}, {{}, {"C:/Users/anna", "C:/Users/User"}}),
+              QStringList{"anna=user-2"});
+    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna", {}}, {{}, {"D:/x-anna", "D:/X-user", "D:/x-user-2"}}),
+              QStringList{"anna=user-3"});
+    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna.KAEFER", {}}, {{}, {"C:/Users/anna", "C:/Users/anna.KAEFER"}}),
+              (QStringList{"anna.KAEFER=user", "anna=user-2"}));
+    EXPECT_EQ(chosen({"anna", "", {"KAEFER"}}, {{}, {"D:/anna/KAEFER", "D:/user/pc"}}),
+              (QStringList{"anna=user", "KAEFER=pc-2"}));
+}
+
+TEST(PrivateNames, MayMakeTwoNamesOfTheUserOne) {
+    const RecordedTexts texts{{}, {"C:/Users/CHRIST~1/x", "C:/Users/Christopher/x"}};
+    EXPECT_EQ(chosen({"", "C:\\Users\\Christopher", {}}, texts), QStringList{"Christopher=user"});
+}
+
+} // namespace

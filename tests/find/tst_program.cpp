@@ -1,0 +1,217 @@
+#include "FindProgram.h"
+
+#include "common/QtPrinters.h"
+#include "platform/Recording.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+constexpr const char* twoGames = R"({"games": [
+    {"name": "Käferrennen", "finders": [{"type": "universalApp", "packageFamily": "installed"}]},
+    {"name": "Wal", "finders": [{"type": "universalApp", "packageFamily": "x"}]}]})";
+
+/// Expects a run that failed with one line of complaint that ends so, and no answers.
+void expectComplaint(const FindRun& run, const QString& end) {
+    EXPECT_EQ(run.exitStatus, 2);
+    EXPECT_EQ(run.output, "");
+    EXPECT_TRUE(run.errors.startsWith("luruludri-find: ")) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.endsWith(end + "\n")) << run.errors.toStdString() << "\nshould end:\n" << end.toStdString();
+    EXPECT_EQ(run.errors.count("\n"), 1);
+}
+
+/// The same for arguments that are wrong, where a second line points to the help.
+void expectRefusal(const FindRun& run, const QString& complaint) {
+    EXPECT_EQ(run.exitStatus, 2);
+    EXPECT_EQ(run.output, "");
+    EXPECT_EQ(run.errors, "luruludri-find: " + complaint + "\nluruludri-find: try luruludri-find --help\n");
+}
+
+bool worldKnowsRecordings() {
+    return Recording::problems(QDir::tempPath()).has_value();
+}
+
+TEST(Program, TheExitStatusTellsWhetherAllWereFound) {
+    const FindProgram program;
+    const QString catalogue = program.file("Spiele für Käfer.json", twoGames);
+    EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
+    EXPECT_EQ(program.run({"--game", "Käferrennen", catalogue}).exitStatus, 0);
+    EXPECT_EQ(program.run({"--game", "Wal", catalogue}).exitStatus, 1);
+}
+
+TEST(Program, TheCatalogueBesideTheProgramIsAskedUnlessAnotherIsGiven) {
+    const FindRun run = FindProgram().run({});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_TRUE(run.output.contains("Nordlicht Tactics")) << run.output.toStdString();
+}
+
+TEST(Program, OnlyTheGamesThatAreNamedAreAskedFor) {
+    const FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    const FindRun one = program.run({"--game", "KÄFERRENNEN", catalogue});
+    EXPECT_TRUE(one.output.contains("Käferrennen"));
+    EXPECT_FALSE(one.output.contains("Wal"));
+    EXPECT_EQ(program.run({"--game", "wal", catalogue, "--game=käferrennen"}).output, program.run({catalogue}).output);
+
+    expectComplaint(program.run({"--game", "Käfer", catalogue}),
+                    "games.json: no game is named \"Käfer\" (but \"Käferrennen\")");
+}
+
+TEST(Program, WhatGoesToAPipeIsPlainAndWholeWhateverTheEnvironmentSays) {
+    FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    const QString plain = program.run({catalogue}).output;
+    EXPECT_TRUE(plain.contains("\nKäferrennen  yes    D:\\Spiele\\Käfer  steam://launch/42/VR\n"))
+        << plain.toStdString();
+    program.setVariable("COLUMNS", "30");
+    program.setVariable("TERM", "xterm-256color");
+    EXPECT_EQ(program.run({catalogue}).output, plain);
+}
+
+TEST(Program, HelpAndVersionNeedNothingElse) {
+    const FindProgram program;
+    for (const char* option : {"--help", "-h"}) {
+        const FindRun help = program.runBare({option});
+        EXPECT_EQ(help.exitStatus, 0);
+        EXPECT_EQ(help.errors, "");
+        for (const char* name : {"CATALOGUE", "runtimes", "locate KEY FOLDER [CATALOGUE]", "forget KEY", "--plugin",
+                                 "--pc", "--game", "--json", "--version", "Exit status"}) {
+            EXPECT_TRUE(help.output.contains(name)) << name;
+        }
+    }
+    const FindRun version = program.runBare({"--version"});
+    EXPECT_EQ(version.exitStatus, 0);
+    EXPECT_TRUE(version.output.startsWith("luruludri-find ")) << version.output.toStdString();
+    EXPECT_EQ(version.output.count("\n"), 1);
+}
+
+TEST(Program, WrongArgumentsAreRefused) {
+    const FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    expectRefusal(program.run({""}), "the name of the catalogue is empty");
+    expectRefusal(program.run({catalogue, "zwölf"}), "surplus argument \"zwölf\"");
+    expectRefusal(program.run({catalogue, "--jason"}), "Unknown option 'jason'.");
+    expectRefusal(program.run({catalogue, "--game"}), "Missing value after '--game'.");
+    expectRefusal(program.run({catalogue, "--json=x"}), "Unexpected value after '--json'.");
+    expectRefusal(program.run({catalogue, "--pc", ""}), "--pc: the value is empty");
+    expectRefusal(program.run({catalogue, "--plugin="}), "--plugin: the value is empty");
+    EXPECT_TRUE(program.fakeLog().isEmpty());
+}
+
+TEST(Program, WrongCommandsAreRefused) {
+    const FindProgram program;
+    expectRefusal(program.run({"locate"}), "locate: the key is missing");
+    expectRefusal(program.run({"locate", "Käfer"}), "locate: the folder is missing");
+    expectRefusal(program.run({"locate", " ", "D:\\X"}), "the key is empty");
+    expectRefusal(program.run({"locate", "Käfer", ""}), "the folder is empty");
+    expectRefusal(program.run({"locate", "Käfer", "D:\\X", ""}), "the name of the catalogue is empty");
+    expectRefusal(program.run({"locate", "Käfer", "D:\\X", "games.json", "zwölf"}), "surplus argument \"zwölf\"");
+    expectRefusal(program.run({"forget"}), "forget: the key is missing");
+    expectRefusal(program.run({"forget", "Käfer", "zwölf"}), "surplus argument \"zwölf\"");
+    expectRefusal(program.run({"runtimes", "zwölf"}), "surplus argument \"zwölf\"");
+    expectRefusal(program.run({"--game", "Käfer", "runtimes"}), "--game: not with runtimes");
+    expectRefusal(program.run({"--json", "locate", "Käfer", "D:\\X"}), "--json: not with locate");
+    expectRefusal(program.run({"--json", "forget", "Käfer"}), "--json: not with forget");
+    EXPECT_TRUE(program.fakeLog().isEmpty());
+}
+
+TEST(Program, ACatalogueThatCannotBeReadIsToldWithItsName) {
+    const FindProgram program;
+    const FindRun missing = program.run({program.folder() + "/Käfer.json"});
+    EXPECT_EQ(missing.exitStatus, 2);
+    EXPECT_TRUE(missing.errors.contains("Käfer.json: cannot be read: ")) << missing.errors.toStdString();
+
+    const FindRun folder = program.run({program.folder()});
+    EXPECT_EQ(folder.exitStatus, 2);
+    EXPECT_TRUE(folder.errors.contains(": cannot be read: ")) << folder.errors.toStdString();
+
+    expectComplaint(program.run({program.file("empty.json", "")}), "empty.json: the file is empty");
+}
+
+TEST(Program, ABrokenCatalogueIsToldWithThePlace) {
+    const FindProgram program;
+    expectComplaint(program.run({program.file("Käfer.json", "{\"games\": [\n    \"abc\n]}")}),
+                    "Käfer.json:2:5: unterminated string");
+    expectComplaint(program.run({program.file("b.json", R"({"games": [{"name": "a", "finders": [{}]}]})")}),
+                    "b.json: games[0].finders[0]: \"type\" is missing");
+    expectComplaint(program.run({program.file("c.json", R"({"games": [], "a\nb\u001b": 1})")}),
+                    "c.json: unknown field \"a b \" (known: games)");
+    EXPECT_TRUE(program.fakeLog().isEmpty());
+}
+
+TEST(Program, WhatIsNoPluginIsTold) {
+    const FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    const auto runWith = [&](const QString& plugin) { return program.runBare({"--plugin", plugin, catalogue}); };
+
+    const QStringList bad = {program.folder() + "/Käfer", program.file("text", "no library"), program.folder(),
+                             LURULUDRI_EMPTY_PLUGIN};
+    for (const QString& plugin : bad) {
+        const FindRun run = runWith(plugin);
+        expectComplaint(run, "");
+        EXPECT_TRUE(run.errors.contains(QFileInfo(plugin).fileName())) << run.errors.toStdString();
+    }
+    EXPECT_TRUE(runWith(LURULUDRI_EMPTY_PLUGIN).errors.contains("Create"));
+}
+
+TEST(Program, APluginThatFailsIsTold) {
+    FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    program.setFakeMode("no factory");
+    expectComplaint(program.run({catalogue}), ": Create made no factory");
+    program.setFakeMode("no memory");
+    expectComplaint(program.run({catalogue}), "luruludri-find: out of memory");
+}
+
+TEST(Program, ARecordedPcWithProblemsStillAnswers) {
+    if (!worldKnowsRecordings()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    program.file("Käfer-PC/pc.json", "{");
+    const QString folder = program.folder() + "/Käfer-PC";
+
+    const FindRun chosen = program.run({"--pc", folder, catalogue});
+    EXPECT_EQ(chosen.exitStatus, 2);
+    EXPECT_EQ(chosen.output, program.run({catalogue}).output);
+    EXPECT_TRUE(chosen.errors.startsWith("luruludri-find: " + folder + "/pc.json:")) << chosen.errors.toStdString();
+
+    program.setVariable(Recording::environmentVariable, folder);
+    EXPECT_EQ(program.run({catalogue}).errors, chosen.errors);
+    EXPECT_EQ(program.run({catalogue}).exitStatus, 2);
+}
+
+TEST(Program, ARecordedPcThatIsMissingIsTold) {
+    if (!worldKnowsRecordings()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    const QString missing = program.folder() + "/kein Käfer";
+    expectComplaint(program.run({"--pc", missing, catalogue}), missing + ": no such folder");
+    expectComplaint(program.run({"--pc", catalogue, catalogue}), catalogue + ": no such folder");
+
+    program.setVariable(Recording::environmentVariable, missing);
+    expectComplaint(program.run({catalogue}), missing + ": no such folder");
+    program.setVariable(Recording::environmentVariable, "");
+    EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
+}
+
+TEST(Program, WithoutRecordingsAskingForOneIsRefused) {
+    if (worldKnowsRecordings()) {
+        GTEST_SKIP() << "recordings are known here";
+    }
+    FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    expectComplaint(program.run({"--pc", program.folder(), catalogue}),
+                    "luruludri-find: --pc: this build answers from the PC it runs on");
+
+    program.setVariable(Recording::environmentVariable, program.folder());
+    EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
+}
+
+} // namespace

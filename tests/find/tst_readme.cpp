@@ -1,0 +1,51 @@
+#include "FindProgram.h"
+
+#include "common/QtPrinters.h"
+#include "platform/Recording.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+namespace {
+
+QString readme() {
+    QFile file(LURULUDRI_DOCS "/../README.md");
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return QString::fromUtf8(file.readAll());
+}
+
+/// Expects a block of the README to be what the real plug-in prints of the sample PC.
+void expectShown(const QStringList& arguments) {
+    FindProgram program;
+    program.setVariable("XDG_DATA_HOME", program.folder());
+    program.setVariable("XDG_CONFIG_HOME", program.folder());
+    const FindRun run = program.runBare(QStringList{"--pc", LURULUDRI_SAMPLES "/pc"} + arguments);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_FALSE(run.output.isEmpty());
+    EXPECT_TRUE(readme().contains("\n```\n" + run.output + "```\n")) << "The README does not show:\n"
+                                                                     << run.output.toStdString();
+}
+
+TEST(Readme, ShowsWhatTheProgramPrintsOfTheSamples) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    expectShown({LURULUDRI_SAMPLES "/catalogue.json"});
+}
+
+TEST(Readme, ShowsWhatIsExplainedOfAGameOfTheSamples) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    expectShown({"explain", "Tiefseelicht", LURULUDRI_SAMPLES "/catalogue.json"});
+}
+
+TEST(Readme, ShowsWhatIsSaidOfARecordingOfTheSamples) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    expectShown({"record", "my-pc", LURULUDRI_SAMPLES "/catalogue.json"});
+}
+
+} // namespace

@@ -1,0 +1,124 @@
+#include "FindProgram.h"
+
+#include "common/QtPrinters.h"
+#include "platform/Recording.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+
+namespace {
+
+/// What the real plug-in says of the samples. Its log goes into the folder of `program`.
+FindRun runSamples(FindProgram& program, const QStringList& arguments) {
+    program.setVariable("XDG_DATA_HOME", program.folder());
+    return program.runBare(QStringList{"--pc", LURULUDRI_SAMPLES "/pc", LURULUDRI_SAMPLES "/catalogue.json"} +
+                           arguments);
+}
+
+/// The folder in which each game was found, by its name; empty when it was not.
+QMap<QString, QString> foldersOf(const FindRun& run) {
+    QMap<QString, QString> folders;
+    const QJsonObject root = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    for (const QJsonValue game : root["games"].toArray()) {
+        folders.insert(game["name"].toString(), game["installFolder"].toString());
+    }
+    return folders;
+}
+
+TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const FindRun run = runSamples(program, {"--json"});
+    EXPECT_EQ(run.exitStatus, 1) << run.errors.toStdString();
+    const QMap<QString, QString> folders = foldersOf(run);
+    EXPECT_EQ(folders.value("Käferrennen"), "D:\\Spiele\\Käferrennen");
+    EXPECT_EQ(folders.value("Lantern Harbour"), "C:\\Games\\Lantern Harbour");
+    EXPECT_EQ(folders.value("Nordlicht Tactics", "not asked"), "");
+}
+
+TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const FindRun run = runSamples(program, {"--json"});
+    const QMap<QString, QString> folders = foldersOf(run);
+    EXPECT_EQ(folders.value("Fjordflug VR"), "C:\\Program Files (x86)\\Steam\\steamapps\\common\\Fjordflug VR");
+    EXPECT_EQ(folders.value("Orbitkurier"), "D:/SteamLibrary/steamapps/common/Orbitkurier");
+    EXPECT_EQ(folders.value("Tiefseelicht", "not asked"), "") << "its library is gone";
+    EXPECT_EQ(folders.value("Kartonrakete"), "C:\\Users\\Jördis\\AppData\\Local\\Programs\\Kartonrakete");
+    EXPECT_EQ(folders.value("Marmor & Messing"), "C:\\Program Files (x86)\\Marmor & Messing");
+    EXPECT_EQ(folders.value("Sturmvogel 2"), "D:/Spiele/Sturmvogel 2");
+    EXPECT_EQ(folders.value("Wörterlabyrinth"), "C:/Games/Wörterlabyrinth");
+    EXPECT_EQ(folders.value("競走クラブ"), "D:/Spiele/競走クラブ");
+    const QJsonObject runtimes = QJsonDocument::fromJson(run.output.toUtf8()).object()["runtimes"].toObject();
+    EXPECT_EQ(runtimes["steamExecutablePath"].toString(), "C:\\Program Files (x86)\\Steam\\steam.exe");
+    EXPECT_EQ(runtimes["steamVrFolder"].toString(), "C:\\Program Files (x86)\\Steam\\steamapps\\common\\SteamVR");
+}
+
+TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const FindRun run = runSamples(program, {"--json"});
+    const QMap<QString, QString> folders = foldersOf(run);
+    EXPECT_EQ(folders.value("Nebelpflug"), "D:\\Epic Games\\Nebelpflug");
+    EXPECT_EQ(folders.value("Kolibri Canyon"), "D:/Oculus Apps/Software/federlicht-kolibri-canyon");
+    EXPECT_EQ(folders.value("Gletscherspalte"), "Halmstaub.Gletscherspalte_2.3.11.0_x64__8t4qz1rk6yw2e");
+    EXPECT_EQ(folders.value("Burgfried 1412"), "C:/Games/Burgfried 1412");
+    EXPECT_EQ(folders.value("Zeppelinpost"), "D:\\Spiele\\Zeppelinpost");
+    EXPECT_EQ(folders.value("Moosgarten", "not asked"), "") << "the user has not chosen its folder";
+}
+
+TEST(Samples, HaveAllRuntimes) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    program.setVariable("XDG_DATA_HOME", program.folder());
+    const FindRun run = program.runBare({"--pc", LURULUDRI_SAMPLES "/pc", "--json", "runtimes"});
+    EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
+    const QJsonObject runtimes = QJsonDocument::fromJson(run.output.toUtf8()).object()["runtimes"].toObject();
+    EXPECT_EQ(runtimes["oculusRuntimeFolder"].toString(), "C:\\Program Files\\Oculus\\/Support/oculus-runtime");
+    EXPECT_EQ(runtimes["oculusLibraryFolders"].toArray(), QJsonArray{"D:/Oculus Apps/Manifests"});
+    EXPECT_EQ(runtimes["varjoRuntimeFolder"].toString(), "C:\\Program Files\\Varjo\\");
+    EXPECT_EQ(runtimes["openXrActiveRuntime"].toString(), "C:\\Program Files\\Varjo\\varjo-openxr\\VarjoOpenXR.json");
+    EXPECT_EQ(runtimes["lumavexStandaloneLocation"].toString(), "C:\\Program Files\\Lumavex\\Standalone");
+}
+
+TEST(Samples, HaveAGameThatTheUserCanLocate) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    program.setVariable("XDG_DATA_HOME", program.folder());
+    program.setVariable(Recording::environmentVariable, LURULUDRI_SAMPLES "/pc");
+    const QString catalogue = LURULUDRI_SAMPLES "/catalogue.json";
+    const FindRun located = program.runBare({"locate", "moosgarten", "D:\\Eigene Spiele\\Moosgarten\\bin", catalogue});
+    EXPECT_EQ(located.output, "moosgarten: D:/Eigene Spiele/Moosgarten\n") << located.errors.toStdString();
+    EXPECT_EQ(foldersOf(runSamples(program, {"--json"})).value("Moosgarten"), "D:/Eigene Spiele/Moosgarten");
+    EXPECT_EQ(program.runBare({"forget", "moosgarten"}).exitStatus, 0);
+    EXPECT_EQ(foldersOf(runSamples(program, {"--json"})).value("Moosgarten"), "");
+}
+
+TEST(Samples, HaveAGameWithTwoExecutables) {
+    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const FindRun run = runSamples(program, {"--json", "--game", "Lantern Harbour"});
+    EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
+    const QJsonObject root = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    const QJsonArray expected = {"C:\\Games\\Lantern Harbour\\game\\LanternHarbour.exe",
+                                 "C:\\Games\\Lantern Harbour\\editor\\HarbourEditor.exe"};
+    EXPECT_EQ(root["games"][0]["executablePaths"].toArray(), expected);
+}
+
+} // namespace

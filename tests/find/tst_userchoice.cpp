@@ -1,0 +1,119 @@
+#include "find/answers/UserChoice.h"
+
+#include "FindProgram.h"
+
+#include "common/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+namespace {
+
+constexpr const char* games = R"({"games": [
+    {"name": "Käferrennen", "finders": [
+        {"type": "folder", "folder": "Käfer", "executables": ["folder.exe"]},
+        {"type": "userProvidedLocation", "key": "Käfer", "executables": ["bin\\k.exe", "k.exe"]}]},
+    {"name": "Wal", "finders": [{"type": "multi", "finders": [
+        {"type": "userProvidedLocation", "key": " Käfer ", "executables": ["k.exe", "wal.exe"]},
+        {"type": "userProvidedLocation", "key": "installed", "executables": ["w.exe"]}]}]}]})";
+
+TEST(UserChoice, TheCatalogueSaysWhatTheExecutablesAre) {
+    Host::CatalogueFault fault;
+    const auto catalogue = Host::parseCatalogue(games, fault);
+    ASSERT_TRUE(catalogue) << fault.message.toStdString();
+    EXPECT_EQ(Host::executablesFor(*catalogue, "Käfer"), (QStringList{"bin\\k.exe", "k.exe", "wal.exe"}));
+    EXPECT_EQ(Host::executablesFor(*catalogue, "installed "), QStringList{"w.exe"});
+    EXPECT_EQ(Host::executablesFor(*catalogue, "käfer"), QStringList());
+}
+
+TEST(UserChoice, AFolderReachesThePlugin) {
+    const FindProgram program;
+    const FindRun run = program.run({"locate", "installed", "D:\\Spiele\\Käfer\\bin", program.file("g.json", games)});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.output, "installed: D:\\Spiele\\Gewählt\n") << "what is remembered, not what was given";
+    EXPECT_EQ(program.fakeLog(),
+              (QStringList{"Create", "userProvidedLocation(installed|w.exe)", "setUserLocation(D:\\Spiele\\Käfer\\bin)",
+                           "~userProvidedLocation", "~Create", "unloaded"}));
+}
+
+TEST(UserChoice, AFolderWithoutTheGameIsRememberedAndTold) {
+    const FindProgram program;
+    const FindRun run = program.run({"locate", "Käfer", "D:\\Spiele", program.file("g.json", games)});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_EQ(run.output, "Käfer: D:\\Spiele\\Gewählt\n");
+    EXPECT_EQ(run.errors,
+              "luruludri-find: the folder holds none of the game's executables: bin\\k.exe, k.exe, wal.exe\n");
+}
+
+TEST(UserChoice, AKeyThatTheCatalogueDoesNotHaveIsRememberedAllTheSameAndTold) {
+    const FindProgram program;
+    const QString catalogue = program.file("g.json", games);
+    const FindRun run = program.run({"locate", " Qualle", "D:\\Spiele", catalogue});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.output, "Qualle: D:\\Spiele\\Gewählt\n");
+    EXPECT_EQ(run.errors,
+              "luruludri-find: " + catalogue + ": no game has the key \"Qualle\"; remembered all the same\n");
+    EXPECT_EQ(program.fakeLog().mid(1, 2),
+              (QStringList{"userProvidedLocation( Qualle|)", "setUserLocation(D:\\Spiele)"}));
+}
+
+TEST(UserChoice, AKeyOfAGameWithoutExecutablesIsKnown) {
+    const FindProgram program;
+    const QString catalogue = program.file("g.json", R"({"games": [{"name": "Wal", "finders": [
+        {"type": "multi", "finders": [{"type": "userProvidedLocation", "key": "Wal", "executables": []}]}]}]})");
+    const FindRun run = program.run({"locate", "Wal", "D:\\Spiele", catalogue});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.errors, "");
+}
+
+TEST(UserChoice, AnEmptyFolderForgets) {
+    const FindProgram program;
+    const FindRun run = program.run({"forget", " Käfer"});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.output, "Käfer: forgotten\n");
+    EXPECT_EQ(program.fakeLog().mid(1, 2), (QStringList{"userProvidedLocation( Käfer|)", "setUserLocation()"}));
+}
+
+TEST(UserChoice, WhatThePluginDoesNotDoIsTold) {
+    FindProgram program;
+    const QString catalogue = program.file("g.json", games);
+    for (const char* mode : {"no locations", "no finders"}) {
+        program.setFakeMode(mode);
+        const FindRun located = program.run({"locate", "Qualle", "D:\\Spiele", catalogue});
+        EXPECT_EQ(located.exitStatus, 2) << mode;
+        EXPECT_EQ(located.errors, "luruludri-find: the folder could not be remembered\n") << mode;
+        const FindRun forgotten = program.run({"forget", "Qualle"});
+        EXPECT_EQ(forgotten.exitStatus, 2) << mode;
+        EXPECT_EQ(forgotten.errors, "luruludri-find: the folder could not be forgotten\n") << mode;
+        EXPECT_EQ(located.output + forgotten.output, "") << mode;
+    }
+}
+
+TEST(UserChoice, AMissingCatalogueIsToldBeforeAnythingIsRemembered) {
+    const FindProgram program;
+    EXPECT_EQ(program.run({"locate", "Käfer", "D:\\Spiele", program.folder() + "/none.json"}).exitStatus, 2);
+    EXPECT_TRUE(program.fakeLog().isEmpty());
+}
+
+TEST(UserChoice, TheRealPluginRemembersFindsAndForgets) {
+    FindProgram program;
+    program.setVariable("XDG_DATA_HOME", program.folder());
+    program.file("Spiele/Wal/bin/wal.exe", "");
+    const QString folder = program.folder() + "/Spiele/Wal";
+    const QString catalogue = program.file("g.json", R"({"games": [{"name": "Wal", "finders": [
+        {"type": "userProvidedLocation", "key": "Wal", "executables": ["bin/wal.exe"]}]}]})");
+    EXPECT_EQ(program.runBare({catalogue}).exitStatus, 1);
+
+    const FindRun located = program.runBare({"locate", "Wal", folder + "/bin", catalogue});
+    EXPECT_EQ(located.exitStatus, 0) << located.errors.toStdString();
+    EXPECT_EQ(located.output, "Wal: " + folder + "\n");
+    EXPECT_EQ(program.runBare({catalogue}).exitStatus, 0);
+
+    EXPECT_EQ(program.runBare({"forget", "Wal"}).output, "Wal: forgotten\n");
+    EXPECT_EQ(program.runBare({catalogue}).exitStatus, 1);
+}
+
+} // namespace

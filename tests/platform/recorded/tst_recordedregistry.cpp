@@ -1,0 +1,250 @@
+#include "common/recorded/RecordingFolder.h"
+#include "platform/Registry.h"
+#include "platform/recorded/RegistryQuestions.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace {
+
+using namespace RegistryQuestions;
+using Platform::ErrorCode;
+using Platform::KeyHandle;
+using Platform::RootKey;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr ErrorCode errorBadPathName = 161;
+
+class RecordedRegistryTest : public ::testing::Test {
+protected:
+    void record(const QByteArray& lines) {
+        pc.registry(lines);
+        EXPECT_THAT(pc.choose()->problems(), IsEmpty());
+    }
+
+    /// Opens the key of a value "a" that has the given form in a .reg file.
+    KeyHandle keyWith(const QByteArray& data) {
+        record("[HKEY_LOCAL_MACHINE\\A]\r\n\"a\"=" + data + "\r\n");
+        KeyHandle key;
+        EXPECT_EQ(Platform::openKey(RootKey::LocalMachine, "A", view64, key), Platform::errorSuccess);
+        return key;
+    }
+
+    RecordingFolder pc;
+    quint32 type = 99;
+    quint32 size = 0;
+};
+
+TEST_F(RecordedRegistryTest, FindsAValueInItsRootOnly) {
+    record("[HKEY_LOCAL_MACHINE\\A]\r\n\"a\"=\"1\"\r\n");
+    EXPECT_EQ(text(RootKey::LocalMachine, "A", "a"), "1");
+    EXPECT_EQ(text(RootKey::CurrentUser, "A", "a"), "error 2");
+    EXPECT_EQ(text(RootKey::ClassesRoot, "A", "a"), "error 2");
+    EXPECT_EQ(text(RootKey::Users, "A", "a"), "error 2");
+    EXPECT_EQ(text(RootKey::LocalMachine, "A", "b"), "error 2");
+}
+
+TEST_F(RecordedRegistryTest, FindsNamesIgnoringCaseAsWindowsDoes) {
+    record("[HKEY_CURRENT_USER\\Spiele\\Größe ς]\r\n\"Münze µ\"=\"1\"\r\n");
+    EXPECT_EQ(text(RootKey::CurrentUser, "SPIELE\\gRÖßE Σ", "MÜNZE µ"), "1");
+    EXPECT_EQ(text(RootKey::CurrentUser, "SPIELE\\GRÖSSE Σ", "MÜNZE µ"), "error 2");
+    EXPECT_EQ(text(RootKey::CurrentUser, "Spiele\\Größe ς", "münze Μ"), "error 2") << "the micro sign is no mu";
+}
+
+TEST_F(RecordedRegistryTest, KeepsDotlessIAndLongSApart) {
+    record("[HKEY_CURRENT_USER\\ı]\r\n[HKEY_CURRENT_USER\\ſ]\r\n");
+    EXPECT_EQ(open(RootKey::CurrentUser, "I"), Platform::errorFileNotFound);
+    EXPECT_EQ(open(RootKey::CurrentUser, "S"), Platform::errorFileNotFound);
+}
+
+TEST_F(RecordedRegistryTest, ListsSubKeysSortedAndAsTheyAreSpelled) {
+    record("[HKEY_CURRENT_USER\\K\\b]\r\n[HKEY_CURRENT_USER\\K\\_]\r\n[HKEY_CURRENT_USER\\K\\C]\r\n"
+           "[HKEY_CURRENT_USER\\K\\ä]\r\n[HKEY_CURRENT_USER\\K\\A\\deeper]\r\n[HKEY_CURRENT_USER\\K\\B]\r\n");
+    EXPECT_THAT(subKeys(RootKey::CurrentUser, "K"), ElementsAre("A", "b", "C", "_", "ä"));
+}
+
+TEST_F(RecordedRegistryTest, LaterLinesWinAndDeletionsDelete) {
+    record(
+        "[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n\"b\"=\"1\"\r\n\"c\"=\"1\"\r\n[HKEY_CURRENT_USER\\A\\B]\r\n"
+        "[HKEY_CURRENT_USER\\C\\D]\r\n[HKEY_CURRENT_USER\\a]\r\n\"A\"=\"2\"\r\n\"B\"=-\r\n[-HKEY_CURRENT_USER\\C]\r\n"
+        "[-HKEY_CURRENT_USER\\none\\at all]\r\n");
+    EXPECT_EQ(text(RootKey::CurrentUser, "A", "a"), "2");
+    EXPECT_EQ(text(RootKey::CurrentUser, "A", "b"), "error 2");
+    EXPECT_EQ(text(RootKey::CurrentUser, "A", "c"), "1");
+    EXPECT_EQ(open(RootKey::CurrentUser, "C\\D"), Platform::errorFileNotFound);
+    EXPECT_EQ(open(RootKey::CurrentUser, "C"), Platform::errorFileNotFound);
+    EXPECT_THAT(subKeys(RootKey::CurrentUser, "A"), ElementsAre("B"));
+}
+
+TEST_F(RecordedRegistryTest, ReadsFilesInTheOrderOfTheirNames) {
+    const QByteArray header = "Windows Registry Editor Version 5.00\r\n[HKEY_CURRENT_USER\\A]\r\n";
+    pc.file("registry/b.reg", header + "\"a\"=\"b\"\r\n");
+    pc.file("registry/a.REG", header + "\"a\"=\"a\"\r\n");
+    pc.file("registry/c.reg.txt", header + "\"a\"=\"c\"\r\n");
+    pc.choose();
+    EXPECT_EQ(text(RootKey::CurrentUser, "A", "a"), "b");
+}
+
+// Opening
+
+TEST_F(RecordedRegistryTest, OpensARootByAnEmptyName) {
+    record("[HKEY_USERS\\S-1-5-18]\r\n");
+    EXPECT_THAT(subKeys(RootKey::Users, ""), ElementsAre("S-1-5-18"));
+    EXPECT_THAT(subKeys(RootKey::LocalMachine, ""), IsEmpty());
+    EXPECT_THAT(subKeys(RootKey::ClassesRoot, ""), IsEmpty());
+}
+
+TEST_F(RecordedRegistryTest, TakesBackslashesAsWindowsDoes) {
+    record("[HKEY_CURRENT_USER\\A\\B]\r\n[HKEY_CLASSES_ROOT\\A]\r\n");
+    EXPECT_EQ(open(RootKey::CurrentUser, "A\\B\\"), Platform::errorSuccess);
+    EXPECT_EQ(open(RootKey::CurrentUser, "A\\\\B"), Platform::errorSuccess);
+    EXPECT_EQ(open(RootKey::ClassesRoot, "\\A"), Platform::errorSuccess);
+    EXPECT_EQ(open(RootKey::CurrentUser, "\\A\\B"), errorBadPathName);
+    EXPECT_EQ(open(RootKey::CurrentUser, "A/B"), Platform::errorFileNotFound);
+}
+
+TEST_F(RecordedRegistryTest, EndsNamesAtANull) {
+    record("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n");
+    EXPECT_EQ(text(RootKey::CurrentUser, QString("A") + QChar(0) + "B", QString("a") + QChar(0) + "b"), "1");
+}
+
+TEST_F(RecordedRegistryTest, OpensByAsciiNames) {
+    record("[HKEY_CURRENT_USER\\A\\B]\r\n");
+    KeyHandle key;
+    EXPECT_EQ(Platform::openKeyNarrow(RootKey::CurrentUser, "a\\b", view64, key), Platform::errorSuccess);
+    EXPECT_EQ(Platform::openKeyNarrow(RootKey::CurrentUser, "a\\c", view64, key), Platform::errorFileNotFound);
+    EXPECT_FALSE(key);
+    EXPECT_EQ(Platform::openKeyNarrow(RootKey::CurrentUser, nullptr, view64, key), Platform::errorSuccess);
+}
+
+TEST_F(RecordedRegistryTest, KeepsAnOpenKeyWhenAnotherPcIsChosen) {
+    const KeyHandle key = keyWith("dword:00000007");
+    RecordingFolder other;
+    other.choose();
+    quint32 number = 0;
+    size = sizeof number;
+    EXPECT_EQ(Platform::queryValue(key, "a", type, &number, size), Platform::errorSuccess);
+    EXPECT_EQ(number, 7U);
+}
+
+// Values
+
+TEST_F(RecordedRegistryTest, TellsTheSizeOfAValueWithoutABuffer) {
+    const KeyHandle key = keyWith("\"abc\"");
+    EXPECT_EQ(Platform::queryValue(key, "a", type, nullptr, size), Platform::errorSuccess);
+    EXPECT_EQ(size, 8U);
+    EXPECT_EQ(type, Platform::regSz);
+}
+
+TEST_F(RecordedRegistryTest, LeavesABufferAloneThatIsTooSmall) {
+    const KeyHandle key = keyWith("\"abc\"");
+    QByteArray buffer = "1234567";
+    size = 7;
+    EXPECT_EQ(Platform::queryValue(key, "a", type, buffer.data(), size), Platform::errorMoreData);
+    EXPECT_EQ(size, 8U);
+    EXPECT_EQ(buffer, "1234567");
+}
+
+TEST_F(RecordedRegistryTest, LeavesABufferAloneForAValueOfNoBytes) {
+    const KeyHandle key = keyWith("hex(1):");
+    quint32 number = 0x12345678;
+    size = sizeof number;
+    EXPECT_EQ(Platform::queryValue(key, "a", type, &number, size), Platform::errorSuccess);
+    EXPECT_EQ(size, 0U);
+    EXPECT_EQ(number, 0x12345678U);
+}
+
+TEST_F(RecordedRegistryTest, EndsTextThatIsStoredWithoutAnEnd) {
+    const KeyHandle key = keyWith("hex(1):41,00,42,00");
+    QByteArray buffer(8, 'x');
+    size = 8;
+    EXPECT_EQ(Platform::queryValue(key, "a", type, buffer.data(), size), Platform::errorSuccess);
+    EXPECT_EQ(size, 4U);
+    EXPECT_EQ(buffer, QByteArray("A\0B\0\0\0xx", 8));
+
+    QByteArray tight(5, 'x');
+    size = 5;
+    EXPECT_EQ(Platform::queryValue(key, "a", type, tight.data(), size), Platform::errorSuccess);
+    EXPECT_EQ(tight, QByteArray("A\0B\0x", 5)) << "there is no room for an end";
+}
+
+TEST_F(RecordedRegistryTest, GivesBytesOfOtherTypesAsTheyAre) {
+    const KeyHandle key = keyWith("hex(3):01,02");
+    QByteArray buffer(4, 'x');
+    size = 4;
+    EXPECT_EQ(Platform::queryValue(key, "a", type, buffer.data(), size), Platform::errorSuccess);
+    EXPECT_EQ(type, 3U);
+    EXPECT_EQ(buffer, "\x01\x02xx");
+}
+
+TEST_F(RecordedRegistryTest, ConvertsTextToTheAnsiCodePage) {
+    const KeyHandle key = keyWith("\"Ö€–Ł𝄞\"");
+    QByteArray buffer(10, 'x');
+    size = 10;
+    EXPECT_EQ(Platform::queryValueNarrow(key, "a", type, buffer.data(), size), Platform::errorSuccess);
+    EXPECT_EQ(size, 7U);
+    EXPECT_EQ(buffer, QByteArray("\xD6\x80\x96???\0xxx", 10));
+    size = 6;
+    EXPECT_EQ(Platform::queryValueNarrow(key, "a", type, buffer.data(), size), Platform::errorMoreData);
+    EXPECT_EQ(size, 7U);
+}
+
+TEST_F(RecordedRegistryTest, GivesNumbersByAsciiNames) {
+    const KeyHandle key = keyWith("dword:01020304");
+    quint32 number = 0;
+    size = sizeof number;
+    EXPECT_EQ(Platform::queryValueNarrow(key, "A", type, &number, size), Platform::errorSuccess);
+    EXPECT_EQ(number, 0x01020304U);
+    EXPECT_EQ(Platform::queryValueNarrow(key, nullptr, type, &number, size), Platform::errorFileNotFound);
+}
+
+TEST_F(RecordedRegistryTest, RefusesAKeyThatIsNotOpen) {
+    char16_t name[4];
+    quint32 length = 4;
+    EXPECT_EQ(Platform::queryValue({}, "a", type, nullptr, size), Platform::errorInvalidHandle);
+    EXPECT_EQ(Platform::queryValueNarrow({}, "a", type, nullptr, size), Platform::errorInvalidHandle);
+    EXPECT_EQ(Platform::enumKey({}, 0, name, length), Platform::errorInvalidHandle);
+}
+
+// Enumeration
+
+TEST_F(RecordedRegistryTest, NeedsRoomForANameAndItsEnd) {
+    record("[HKEY_CURRENT_USER\\K\\abc]\r\n");
+    KeyHandle key;
+    ASSERT_EQ(Platform::openKey(RootKey::CurrentUser, "K", view64, key), Platform::errorSuccess);
+    char16_t name[] = u"xxxxx";
+    quint32 length = 3;
+    EXPECT_EQ(Platform::enumKey(key, 0, name, length), Platform::errorMoreData);
+    EXPECT_EQ(QString::fromUtf16(name), "xxxxx");
+    length = 4;
+    EXPECT_EQ(Platform::enumKey(key, 0, name, length), Platform::errorSuccess);
+    EXPECT_EQ(QString::fromUtf16(name), "abc");
+    EXPECT_EQ(length, 3U);
+    EXPECT_EQ(Platform::enumKey(key, 1, name, length), Platform::errorNoMoreItems);
+}
+
+TEST_F(RecordedRegistryTest, GoesOnBehindANameThatIsTooLong) {
+    record("[HKEY_CURRENT_USER\\K\\" + QByteArray(300, 'b') + "]\r\n[HKEY_CURRENT_USER\\K\\c]\r\n");
+    KeyHandle key;
+    ASSERT_EQ(Platform::openKey(RootKey::CurrentUser, "K", view64, key), Platform::errorSuccess);
+    std::array<char16_t, 256> name{};
+    quint32 length = 256;
+    EXPECT_EQ(Platform::enumKey(key, 0, name.data(), length), Platform::errorMoreData);
+    length = 256;
+    EXPECT_EQ(Platform::enumKey(key, 1, name.data(), length), Platform::errorSuccess);
+    EXPECT_EQ(length, 1U);
+}
+
+TEST_F(RecordedRegistryTest, ReadsManyKeysInReasonableTime) {
+    QByteArray lines;
+    for (int i = 20000; i > 0; --i) {
+        lines += "[HKEY_CURRENT_USER\\K\\" + QByteArray::number(i) + "]\r\n";
+    }
+    record(lines);
+    EXPECT_EQ(subKeys(RootKey::CurrentUser, "K").size(), 20000U);
+}
+
+} // namespace

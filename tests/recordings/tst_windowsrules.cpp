@@ -1,0 +1,50 @@
+#include "recordings/RegistryView.h"
+#include "recordings/WindowsNames.h"
+
+#include "common/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Windows::RegistryView;
+
+/// Where the machine's key lies that a program of the other view asks for.
+QString machine32(const QString& path) {
+    return Windows::storedMachinePath(path.split('\\'), RegistryView::Bits32).join('\\');
+}
+
+QString machine64(const QString& path) {
+    return Windows::storedMachinePath(path.split('\\'), RegistryView::Bits64).join('\\');
+}
+
+TEST(StoredPath, The32BitViewOfTheMachinesSoftwareIsATreeOfItsOwn) {
+    EXPECT_EQ(machine64("SOFTWARE\\X\\Y"), "SOFTWARE\\X\\Y");
+    EXPECT_EQ(machine32("SOFTWARE\\X\\Y"), "Software\\Wow6432Node\\X\\Y");
+    EXPECT_EQ(machine32("software\\wow6432node\\X"), "Software\\Wow6432Node\\X");
+    EXPECT_EQ(machine64("software\\wow6432node\\X"), "Software\\Wow6432Node\\X");
+    EXPECT_EQ(machine32("System\\X"), "System\\X");
+}
+
+TEST(StoredPath, SharedKeysAreInOnePlace) {
+    EXPECT_EQ(machine32("Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\x.exe"),
+              "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\x.exe");
+    EXPECT_EQ(machine32("Software\\Microsoft\\Windows\\CurrentVersion\\App Paths 2"),
+              "Software\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion\\App Paths 2");
+    EXPECT_EQ(machine32("Software\\Classes\\steam"), "Software\\Classes\\steam");
+    EXPECT_EQ(machine32("Software\\Classes\\CLSID\\{1}"), "Software\\Classes\\Wow6432Node\\CLSID\\{1}");
+}
+
+TEST(StoredPath, TheUsersSoftwareHasOneView) {
+    const QStringList path{"Software", "X"};
+    EXPECT_EQ(Windows::storedUserPath(path, RegistryView::Bits32), path);
+    EXPECT_EQ(Windows::storedClassesPath({"steam"}, RegistryView::Bits32), QStringList{"steam"});
+}
+
+TEST(FoldName, MakesEqualWhatWindowsCallsOneName) {
+    EXPECT_EQ(Windows::foldName("Käfer"), Windows::foldName("KÄFER"));
+    EXPECT_NE(Windows::foldName("ss"), Windows::foldName("ß"));
+    EXPECT_NE(Windows::foldName("i"), Windows::foldName("ı"));
+}
+
+} // namespace
