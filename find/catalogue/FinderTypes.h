@@ -11,6 +11,8 @@ class IGameFinderFactory;
 
 namespace Host {
 
+struct Inventory;
+
 /// One field of a finder in the catalogue: its name, and where its value goes. The value's type follows from that.
 struct FinderField {
     using Target = std::variant<QString FinderEntry::*, QStringList FinderEntry::*, int FinderEntry::*,
@@ -20,14 +22,20 @@ struct FinderField {
     Target target;
 };
 
-/// A kind of finder: its name and fields in the catalogue, and the factory's operation that makes one. Numbers may be
-/// left out of an entry, everything else must be there.
+/// A kind of finder, with all that the program knows of it: whoever adds a create operation to the factory adds a row
+/// here.
 struct FinderType {
     using Make = std::unique_ptr<IGameFinder> (*)(IGameFinderFactory&, const FinderEntry&);
+    using Questions = std::vector<FinderEntry> (*)(const Inventory&);
 
-    const char* name;
-    std::vector<FinderField> fields;
+    const char* name;                ///< in the catalogue
+    const char* operation;           ///< the factory's operation that makes one
+    std::vector<FinderField> fields; ///< numbers may be left out of a catalogue's entry, everything else must be there
     Make make;
+
+    /// What such a finder is asked for so that it looks at all that it can look at on a PC. Types and executables of
+    /// the entries are whoever asks's own.
+    Questions questions;
 };
 
 /// All kinds, in the order of the factory's operations.

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "find/catalogue/Catalogue.h"
+#include "find/record/IndexEntries.h"
+
+#include <QStringList>
+
+#include <vector>
+
+namespace Host {
+
+/// What finders can be asked for on a PC, as far as it is known.
+struct Inventory {
+    std::vector<FinderEntry> catalogue; ///< every finder of the catalogue's games, those within multi finders too
+    IndexEntries lists;                 ///< the plug-in's lists of what is installed
+    QStringList packageFamilies;
+    QStringList userChoiceKeys;
+};
+
+} // namespace Host

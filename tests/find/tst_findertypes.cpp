@@ -1,0 +1,59 @@
+#include "find/catalogue/FinderTypes.h"
+
+#include "common/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QRegularExpression>
+
+using namespace Host;
+
+namespace {
+
+QString textOf(const QString& file) {
+    QFile source(file);
+    EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << file.toStdString();
+    return QString::fromUtf8(source.readAll());
+}
+
+/// The create operations that the header for hosts declares, in its order.
+QStringList createOperations() {
+    static const QRegularExpression declaration(R"(\b(create\w+Finder)\()");
+    QStringList operations;
+    auto matches = declaration.globalMatch(textOf(LURULUDRI_DOCS "/../src/core/IGameFinderFactory.h"));
+    while (matches.hasNext()) {
+        operations.append(matches.next().captured(1));
+    }
+    return operations;
+}
+
+TEST(FinderTypes, HaveARowForEachCreateOperationOfTheFactory) {
+    QStringList operations;
+    for (const FinderType& type : finderTypes()) {
+        operations.append(type.operation);
+    }
+    EXPECT_EQ(createOperations().size(), 10);
+    EXPECT_EQ(operations, createOperations());
+}
+
+TEST(FinderTypes, AreAllInTheDocumentOfTheCatalogueWithTheirFields) {
+    const QString document = textOf(LURULUDRI_DOCS "/catalogue.md");
+    for (const FinderType& type : finderTypes()) {
+        QStringList fields;
+        for (const FinderField& field : type.fields) {
+            fields.append(QString("`%1`").arg(field.name));
+        }
+        const QString row = QString("| `%1` | %2 |").arg(type.name, fields.join(", "));
+        EXPECT_TRUE(document.contains(row)) << "docs/catalogue.md has no row " << row.toStdString();
+    }
+}
+
+TEST(FinderTypes, AreAllInTheReadme) {
+    const QString readme = textOf(LURULUDRI_DOCS "/../README.md");
+    for (const FinderType& type : finderTypes()) {
+        EXPECT_TRUE(readme.contains(QString("| `%1` |").arg(type.operation))) << type.operation;
+    }
+}
+
+} // namespace
