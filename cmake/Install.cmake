@@ -21,8 +21,9 @@ install(TARGETS Luruludri LIBRARY DESTINATION bin)
 install(TARGETS luruludri-find RUNTIME DESTINATION bin)
 install(FILES samples/catalogue.json DESTINATION bin)
 
-install(FILES src/core/GameLocation.h src/core/IGameFinder.h src/core/IGameFinderFactory.h
-        DESTINATION include/luruludri)
+# All that a host includes.
+set(LURULUDRI_INTERFACE src/core/GameLocation.h src/core/IGameFinder.h src/core/IGameFinderFactory.h)
+install(FILES ${LURULUDRI_INTERFACE} DESTINATION include/luruludri)
 
 set(config "${CMAKE_CURRENT_BINARY_DIR}/package")
 configure_package_config_file(cmake/LuruludriConfig.cmake.in "${config}/LuruludriConfig.cmake"

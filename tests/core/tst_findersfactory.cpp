@@ -11,7 +11,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <cstddef>
 #include <future>
 #include <thread>
 
@@ -181,40 +181,13 @@ TEST_F(FindersFactoryTest, SteamVrIsLookedForThroughTheFactorysOwnOperations) {
                                            "steam find", "steam destroyed", "uninstall destroyed"));
 }
 
-/// The number of a virtual operation's slot. In the C++ ABI of both compilers a pointer to a virtual member function
-/// holds its offset in the table, plus one; a destructor takes two entries.
-template <class Operation>
-std::ptrdiff_t slotOf(Operation operation) {
-    std::ptrdiff_t offset = 0;
-    std::memcpy(&offset, &operation, sizeof offset);
-    return (offset - 1) / static_cast<std::ptrdiff_t>(sizeof(void*)) - 1;
-}
-
-TEST(InterfaceTest, TheFindersOperationsKeepTheirSlots) {
-    EXPECT_EQ(slotOf(&IGameFinder::find), 1);
-    EXPECT_EQ(slotOf(&IGameFinder::userLocation), 2);
-    EXPECT_EQ(slotOf(&IGameFinder::setUserLocation), 3);
-}
-
-TEST(InterfaceTest, TheFactorysOperationsKeepTheirSlots) {
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createUninstallFinder), 1);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createGameForWindowFinder), 2);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createSteamFinder), 3);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createMultiFinder), 4);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createStartMenuFinder), 5);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createFolderFinder), 6);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createOculusStoreFinder), 7);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createEpicStoreFinder), 8);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createUniversalAppFinder), 9);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::createUserProvidedLocationFinder), 10);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::oculusLibraryFolders), 11);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::oculusRuntimeFolder), 12);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::steamExecutablePath), 13);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::steamConfigFolder), 14);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::varjoRuntimeFolder), 15);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::openXrActiveRuntime), 16);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::lumavexStandaloneLocation), 17);
-    EXPECT_EQ(slotOf(&IGameFinderFactory::steamVrFolder), 18);
+TEST(InterfaceTest, TheRecordsFieldsKeepTheirPlaces) {
+    EXPECT_EQ(offsetof(GameLocation, launchCommand), 0U);
+    EXPECT_EQ(offsetof(GameLocation, executablePath), 8U);
+    EXPECT_EQ(offsetof(GameLocation, executablePaths), 16U);
+    EXPECT_EQ(offsetof(GameLocation, installFolder), 24U);
+    EXPECT_EQ(offsetof(GameLocation, hostFlag), 32U);
+    EXPECT_EQ(sizeof(GameLocation), 40U);
 }
 
 } // namespace
