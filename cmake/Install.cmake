@@ -2,11 +2,14 @@
 
 include(CMakePackageConfigHelpers)
 
-set(system "${CMAKE_SYSTEM_NAME}")
-if(WIN32)
-    set(system win64)
+# Which hosts the package is for; the package itself asks the same of a host.
+set(LURULUDRI_SYSTEM "${CMAKE_SYSTEM_NAME}")
+if(MSVC)
+    set(LURULUDRI_SYSTEM win64-msvc)
+elseif(WIN32)
+    set(LURULUDRI_SYSTEM win64-mingw)
 endif()
-set(LURULUDRI_PACKAGE "${PROJECT_NAME}-${PROJECT_VERSION}-${system}")
+set(LURULUDRI_PACKAGE "${PROJECT_NAME}-${PROJECT_VERSION}-${LURULUDRI_SYSTEM}")
 
 set(CPACK_VERBATIM_VARIABLES ON)
 set(CPACK_PACKAGE_FILE_NAME "${LURULUDRI_PACKAGE}")
@@ -30,7 +33,7 @@ configure_package_config_file(cmake/LuruludriConfig.cmake.in "${config}/Luruludr
                               INSTALL_DESTINATION lib/cmake/Luruludri NO_SET_AND_CHECK_MACRO
                               NO_CHECK_REQUIRED_COMPONENTS_MACRO)
 write_basic_package_version_file("${config}/LuruludriConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
-install(FILES "${config}/LuruludriConfig.cmake" "${config}/LuruludriConfigVersion.cmake"
+install(FILES "${config}/LuruludriConfig.cmake" "${config}/LuruludriConfigVersion.cmake" cmake/DebugHost.h
         DESTINATION lib/cmake/Luruludri)
 
 # The README, and the documents that it and they link.

@@ -35,7 +35,7 @@ expect_package() {
         {
             printf '%s\n' README.md bin/catalogue.json docs/host/{CMakeLists.txt,main.cpp} \
                 include/luruludri/{GameLocation,IGameFinder,IGameFinderFactory}.h \
-                lib/cmake/Luruludri/LuruludriConfig{,Version}.cmake "$@"
+                lib/cmake/Luruludri/{DebugHost.h,LuruludriConfig.cmake,LuruludriConfigVersion.cmake} "$@"
             (cd "$source" && printf '%s\n' docs/*.md)
         } | LC_ALL=C sort
     )"

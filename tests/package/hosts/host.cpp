@@ -1,0 +1,5 @@
+int host();
+
+int host() {
+    return 1;
+}
