@@ -17,7 +17,11 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 const QString logName = "Quorvan.Finders.EpicStore";
-const QString folderLine = "A: MetaDir Folder: " + manifestFolder;
+
+// A function, as the folder may be initialised after this file's own constants.
+QString folderLine() {
+    return "A: MetaDir Folder: " + manifestFolder;
+}
 
 class EpicManifestIndexTest : public ::testing::Test {
 protected:
@@ -45,7 +49,7 @@ TEST_F(EpicManifestIndexTest, ListsTheAppsOfTheRegisteredFolder) {
     EXPECT_EQ(first.LaunchExecutable, "game.exe");
     EXPECT_EQ(first.LaunchCommand, "-epic");
     EXPECT_THAT(pc.messages(logName),
-                ElementsAre(folderLine, "A:   App: Kiwi | Kiwi, the Game", "A:   App: Plum | Käfer 競走 %s"));
+                ElementsAre(folderLine(), "A:   App: Kiwi | Kiwi, the Game", "A:   App: Plum | Käfer 競走 %s"));
 }
 
 TEST_F(EpicManifestIndexTest, TheRegisteredFolderIsUsedAsItStands) {
@@ -111,7 +115,7 @@ TEST_F(EpicManifestIndexTest, DamagedManifestsCostOnlyThemselves) {
     addManifest(pc, "8.item", "\xEF\xBB\xBF" + manifestOf({"Quince", "Quince", "D:\\Quince"}));
     EXPECT_THAT(appNames(), ElementsAre("Kiwi", "Quince"));
     EXPECT_THAT(pc.messages(logName),
-                ElementsAre(folderLine, "A:   App: Kiwi | Kiwi", "W:   Skipped invalid manifest: 2 array.item",
+                ElementsAre(folderLine(), "A:   App: Kiwi | Kiwi", "W:   Skipped invalid manifest: 2 array.item",
                             "W:   Skipped invalid manifest: 3 cut.item", "W:   Skipped invalid manifest: 4 deep.item",
                             "W:   Skipped invalid manifest: 5 empty.item",
                             "W:   Skipped invalid manifest: 6 käfer 競走 %s.item",
@@ -122,14 +126,14 @@ TEST_F(EpicManifestIndexTest, SkippedManifestsAreNotToldAtLevelOne) {
     pc.number({RootKey::CurrentUser, "Software\\Veltrane\\" + logName, View::view32}, "LogLevel", 1);
     addManifest(pc, "1.item", "[]");
     EXPECT_THAT(appNames(), IsEmpty());
-    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine, "A: No apps"));
+    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine(), "A: No apps"));
 }
 
 TEST_F(EpicManifestIndexTest, AManifestThatNamesNeitherAppNorPlaceIsDroppedSilently) {
     addManifest(pc, "1.item", "{\"DisplayName\": \"Kiwi\", \"AppName\": \"\", \"InstallLocation\": 7}");
     addManifest(pc, "2.item", "{}");
     EXPECT_THAT(appNames(), IsEmpty());
-    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine, "A: No apps")) << "it does not count as an app";
+    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine(), "A: No apps")) << "it does not count as an app";
 }
 
 TEST_F(EpicManifestIndexTest, AnAppNameOrAPlaceIsEnough) {
@@ -137,7 +141,7 @@ TEST_F(EpicManifestIndexTest, AnAppNameOrAPlaceIsEnough) {
     addManifest(pc, "2.item", "{\"InstallLocation\": \"D:\\\\Plum\", \"DisplayName\": \"Plum\"}");
     EXPECT_THAT(appNames(), ElementsAre("Kiwi", ""));
     EXPECT_EQ(index.entries().back().InstallLocation, "D:\\Plum");
-    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine, "A:   App: Kiwi | ", "A:   App:  | Plum"));
+    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine(), "A:   App: Kiwi | ", "A:   App:  | Plum"));
 }
 
 TEST_F(EpicManifestIndexTest, OnlyFilesNamedItemAreManifests) {
@@ -148,7 +152,7 @@ TEST_F(EpicManifestIndexTest, OnlyFilesNamedItemAreManifests) {
     pc.folder(manifestFolder + "\\e.item");
     pc.file(manifestFolder + "\\Pending\\f.item", manifestOf({"Plum", "Plum", "D:\\Plum"}));
     EXPECT_THAT(appNames(), ElementsAre("Kiwi"));
-    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine, "A:   App: Kiwi | Kiwi"));
+    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine(), "A:   App: Kiwi | Kiwi"));
 }
 
 TEST_F(EpicManifestIndexTest, FindsEntriesByDisplayName) {
