@@ -43,13 +43,13 @@ LogFile::LogFile(const QByteArray& name, qint32 level, const LogFileOptions& opt
         ensureOpen();
     }
     // Level 0 switches off the rotation and the lines that have a level, not the file.
-    if (m_options.banners != LogFileOptions::Banners::None && ensureOpen()) {
+    if (m_options.bannerMode != LogFileOptions::BannerMode::None && ensureOpen()) {
         writeOpeningBanner();
     }
 }
 
 LogFile::~LogFile() {
-    if (m_file && m_options.banners != LogFileOptions::Banners::None) {
+    if (m_file && m_options.bannerMode != LogFileOptions::BannerMode::None) {
         writePrefix('A');
         m_file->write("============== LOG DESTROYED ==============\n");
         m_file->flush();
@@ -92,7 +92,7 @@ void LogFile::writeOpeningBanner() {
     writePrefix('A');
     m_file->write(
         QString::asprintf("PID: %lu\n", static_cast<unsigned long>(Platform::currentProcessId())).toStdString());
-    if (m_options.banners == LogFileOptions::Banners::BannersAndVersion) {
+    if (m_options.bannerMode == LogFileOptions::BannerMode::BannersAndVersion) {
         const FileVersion version = readFileVersion(hostExecutablePath());
         writePrefix('A');
         m_file->write(QString::asprintf("EXE Version: %hu.%hu.%hu.%hu\n", version.major, version.minor, version.build,

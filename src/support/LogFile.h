@@ -12,13 +12,13 @@
 /// How a log file is named, opened and framed. The defaults are the ones that this library uses.
 struct LogFileOptions {
     enum class Encoding { Plain = 0, Unicode = 1 };
-    enum class Banners { None = 0, Banners = 1, BannersAndVersion = 2 };
+    enum class BannerMode { None = 0, Banners = 1, BannersAndVersion = 2 };
 
     Encoding encoding =
         Encoding::Plain;            ///< Plain: UTF-8. Unicode: the C runtime's own, UTF-16LE with a byte-order mark
     bool appendProcessName = false; ///< whether the host executable's file name becomes part of the log's name
     bool truncate = false;          ///< whether the file starts empty; it is then not rotated
-    Banners banners = Banners::Banners;
+    BannerMode bannerMode = BannerMode::Banners;
     int folderKind = FolderKind::localAppData;
 };
 

@@ -53,9 +53,9 @@ protected:
 
     static QString pid() { return QString("A: PID: %1").arg(QCoreApplication::applicationPid()); }
 
-    static LogFileOptions options(LogFileOptions::Banners banners) {
+    static LogFileOptions options(LogFileOptions::BannerMode bannerMode) {
         LogFileOptions options;
-        options.banners = banners;
+        options.bannerMode = bannerMode;
         return options;
     }
 
@@ -72,7 +72,7 @@ TEST_F(LogFileTest, LiesInTheMakersFolderAndIsNamedAfterItsLogger) {
 }
 
 TEST_F(LogFileTest, ALineIsTheTimeTheLetterAndTheText) {
-    { LogFile("Test", 2, options(LogFileOptions::Banners::None)).writeLine('E', "Käfer 競走 \xF0\x9F\x8E\xAE"); }
+    { LogFile("Test", 2, options(LogFileOptions::BannerMode::None)).writeLine('E', "Käfer 競走 \xF0\x9F\x8E\xAE"); }
     const QByteArray log = read();
     const QRegularExpression line("^" + QString(timePattern) + "E: (.*)\r\n$");
     const QRegularExpressionMatch match = line.match(QString::fromUtf8(log));
@@ -82,7 +82,7 @@ TEST_F(LogFileTest, ALineIsTheTimeTheLetterAndTheText) {
 
 TEST_F(LogFileTest, TheTimeIsLocal) {
     const QDateTime before = QDateTime::currentDateTime();
-    { LogFile("Test", 2, options(LogFileOptions::Banners::None)).writeLine('A', "x"); }
+    { LogFile("Test", 2, options(LogFileOptions::BannerMode::None)).writeLine('A', "x"); }
     const QDateTime after = QDateTime::currentDateTime();
     const QDateTime written = QDateTime::fromString(QString::fromLatin1(read().left(23)), "yyyy:MM:dd_HH:mm:ss:zzz");
     EXPECT_GE(written.addMSecs(20), before);
@@ -91,7 +91,7 @@ TEST_F(LogFileTest, TheTimeIsLocal) {
 
 TEST_F(LogFileTest, IsFramedByBannersAndTheProcessId) {
     {
-        LogFile file("Test", 2, options(LogFileOptions::Banners::Banners));
+        LogFile file("Test", 2, options(LogFileOptions::BannerMode::Banners));
         EXPECT_THAT(lines(), ElementsAre(created, pid())) << "on disk at once";
         file.writeLine('A', "text");
         EXPECT_THAT(lines(), ElementsAre(created, pid(), "A: text")) << "on disk at once";
@@ -100,18 +100,18 @@ TEST_F(LogFileTest, IsFramedByBannersAndTheProcessId) {
 }
 
 TEST_F(LogFileTest, TheBannerCanNameTheHostsVersion) {
-    { const LogFile file("Test", 2, options(LogFileOptions::Banners::BannersAndVersion)); }
+    { const LogFile file("Test", 2, options(LogFileOptions::BannerMode::BannersAndVersion)); }
     EXPECT_THAT(lines(), ElementsAre(created, pid(), "A: EXE Version: 3.1.4159.65535", destroyed));
 }
 
 TEST_F(LogFileTest, CanDoWithoutBanners) {
-    { const LogFile file("Test", 2, options(LogFileOptions::Banners::None)); }
+    { const LogFile file("Test", 2, options(LogFileOptions::BannerMode::None)); }
     EXPECT_EQ(read(), "") << "opened all the same";
 }
 
 TEST_F(LogFileTest, WithoutBannersAndAtLevelZeroItIsOpenedByItsFirstLine) {
     {
-        LogFile file("Test", 0, options(LogFileOptions::Banners::None));
+        LogFile file("Test", 0, options(LogFileOptions::BannerMode::None));
         EXPECT_EQ(read(), "(missing)");
         file.writeLine('A', "text");
     }
