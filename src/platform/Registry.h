@@ -47,8 +47,8 @@ ErrorCode openKey(RootKey root, const QString& subKey, quint32 access, KeyHandle
 /// RegOpenKeyExA, for names in plain ASCII.
 ErrorCode openKeyNarrow(RootKey root, const char* subKey, quint32 access, KeyHandle& key);
 
-/// RegQueryValueExW. `size` is the buffer's size in bytes before, the value's size after; errorMoreData leaves the
-/// buffer alone, and so does a value of no bytes, which succeeds.
+/// RegQueryValueExW. `size` is the buffer's size in bytes before, the value's size after. After errorMoreData the
+/// buffer may hold anything; a value of no bytes, which succeeds, leaves it alone.
 ErrorCode queryValue(const KeyHandle& key, const QString& valueName, quint32& type, void* data, quint32& size);
 
 /// RegQueryValueExA: as above, but text comes in the ANSI code page.

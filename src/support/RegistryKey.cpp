@@ -54,10 +54,15 @@ bool RegistryKey::readDword(const char* valueName, quint32& value) {
         return false;
     }
     quint32 type = 0;
-    quint32 size = sizeof value;
-    m_status = Platform::queryValueNarrow(m_handle, valueName, type, &value, size);
-    m_traced.tellValue(QString::fromLatin1(valueName), m_status, type, &value, size);
-    return m_status == Platform::errorSuccess;
+    quint32 number = value; // not the caller's own, of which a query that fails may leave anything
+    quint32 size = sizeof number;
+    m_status = Platform::queryValueNarrow(m_handle, valueName, type, &number, size);
+    m_traced.tellValue(QString::fromLatin1(valueName), m_status, type, &number, size);
+    if (m_status != Platform::errorSuccess) {
+        return false;
+    }
+    value = number;
+    return true;
 }
 
 bool RegistryKey::readString(const QString& valueName, QString& value) {
