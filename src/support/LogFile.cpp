@@ -5,10 +5,10 @@
 #include "platform/Process.h"
 #include "support/FileVersion.h"
 #include "support/HostExecutable.h"
+#include "support/LogPrefix.h"
 #include "support/Paths.h"
 
 #include <array>
-#include <cstdio>
 
 namespace {
 
@@ -32,6 +32,10 @@ const char* modeOf(const LogFileOptions& options) {
     return options.truncate ? "wt" : "at";
 }
 
+void writePrefix(Platform::TextStream& file, char letter) noexcept {
+    file.write(logPrefix(Platform::localTime(), letter).data());
+}
+
 } // namespace
 
 LogFile::LogFile(const QByteArray& name, qint32 level, const LogFileOptions& options)
@@ -40,37 +44,45 @@ LogFile::LogFile(const QByteArray& name, qint32 level, const LogFileOptions& opt
     , m_path(pathOf(name, options)) {
     if (m_level > 0) {
         rotateWhenLarge();
-        ensureOpen();
+        openedFile();
     }
     // Level 0 switches off the rotation and the lines that have a level, not the file.
-    if (m_options.bannerMode != LogFileOptions::BannerMode::None && ensureOpen()) {
-        writeOpeningBanner();
+    if (!hasBanners()) {
+        return;
+    }
+    if (Platform::TextStream* const file = openedFile()) {
+        writeOpeningBanner(*file);
     }
 }
 
 LogFile::~LogFile() {
-    if (m_file && m_options.bannerMode != LogFileOptions::BannerMode::None) {
-        writePrefix('A');
-        m_file->write("============== LOG DESTROYED ==============\n");
-        m_file->flush();
+    Platform::TextStream* const file = m_file.get();
+    if (file && hasBanners()) {
+        writePrefix(*file, 'A');
+        file->write("============== LOG DESTROYED ==============\n");
+        file->flush();
     }
 }
 
 void LogFile::writeLine(char letter, const QByteArray& utf8) {
-    if (!ensureOpen()) {
+    Platform::TextStream* const file = openedFile();
+    if (!file) {
         return;
     }
-    writePrefix(letter);
-    m_file->write({utf8.constData(), static_cast<std::size_t>(utf8.size())});
-    m_file->write("\n");
-    m_file->flush();
+    writePrefix(*file, letter);
+    file->write({utf8.constData(), static_cast<std::size_t>(utf8.size())});
+    file->write("\n");
+    file->flush();
 }
 
-bool LogFile::ensureOpen() {
-    if (!m_file) {
-        m_file = Platform::openShared(m_path, modeOf(m_options));
-    }
-    return m_file != nullptr;
+bool LogFile::hasBanners() const noexcept {
+    return m_options.bannerMode == LogFileOptions::BannerMode::Banners ||
+           m_options.bannerMode == LogFileOptions::BannerMode::BannersAndVersion;
+}
+
+Platform::TextStream* LogFile::openedFile() {
+    Platform::TextStream* const file = m_file.get();
+    return file ? file : m_file.offer(Platform::openShared(m_path, modeOf(m_options)));
 }
 
 void LogFile::rotateWhenLarge() const {
@@ -86,27 +98,17 @@ void LogFile::rotateWhenLarge() const {
     }
 }
 
-void LogFile::writeOpeningBanner() {
-    writePrefix('A');
-    m_file->write("=============== LOG CREATED ===============\n");
-    writePrefix('A');
-    m_file->write(
-        QString::asprintf("PID: %lu\n", static_cast<unsigned long>(Platform::currentProcessId())).toStdString());
+void LogFile::writeOpeningBanner(Platform::TextStream& file) const {
+    writePrefix(file, 'A');
+    file.write("=============== LOG CREATED ===============\n");
+    writePrefix(file, 'A');
+    file.write(QString::asprintf("PID: %lu\n", static_cast<unsigned long>(Platform::currentProcessId())).toStdString());
     if (m_options.bannerMode == LogFileOptions::BannerMode::BannersAndVersion) {
         const FileVersion version = readFileVersion(hostExecutablePath());
-        writePrefix('A');
-        m_file->write(QString::asprintf("EXE Version: %hu.%hu.%hu.%hu\n", version.major, version.minor, version.build,
-                                        version.revision)
-                          .toStdString());
+        writePrefix(file, 'A');
+        file.write(QString::asprintf("EXE Version: %hu.%hu.%hu.%hu\n", version.major, version.minor, version.build,
+                                     version.revision)
+                       .toStdString());
     }
-    m_file->flush();
-}
-
-void LogFile::writePrefix(char letter) noexcept {
-    // On the stack, because the closing banner must come out even when memory has run out.
-    std::array<char, 64> prefix{};
-    const Platform::LocalTime time = Platform::localTime();
-    std::snprintf(prefix.data(), prefix.size(), "%04i:%02i:%02i_%02i:%02i:%02i:%03i %c: ", time.year, time.month,
-                  time.day, time.hour, time.minute, time.second, time.milliseconds, letter);
-    m_file->write(prefix.data());
+    file.flush();
 }

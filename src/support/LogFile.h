@@ -1,13 +1,12 @@
 #pragma once
 
 #include "platform/TextStream.h"
+#include "support/FirstOffered.h"
 #include "support/KnownFolders.h"
 
 #include <QByteArray>
 #include <QString>
 #include <QtGlobal>
-
-#include <memory>
 
 /// How a log file is named, opened and framed. The defaults are the ones that this library uses.
 struct LogFileOptions {
@@ -27,7 +26,8 @@ struct LogFileOptions {
 /// up to ".ba5".
 ///
 /// Every failure is silent, as there is nobody to tell. A file that could not be opened is tried again at every line.
-/// Has no lock; other processes may write to the same file.
+/// Has no lock: lines of several threads may interleave, and a file that opens late for several at once may be opened
+/// by each of them, to be closed again by all but one. Other processes may write to the same file.
 class LogFile {
 public:
     /// Opens the file and writes the opening banner. `name` is ASCII; `level` is 0 or below for a file that is not
@@ -48,12 +48,12 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(LogFile)
 
-    bool ensureOpen();
+    bool hasBanners() const noexcept;
     void rotateWhenLarge() const;
-    void writeOpeningBanner();
-    void writePrefix(char letter) noexcept;
+    Platform::TextStream* openedFile();
+    void writeOpeningBanner(Platform::TextStream& file) const;
 
-    std::unique_ptr<Platform::TextStream> m_file;
+    FirstOffered<Platform::TextStream> m_file;
     qint32 m_level;
     LogFileOptions m_options;
     QString m_path;

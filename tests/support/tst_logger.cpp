@@ -2,13 +2,17 @@
 
 #include "support/RegistryKey.h"
 
+#include "common/AtOnce.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "platform/Registry.h"
 
+#include <QDir>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <type_traits>
 
 namespace {
@@ -143,6 +147,23 @@ TEST_F(LoggerTest, TwoLoggersOfOneNameShareTheFile) {
     second.logAlways("2");
     first.logAlways("3");
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: 1", "A: 2", "A: 3"));
+}
+
+TEST_F(LoggerTest, ThreadsThatWriteAtOnceToAFileThatOpensLateLoseNoLine) {
+    const QString path = pc.logPath("Test");
+    ASSERT_TRUE(QDir().mkpath(path)) << "a folder is in the way";
+    {
+        Logger logger = Logger::create("Test");
+        ASSERT_TRUE(QDir().rmdir(path));
+        std::atomic<int> number{0};
+        callAtOnce([&] { logger.logAlways("<%d>", ++number); });
+    }
+    const QByteArray log = pc.log("Test");
+    for (int number = 1; number <= 16; ++number) {
+        EXPECT_EQ(log.count('<' + QByteArray::number(number) + '>'), 1) << log.toStdString();
+    }
+    EXPECT_EQ(log.count("LOG CREATED"), 0);
+    EXPECT_EQ(log.count("LOG DESTROYED"), 1);
 }
 
 } // namespace

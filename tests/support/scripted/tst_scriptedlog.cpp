@@ -1,0 +1,385 @@
+#include "support/LogFile.h"
+#include "support/Logger.h"
+
+#include "common/QtPrinters.h"
+#include "support/scripted/ScriptedSystem.h"
+
+#include <QDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <future>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using ::testing::ElementsAre;
+
+constexpr qint64 limit = 10'485'760;
+
+const QString folder = "C:\\Data\\Veltrane\\Logs";
+
+/// What became of one stream. Text is on the disk once it was flushed, and not by closing the stream.
+struct StreamRecord {
+    QByteArray given;
+    QByteArray onDisk;
+    bool isClosed = false;
+    std::function<void()> whileWriting;
+
+    /// The lines on the disk without their times.
+    QStringList lines() const {
+        constexpr int timeLength = 24;
+        QStringList lines = QString::fromUtf8(onDisk).split('\n', Qt::SkipEmptyParts);
+        for (QString& line : lines) {
+            line.remove(0, timeLength);
+        }
+        return lines;
+    }
+};
+
+class ScriptedStream final : public Platform::TextStream {
+public:
+    explicit ScriptedStream(std::shared_ptr<StreamRecord> record)
+        : m_record(std::move(record)) {}
+
+    ~ScriptedStream() override { m_record->isClosed = true; }
+
+    void write(std::string_view utf8) noexcept override {
+        const std::shared_ptr<StreamRecord> record = m_record; // which outlives this object, should that be destroyed
+        record->given.append(utf8.data(), static_cast<int>(utf8.size()));
+        if (record->whileWriting) {
+            record->whileWriting();
+        }
+    }
+
+    void flush() noexcept override { m_record->onDisk = m_record->given; }
+
+private:
+    Q_DISABLE_COPY_MOVE(ScriptedStream)
+
+    std::shared_ptr<StreamRecord> m_record;
+};
+
+class ScriptedLogTest : public ::testing::Test {
+protected:
+    ScriptedLogTest() {
+        system.ownFolderPath = [](int, char16_t* buffer) {
+            std::memcpy(buffer, u"C:\\Data", sizeof u"C:\\Data");
+            return 0;
+        };
+        system.createFolder = [this](const QString& path) { return told("create " + path); };
+        system.deleteFile = [this](const QString& path) { return told("delete " + named(path)); };
+        system.moveFile = [this](const QString& from, const QString& to) {
+            return told("move " + named(from) + " to " + named(to)) && canMove;
+        };
+        system.fileSize = [this](const QString& path) {
+            told("size " + named(path));
+            return size;
+        };
+        system.openShared = [this](const QString& path, const char* mode) {
+            told("open " + named(path) + ' ' + mode);
+            return stream();
+        };
+    }
+
+    bool told(const QString& question) {
+        asked.append(question);
+        return true;
+    }
+
+    static QString named(const QString& path) {
+        EXPECT_TRUE(path.startsWith(folder + '\\')) << path.toStdString();
+        return path.mid(folder.size() + 1);
+    }
+
+    std::unique_ptr<Platform::TextStream> stream() {
+        if (!canOpen) {
+            return nullptr;
+        }
+        streams.push_back(std::make_shared<StreamRecord>());
+        return std::make_unique<ScriptedStream>(streams.back());
+    }
+
+    static LogFileOptions options(LogFileOptions::BannerMode bannerMode) {
+        LogFileOptions options;
+        options.bannerMode = bannerMode;
+        return options;
+    }
+
+    ScriptedSystem system;
+    QStringList asked;
+    bool canMove = true;
+    bool canOpen = true;
+    qint64 size = -1;
+    std::vector<std::shared_ptr<StreamRecord>> streams;
+    const QString created = "A: =============== LOG CREATED ===============";
+    const QString destroyed = "A: ============== LOG DESTROYED ==============";
+};
+
+TEST_F(ScriptedLogTest, IsMadeInThisOrder) {
+    const LogFile file("Test", 2, {});
+    EXPECT_THAT(asked, ElementsAre("create " + folder, "size Test.log", "open Test.log at"));
+}
+
+TEST_F(ScriptedLogTest, IsOpenedInTheModeOfItsEncodingAndOfTruncate) {
+    using Encoding = LogFileOptions::Encoding;
+    const auto openedWith = [this](Encoding encoding, bool truncate) {
+        asked.clear();
+        LogFileOptions options;
+        options.encoding = encoding;
+        options.truncate = truncate;
+        const LogFile file("Test", 2, options);
+        return asked.last();
+    };
+    EXPECT_EQ(openedWith(Encoding::Plain, false), "open Test.log at");
+    EXPECT_EQ(openedWith(Encoding::Plain, true), "open Test.log wt");
+    EXPECT_EQ(openedWith(Encoding::Unicode, false), "open Test.log at, ccs=UNICODE");
+    EXPECT_EQ(openedWith(Encoding::Unicode, true), "open Test.log wt, ccs=UNICODE");
+    EXPECT_EQ(openedWith(static_cast<Encoding>(2), false), "open Test.log at") << "any other one is plain";
+}
+
+TEST_F(ScriptedLogTest, EachLineIsOnTheDiskWhenItIsWritten) {
+    {
+        LogFile file("Test", 2, {});
+        ASSERT_EQ(streams.size(), 1U);
+        EXPECT_EQ(streams[0]->lines().size(), 2) << "the banner and the process id";
+        file.writeLine('E', "first");
+        EXPECT_EQ(streams[0]->lines().last(), "E: first");
+        file.writeLine('W', "second");
+        EXPECT_EQ(streams[0]->lines().last(), "W: second");
+    }
+    EXPECT_EQ(streams[0]->lines().last(), destroyed);
+    EXPECT_EQ(streams[0]->onDisk, streams[0]->given);
+    EXPECT_TRUE(streams[0]->isClosed);
+}
+
+TEST_F(ScriptedLogTest, TheHostsVersionIsOnTheDiskWithTheBanner) {
+    const LogFile file("Test", 2, options(LogFileOptions::BannerMode::BannersAndVersion));
+    EXPECT_EQ(streams.at(0)->lines().last(), "A: EXE Version: 0.0.0.0");
+}
+
+TEST_F(ScriptedLogTest, AnUnknownBannerModeWritesNone) {
+    { LogFile("Test", 2, options(static_cast<LogFileOptions::BannerMode>(3))).writeLine('A', "text"); }
+    EXPECT_THAT(streams.at(0)->lines(), ElementsAre("A: text"));
+}
+
+TEST_F(ScriptedLogTest, RotatesFromTheOldestOn) {
+    size = limit + 1;
+    const LogFile file("Test", 2, {});
+    EXPECT_THAT(asked, ElementsAre("create " + folder, "size Test.log", //
+                                   "delete Test.log.ba5",               //
+                                   "move Test.log.ba4 to Test.log.ba5", //
+                                   "move Test.log.ba3 to Test.log.ba4", //
+                                   "move Test.log.ba2 to Test.log.ba3", //
+                                   "move Test.log.bak to Test.log.ba2", //
+                                   "move Test.log to Test.log.bak", "open Test.log at"));
+}
+
+TEST_F(ScriptedLogTest, AFileThatCannotBeMovedIsAddedTo) {
+    size = limit + 1;
+    canMove = false;
+    LogFile file("Test", 2, {});
+    EXPECT_EQ(asked.filter("move ").size(), 5) << "a move that failed stops no other one";
+    EXPECT_EQ(asked.last(), "open Test.log at");
+    file.writeLine('A', "text");
+    EXPECT_EQ(streams.at(0)->lines().last(), "A: text");
+}
+
+TEST_F(ScriptedLogTest, IsNotRotatedAtTheLimitNorWithoutAFile) {
+    for (const qint64 atMost : {limit, qint64(0), qint64(-1)}) {
+        asked.clear();
+        size = atMost;
+        const LogFile file("Test", 2, {});
+        EXPECT_THAT(asked, ElementsAre("create " + folder, "size Test.log", "open Test.log at")) << atMost;
+    }
+}
+
+TEST_F(ScriptedLogTest, AtLevelZeroOrBelowItsSizeIsNotAskedFor) {
+    size = limit + 1;
+    for (const qint32 level : {0, -1}) {
+        asked.clear();
+        const LogFile file("Test", level, {});
+        EXPECT_THAT(asked, ElementsAre("create " + folder, "open Test.log at")) << level;
+    }
+}
+
+TEST_F(ScriptedLogTest, WithTruncateItsSizeIsNotAskedFor) {
+    size = limit + 1;
+    LogFileOptions options;
+    options.truncate = true;
+    const LogFile file("Test", 2, options);
+    EXPECT_THAT(asked, ElementsAre("create " + folder, "open Test.log wt"));
+}
+
+TEST_F(ScriptedLogTest, AtLevelZeroWithoutBannersItsFirstLineOpensItInItsMode) {
+    LogFileOptions options;
+    options.truncate = true;
+    options.encoding = LogFileOptions::Encoding::Unicode;
+    options.bannerMode = LogFileOptions::BannerMode::None;
+    LogFile file("Test", 0, options);
+    EXPECT_THAT(asked, ElementsAre("create " + folder));
+    file.writeLine('A', "text");
+    file.writeLine('A', "more");
+    EXPECT_THAT(asked, ElementsAre("create " + folder, "open Test.log wt, ccs=UNICODE"));
+}
+
+TEST_F(ScriptedLogTest, EveryLineTriesAFileThatCannotBeOpenedOnceMore) {
+    canOpen = false;
+    LogFile file("Test", 2, {});
+    EXPECT_EQ(asked.filter("open ").size(), 2) << "by itself, and for the banner";
+    file.writeLine('A', "lost");
+    EXPECT_EQ(asked.filter("open ").size(), 3);
+    canOpen = true;
+    file.writeLine('A', "written");
+    file.writeLine('A', "more");
+    EXPECT_EQ(asked.filter("open ").size(), 4);
+    EXPECT_EQ(asked.last(), "open Test.log at");
+    EXPECT_THAT(streams.at(0)->lines(), ElementsAre("A: written", "A: more"));
+}
+
+TEST_F(ScriptedLogTest, AFileThatOpensForItsBannerHasOne) {
+    system.openShared = [this](const QString& path, const char* mode) {
+        told("open " + named(path) + ' ' + mode);
+        return asked.filter("open ").size() == 2 ? stream() : nullptr;
+    };
+    const LogFile file("Test", 2, {});
+    EXPECT_EQ(streams.at(0)->lines().first(), created);
+}
+
+TEST_F(ScriptedLogTest, WithoutALocalFolderItLiesAtTheRootOfTheDrive) {
+    system.ownFolderPath = [](int, char16_t* buffer) {
+        std::memcpy(buffer, u"C:\\No", sizeof u"C:\\No"); // of no account, as the call fails
+        return -1;
+    };
+    const QChar separator = QDir::separator();
+    const QString expected = separator + QString("Veltrane") + separator + "Logs";
+    QString opened;
+    asked.clear();
+    system.fileSize = [](const QString&) { return -1; };
+    system.openShared = [&](const QString& path, const char*) {
+        opened = path;
+        return stream();
+    };
+    const LogFile file("Test", 2, {});
+    EXPECT_THAT(asked, ElementsAre("create " + expected));
+    EXPECT_EQ(opened, expected + separator + "Test.log");
+}
+
+// The second thread is about to open the file when the first one has opened it and is writing.
+TEST_F(ScriptedLogTest, TheThreadThatOpensAFileSecondLeavesTheFirstOnesStreamAlone) {
+    LogFileOptions options;
+    options.bannerMode = LogFileOptions::BannerMode::None;
+    canOpen = false;
+    LogFile file("Test", 2, options);
+    canOpen = true;
+
+    const std::thread::id mainThread = std::this_thread::get_id();
+    std::promise<void> secondIsOpening;
+    std::promise<void> firstIsWriting;
+    std::promise<void> secondHasWritten;
+    bool isFirstPiece = true;
+    const auto letTheOtherWrite = [&] {
+        if (std::exchange(isFirstPiece, false)) {
+            firstIsWriting.set_value();
+            secondHasWritten.get_future().wait();
+            EXPECT_FALSE(streams.at(0)->isClosed) << "while a thread writes to it";
+        }
+    };
+    system.openShared = [&](const QString&, const char*) {
+        if (std::this_thread::get_id() != mainThread) {
+            secondIsOpening.set_value();
+            firstIsWriting.get_future().wait();
+            return stream();
+        }
+        auto opened = stream();
+        streams.back()->whileWriting = letTheOtherWrite;
+        return opened;
+    };
+    std::thread second([&] {
+        file.writeLine('A', "second");
+        secondHasWritten.set_value();
+    });
+    secondIsOpening.get_future().wait();
+    file.writeLine('A', "first");
+    second.join();
+
+    ASSERT_EQ(streams.size(), 2U);
+    EXPECT_FALSE(streams.at(0)->isClosed);
+    EXPECT_TRUE(streams.at(0)->onDisk.endsWith("A: second\nfirst\n")) << "between the pieces of the first one's line";
+    EXPECT_TRUE(streams.at(1)->isClosed);
+    EXPECT_EQ(streams.at(1)->given, "");
+}
+
+class ScriptedLoggerTest : public ScriptedLogTest {
+protected:
+    /// What is in "LogLevel" under one root: a result and the bytes that the buffer holds after it, which Windows
+    /// leaves undefined when the value is longer.
+    struct Level {
+        Platform::ErrorCode result = Platform::errorFileNotFound;
+        std::vector<unsigned char> bytes;
+    };
+
+    void have(const Level& user, const Level& machine) {
+        system.openKeyNarrow = [this](Platform::RootKey root, const QString& subKey, quint32 access) {
+            EXPECT_EQ(subKey, "Software\\Veltrane\\Test");
+            EXPECT_EQ(access, 0x20219U);
+            opened.push_back(root);
+            return Platform::errorSuccess;
+        };
+        system.queryValueNarrow = [this, user, machine](const QString& name, quint32&, void* data, quint32& length) {
+            EXPECT_EQ(name, "LogLevel");
+            EXPECT_EQ(length, 4U);
+            const Level& level = opened.back() == Platform::RootKey::CurrentUser ? user : machine;
+            std::memcpy(data, level.bytes.data(), level.bytes.size());
+            return level.result;
+        };
+    }
+
+    /// The letters of the lines that a logger writes.
+    QString letters() {
+        opened.clear();
+        streams.clear();
+        {
+            Logger logger = Logger::create("Test");
+            logger.logAlways("text");
+            logger.logError("text");
+            logger.logWarning("text");
+        }
+        QString letters;
+        for (const QString& line : streams.at(0)->lines().filter(": text")) {
+            letters += line.at(0);
+        }
+        return letters;
+    }
+
+    std::vector<Platform::RootKey> opened;
+    const Level tooLong{Platform::errorMoreData, {0, 0, 0, 0}};
+    const Level missing{};
+};
+
+TEST_F(ScriptedLoggerTest, ALevelThatIsTooLongLeavesTheDefaultWhateverItLeavesInTheBuffer) {
+    have(tooLong, missing);
+    EXPECT_EQ(letters(), "AEW");
+    EXPECT_THAT(opened, ElementsAre(Platform::RootKey::CurrentUser, Platform::RootKey::LocalMachine));
+    have(missing, tooLong);
+    EXPECT_EQ(letters(), "AEW");
+    have(tooLong, tooLong);
+    EXPECT_EQ(letters(), "AEW");
+}
+
+TEST_F(ScriptedLoggerTest, AUsersLevelThatIsTooLongHasNoPartInTheMachines) {
+    have({Platform::errorMoreData, {0xFF, 0xFF, 0xFF, 0xFF}}, {Platform::errorSuccess, {1}});
+    EXPECT_EQ(letters(), "AE") << "one byte, over those of the default";
+}
+
+TEST_F(ScriptedLoggerTest, TheMachineIsNotAskedWhereTheUserHasALevel) {
+    have({Platform::errorSuccess, {1, 0, 0, 0}}, {Platform::errorSuccess, {0, 0, 0, 0}});
+    EXPECT_EQ(letters(), "AE");
+    EXPECT_THAT(opened, ElementsAre(Platform::RootKey::CurrentUser));
+    EXPECT_EQ(system.openKeys, 0);
+}
+
+} // namespace
