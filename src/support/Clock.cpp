@@ -1,55 +1,57 @@
 #include "support/Clock.h"
 
 #include "platform/Clocks.h"
-#include "platform/SystemFunctions.h"
 
 namespace {
 
 constexpr quint64 millisecondsPerSecond = 1'000;
 constexpr quint64 microsecondsPerSecond = 1'000'000;
 
-using TickCount64 = quint64 (*)();
-
-/// GetTickCount64, which old systems lack; null there.
-TickCount64 tickCount64() {
-    static const auto kept = reinterpret_cast<TickCount64>(Platform::kernelFunction("GetTickCount64"));
-    return kept;
+quint64 frequencyOf(const Clock::Functions& functions) {
+    qint64 ticksPerSecond = 0;
+    return functions.performanceFrequency(ticksPerSecond) ? static_cast<quint64>(ticksPerSecond) : 0;
 }
 
-/// The performance counter's frequency; 0 when there is no counter.
-quint64 counterFrequency() {
-    static const quint64 kept = [] {
-        qint64 ticksPerSecond = 0;
-        return Platform::performanceFrequency(ticksPerSecond) ? static_cast<quint64>(ticksPerSecond) : 0;
-    }();
+const Clock& systemClock() {
+    static const Clock kept(
+        {Platform::performanceFrequency, Platform::performanceCounter, Platform::kernelFunction, Platform::tickCount});
     return kept;
-}
-
-quint64 now(quint64 unitsPerSecond) {
-    qint64 ticks = 0;
-    if (counterFrequency() > 0 && Platform::performanceCounter(ticks)) {
-        return Clock::scaled(static_cast<quint64>(ticks), counterFrequency(), unitsPerSecond);
-    }
-    const quint64 milliseconds = tickCount64() ? tickCount64()() : Platform::tickCount();
-    return milliseconds * (unitsPerSecond / millisecondsPerSecond);
 }
 
 } // namespace
 
-namespace Clock {
+Clock::Clock(const Functions& functions)
+    : m_functions(functions)
+    , m_tickCount64(reinterpret_cast<TickCount64>(functions.kernelFunction("GetTickCount64")))
+    , m_counterFrequency(frequencyOf(functions)) {}
 
-quint64 scaled(quint64 ticks, quint64 ticksPerSecond, quint64 unitsPerSecond) {
+quint64 Clock::milliseconds() const {
+    return now(millisecondsPerSecond);
+}
+
+quint64 Clock::microseconds() const {
+    return now(microsecondsPerSecond);
+}
+
+quint64 Clock::now(quint64 unitsPerSecond) const {
+    qint64 ticks = 0;
+    if (m_counterFrequency > 0 && m_functions.performanceCounter(ticks)) {
+        return scaled(static_cast<quint64>(ticks), m_counterFrequency, unitsPerSecond);
+    }
+    const quint64 milliseconds = m_tickCount64 ? m_tickCount64() : m_functions.tickCount();
+    return milliseconds * (unitsPerSecond / millisecondsPerSecond);
+}
+
+quint64 Clock::scaled(quint64 ticks, quint64 ticksPerSecond, quint64 unitsPerSecond) {
     const quint64 seconds = ticks / ticksPerSecond;
     const quint64 rest = ticks % ticksPerSecond;
     return seconds * unitsPerSecond + rest * unitsPerSecond / ticksPerSecond;
 }
 
-} // namespace Clock
-
 quint64 tickCountMs() {
-    return now(millisecondsPerSecond);
+    return systemClock().milliseconds();
 }
 
 quint64 tickCountUs() {
-    return now(microsecondsPerSecond);
+    return systemClock().microseconds();
 }

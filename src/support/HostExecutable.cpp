@@ -8,26 +8,21 @@
 
 namespace {
 
-struct HostExecutable {
-    QString path;
-    QString fileName;
-};
+const HostExecutable& hostExecutable() {
+    static const HostExecutable kept = HostExecutable::from(Platform::moduleFileName);
+    return kept;
+}
 
-HostExecutable askSystem() {
-    std::array<char16_t, Platform::maxPath + 1> buffer{};
-    if (Platform::moduleFileName(buffer.data(), Platform::maxPath) == 0) {
+} // namespace
+
+HostExecutable HostExecutable::from(ModuleFileName moduleFileName) {
+    std::array<char16_t, Platform::maxPath + 1> buffer{}; // with an end, also after a path that fills all of maxPath
+    if (moduleFileName(buffer.data(), Platform::maxPath) == 0) {
         return {};
     }
     const QString path = QString::fromUtf16(buffer.data());
     return {path, path.mid(path.lastIndexOf(Paths::separatorFor(path)) + 1)};
 }
-
-const HostExecutable& hostExecutable() {
-    static const HostExecutable kept = askSystem();
-    return kept;
-}
-
-} // namespace
 
 QString hostExecutablePath() {
     return hostExecutable().path;

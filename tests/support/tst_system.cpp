@@ -1,4 +1,3 @@
-#include "support/Clock.h"
 #include "support/FileVersion.h"
 #include "support/HostExecutable.h"
 #include "support/KnownFolders.h"
@@ -6,14 +5,9 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
-#include <QThread>
 
 #include <gtest/gtest.h>
-
-#include <limits>
 
 namespace {
 
@@ -33,13 +27,6 @@ TEST(KnownFolders, AFolderThatTheShellDoesNotKnowIsEmpty) {
     EXPECT_EQ(knownFolderPath(0x7F), "");
 }
 
-TEST(HostExecutable, IsTheProgramThatRuns) {
-    const TestPc pc;
-    EXPECT_EQ(hostExecutablePath(), QDir::toNativeSeparators(QCoreApplication::applicationFilePath()));
-    EXPECT_EQ(hostExecutableFileName(), QCoreApplication::applicationFilePath().section('/', -1));
-    EXPECT_TRUE(hostExecutableFileName().startsWith("tst_support"));
-}
-
 TEST(FileVersion, IsReadFromTheVersionResource) {
     const TestPc pc;
     const FileVersion version = readFileVersion(hostExecutablePath());
@@ -56,36 +43,6 @@ TEST(FileVersion, IsZeroWithoutAVersionResource) {
         const FileVersion version = readFileVersion(path);
         EXPECT_EQ(version.major + version.minor + version.build + version.revision, 0) << path;
     }
-}
-
-TEST(Clock, GoesForwardInBothUnits) {
-    QElapsedTimer timer;
-    timer.start();
-    const quint64 milliseconds = tickCountMs();
-    const quint64 microseconds = tickCountUs();
-    QThread::msleep(20);
-    const quint64 laterMicroseconds = tickCountUs();
-    const quint64 laterMilliseconds = tickCountMs();
-    const auto upperBound = static_cast<quint64>(timer.elapsed()) + 2;
-
-    EXPECT_GE(laterMilliseconds - milliseconds, 19U);
-    EXPECT_LE(laterMilliseconds - milliseconds, upperBound);
-    EXPECT_GE(laterMicroseconds - microseconds, 19'000U);
-    EXPECT_LE(laterMicroseconds - microseconds, upperBound * 1'000);
-}
-
-TEST(Clock, ScalesWholeSecondsAndTheRestApart) {
-    EXPECT_EQ(Clock::scaled(25'000'000, 10'000'000, 1'000), 2'500U);
-    EXPECT_EQ(Clock::scaled(25'000'000, 10'000'000, 1'000'000), 2'500'000U);
-    EXPECT_EQ(Clock::scaled(9, 10'000'000, 1'000'000), 0U);
-    EXPECT_EQ(Clock::scaled(3'579'546, 3'579'545, 1'000'000), 1'000'000U);
-}
-
-TEST(Clock, ScalesALargeReadingWithoutOverflow) {
-    // Ticks times a million would need 83 bits.
-    constexpr quint64 ticks = std::numeric_limits<qint64>::max();
-    EXPECT_EQ(Clock::scaled(ticks, 10'000'000, 1'000'000), ticks / 10);
-    EXPECT_EQ(Clock::scaled(ticks, 10'000'000, 1'000), ticks / 10'000);
 }
 
 } // namespace
