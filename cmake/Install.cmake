@@ -38,6 +38,8 @@ install(FILES "${config}/LuruludriConfig.cmake" "${config}/LuruludriConfigVersio
 
 # The README, and the documents that it and they link.
 file(GLOB documents CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/*.md")
+# Those for who changes the library cite its sources, which are not in the package.
+list(FILTER documents EXCLUDE REGEX "/(architecture|testing|performance)\\.md$")
 install(FILES README.md DESTINATION .)
 install(FILES ${documents} DESTINATION docs)
 install(FILES docs/host/CMakeLists.txt docs/host/main.cpp DESTINATION docs/host)
