@@ -18,11 +18,8 @@ QString pathOf(const QByteArray& name, const LogFileOptions& options) {
     const QString folder = makeMakerFolderPath(options.folderKind, QStringLiteral("Logs"));
     Platform::createFolder(folder);
 
-    QString path = Paths::join(folder, QString::fromLatin1(name));
-    if (options.appendProcessName && !hostExecutableFileName().isEmpty()) {
-        path += QLatin1Char('_') + hostExecutableFileName();
-    }
-    return path + QLatin1String(".log");
+    const QString processName = options.appendProcessName ? hostExecutableFileName() : QString();
+    return Paths::join(folder, logFileName(name, processName));
 }
 
 const char* modeOf(const LogFileOptions& options) {
@@ -37,6 +34,11 @@ void writePrefix(Platform::TextStream& file, char letter) noexcept {
 }
 
 } // namespace
+
+QString logFileName(const QByteArray& name, const QString& processName) {
+    const QString suffix = processName.isEmpty() ? QString() : QLatin1Char('_') + processName;
+    return QString::fromLatin1(name) + suffix + QLatin1String(".log");
+}
 
 LogFile::LogFile(const QByteArray& name, qint32 level, const LogFileOptions& options)
     : m_level(level)

@@ -21,6 +21,9 @@ struct LogFileOptions {
     int folderKind = FolderKind::localAppData;
 };
 
+/// The name of the file of the log `name`: `processName` after a "_", if it is not empty, and ".log".
+QString logFileName(const QByteArray& name, const QString& processName);
+
 /// One log file: a text file with CR LF line ends in the folder Veltrane\Logs, named after its logger, opened once and
 /// kept open. A file of more than 10 MiB is moved to ".bak" before it is opened, after ".bak" went to ".ba2" and so on
 /// up to ".ba5".

@@ -9,6 +9,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 
 #include <gmock/gmock.h>
@@ -132,6 +133,11 @@ TEST_F(LogFileTest, CanCarryTheHostsName) {
     EXPECT_TRUE(QFile::exists(file.path()));
 }
 
+TEST_F(LogFileTest, AHostWithoutANameAddsNothingToItsName) {
+    EXPECT_EQ(logFileName("Quorvan.Finders", "host.exe"), "Quorvan.Finders_host.exe.log");
+    EXPECT_EQ(logFileName("Quorvan.Finders", ""), "Quorvan.Finders.log");
+}
+
 TEST_F(LogFileTest, LiesInTheFolderOfItsKind) {
     for (const int kind : {FolderKind::localAppData, FolderKind::commonAppData, FolderKind::personal, 3}) {
         LogFileOptions options;
@@ -190,6 +196,42 @@ TEST_F(LogFileTest, IsNotRotatedWhileItGrows) {
     ASSERT_TRUE(QFile::resize(path(), limit + 1));
     file.writeLine('A', "text");
     EXPECT_EQ(read(".bak"), "(missing)");
+}
+
+TEST_F(LogFileTest, RotationLosesNothingOfAFileThatAnotherLoggerHolds) {
+    LogFile holder("Test", 2, {});
+    ASSERT_TRUE(QFile::resize(path(), limit + 1));
+    {
+        LogFile second("Test", 2, {});
+        second.writeLine('A', "second");
+        holder.writeLine('A', "holder");
+        const QByteArray both = read(".bak") + read();
+        EXPECT_EQ(both.count("LOG CREATED"), 2);
+        EXPECT_EQ(both.count("A: second\r\n"), 1);
+        EXPECT_EQ(both.count("A: holder\r\n"), 1);
+    }
+    EXPECT_EQ((read(".bak") + read()).count("LOG DESTROYED"), 1);
+}
+
+TEST_F(LogFileTest, RotationLosesNothingOfAFileThatAnotherProcessHolds) {
+    QProcess holder;
+    holder.start(LURULUDRI_LOGHOLDER, QStringList());
+    ASSERT_TRUE(holder.waitForReadyRead()) << holder.errorString().toStdString();
+    ASSERT_TRUE(read().contains("A: from another process\r\n"));
+    {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::Append)); // a line of the size that rotates it
+        ASSERT_EQ(file.write(QByteArray(limit, 'x') + "\r\n"), limit + 2);
+    }
+    { LogFile("Test", 2, {}).writeLine('A', "second"); }
+    holder.closeWriteChannel();
+    ASSERT_TRUE(holder.waitForFinished());
+    const QByteArray both = read(".bak") + read();
+    EXPECT_EQ(both.count("A: from another process\r\n"), 1);
+    EXPECT_EQ(both.count(QByteArray(limit, 'x')), 1);
+    EXPECT_EQ(both.count("A: second\r\n"), 1);
+    EXPECT_EQ(both.count("LOG CREATED"), 2);
+    EXPECT_EQ(both.count("LOG DESTROYED"), 2);
 }
 
 TEST_F(LogFileTest, IsNotRotatedAtLevelZeroOrBelow) {

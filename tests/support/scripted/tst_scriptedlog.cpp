@@ -12,6 +12,7 @@
 #include <cstring>
 #include <future>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -315,11 +316,13 @@ TEST_F(ScriptedLogTest, TheThreadThatOpensAFileSecondLeavesTheFirstOnesStreamAlo
 
 class ScriptedLoggerTest : public ScriptedLogTest {
 protected:
+    using Bytes = std::vector<unsigned char>;
+
     /// What is in "LogLevel" under one root: a result and the bytes that the buffer holds after it, which Windows
     /// leaves undefined when the value is longer.
     struct Level {
         Platform::ErrorCode result = Platform::errorFileNotFound;
-        std::vector<unsigned char> bytes;
+        Bytes bytes;
     };
 
     void have(const Level& user, const Level& machine) {
@@ -380,6 +383,31 @@ TEST_F(ScriptedLoggerTest, TheMachineIsNotAskedWhereTheUserHasALevel) {
     EXPECT_EQ(letters(), "AE");
     EXPECT_THAT(opened, ElementsAre(Platform::RootKey::CurrentUser));
     EXPECT_EQ(system.openKeys, 0);
+}
+
+TEST_F(ScriptedLoggerTest, ALineThatTheLevelKeepsOutDoesNotOpenTheFile) {
+    have({Platform::errorSuccess, {1, 0, 0, 0}}, {});
+    canOpen = false;
+    Logger logger = Logger::create("Test");
+    asked.clear();
+    logger.logWarning("text");
+    EXPECT_TRUE(asked.isEmpty());
+    logger.logError("text");
+    EXPECT_THAT(asked, ElementsAre("open Test.log at"));
+}
+
+TEST_F(ScriptedLoggerTest, EachLevelHasItsLines) {
+    const std::vector<std::pair<Bytes, QString>> levels{{{0, 0, 0, 0x80}, "A"},
+                                                        {{0xFF, 0xFF, 0xFF, 0xFF}, "A"},
+                                                        {{0, 0, 0, 0}, "A"},
+                                                        {{1, 0, 0, 0}, "AE"},
+                                                        {{2, 0, 0, 0}, "AEW"},
+                                                        {{3, 0, 0, 0}, "AEW"},
+                                                        {{0xFF, 0xFF, 0xFF, 0x7F}, "AEW"}};
+    for (const auto& [bytes, expected] : levels) {
+        have({Platform::errorSuccess, bytes}, {});
+        EXPECT_EQ(letters(), expected);
+    }
 }
 
 } // namespace
