@@ -22,6 +22,9 @@ struct TestKey {
 /// Paths are Windows' own ("C:\\Games\\X"). Drives C, D and E exist.
 class TestPc {
 public:
+    /// False on a PC that nobody has said may be written to. Tests then are not to be run at all.
+    static bool mayBeChanged();
+
     TestPc();
     ~TestPc();
 
