@@ -44,10 +44,15 @@ install(FILES README.md DESTINATION .)
 install(FILES ${documents} DESTINATION docs)
 install(FILES docs/host/CMakeLists.txt docs/host/main.cpp DESTINATION docs/host)
 
-if(LURULUDRI_QT_WINDOWS)
-    # Windows has no Qt of its own. What is made by others travels with what they ask for.
+# Windows has no Qt of its own. What is made by others travels with what they ask for.
+if(WIN32)
     install(FILES $<TARGET_FILE:Qt5::Core> DESTINATION bin)
-
+endif()
+if(MSVC)
+    set(notices "${CMAKE_CURRENT_BINARY_DIR}/THIRD-PARTY-NOTICES.txt")
+    configure_file(windows/msvc/notices.txt.in "${notices}" @ONLY NEWLINE_STYLE CRLF)
+    install(FILES "${notices}" windows/msvc/LGPL-3.txt windows/msvc/GPL-3.txt DESTINATION .)
+elseif(WIN32)
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
     set(notices "${CMAKE_CURRENT_BINARY_DIR}/THIRD-PARTY-NOTICES.txt")
     add_custom_command(

@@ -3,7 +3,9 @@
 add_library(luruludri_warnings INTERFACE)
 
 if(MSVC)
-    target_compile_options(luruludri_warnings INTERFACE /W4 /utf-8 /permissive- $<$<BOOL:${LURULUDRI_WERROR}>:/WX>)
+    # /EHc-: CMake's /EHsc would take it that no extern "C" function throws, but `Create` may, for want of memory.
+    set(options /W4 /utf-8 /permissive- /EHc- $<$<BOOL:${LURULUDRI_WERROR}>:/WX>)
+    target_compile_options(luruludri_warnings INTERFACE "$<$<COMPILE_LANGUAGE:C,CXX>:${options}>")
 else()
     target_compile_options(
         luruludri_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
