@@ -9,13 +9,8 @@
 
 namespace {
 
-/// The "steamapps" folders of all libraries, whether they exist or not. Empty when there is no Steam client.
-QStringList libraryFolders(Logger& logger) {
-    const QString steam = findSteamExecutable(logger);
-    if (steam.isEmpty()) {
-        logger.logAlways("Steam.exe not found");
-        return {};
-    }
+/// The "steamapps" folders of all libraries of this client, whether they exist or not.
+QStringList libraryFolders(const QString& steam) {
     const QString main = Paths::absoluteFolderOf(steam) + QLatin1String("/steamapps");
     QStringList folders{main};
     folders += parseLibraryFolders(main + QLatin1String("/libraryfolders.vdf"));
@@ -37,6 +32,21 @@ void readApps(const QString& folder, std::list<SteamAppEntry>& entries, Logger& 
     }
 }
 
+void readLibraries(std::list<SteamAppEntry>& entries, Logger& logger) {
+    const QString steam = findSteamExecutable(logger);
+    if (steam.isEmpty()) {
+        logger.logAlways("Steam.exe not found");
+        return;
+    }
+    const QStringList folders = libraryFolders(steam);
+    for (const QString& folder : folders) {
+        readApps(folder, entries, logger);
+    }
+    if (entries.empty()) {
+        logger.logAlways("No App ID");
+    }
+}
+
 } // namespace
 
 const std::list<SteamAppEntry>& SteamLibraryIndex::entries() {
@@ -54,13 +64,7 @@ const SteamLibraryIndex::Catalogue& SteamLibraryIndex::catalogue() {
 void SteamLibraryIndex::build(Catalogue& catalogue) {
     Trace::IndexSection section("SteamLibraries");
     Logger logger = Logger::create("Quorvan.Finders.SteamGames");
-    const QStringList folders = libraryFolders(logger);
-    for (const QString& folder : folders) {
-        readApps(folder, catalogue.entries, logger);
-    }
-    if (catalogue.entries.empty()) {
-        logger.logAlways("No App ID");
-    }
+    readLibraries(catalogue.entries, logger);
     for (const SteamAppEntry& entry : catalogue.entries) {
         catalogue.appIds.add(entry.appId, entry);
         Trace::entry(entry.appId, entry.commonFolder);
