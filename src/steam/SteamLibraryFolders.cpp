@@ -22,7 +22,7 @@ std::optional<QString> libraryIn(const QString& line) {
 } // namespace
 
 QStringList parseLibraryFolders(const QString& vdfPath) {
-    const QString text = QString::fromUtf8(Files::readAll(vdfPath).constData()); // up to the first 0
+    const QString text = QString::fromUtf8(Files::readWholeFile(vdfPath).constData()); // up to the first 0
     QStringList folders;
     const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (const QString& line : lines) {

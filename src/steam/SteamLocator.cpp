@@ -11,15 +11,28 @@
 
 namespace {
 
+/// A value that may name the client.
+struct SteamExeRegistrySource {
+    bool is32Bit; ///< the view
+    quint32 hive;
+    const char16_t* keyPath;
+    const char16_t* valueName; ///< empty for the key's default value
+};
+
 constexpr auto urlHandler = u"steam\\Shell\\Open\\Command";
 constexpr auto uninstallKey = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Steam";
 
-constexpr RegistrySource sources[] = {
-    {View::view32, Hive::classesRoot, urlHandler, u""},
-    {View::view64, Hive::classesRoot, urlHandler, u""},
-    {View::view32, Hive::localMachine, uninstallKey, u"UninstallString"},
-    {View::view64, Hive::localMachine, uninstallKey, u"UninstallString"},
+constexpr SteamExeRegistrySource sources[] = {
+    {true, Hive::classesRoot, urlHandler, u""},
+    {false, Hive::classesRoot, urlHandler, u""},
+    {true, Hive::localMachine, uninstallKey, u"UninstallString"},
+    {false, Hive::localMachine, uninstallKey, u"UninstallString"},
 };
+
+QString commandIn(const SteamExeRegistrySource& source) {
+    return readRegistryString(
+        {source.is32Bit ? View::view32 : View::view64, source.hive, source.keyPath, source.valueName});
+}
 
 /// The executable that a registered command starts, or that lies beside the uninstaller which it starts. The order of
 /// the steps matters; arguments that they do not know make a path that does not exist.
@@ -41,8 +54,8 @@ QString findThroughStartMenu(Logger& logger) {
 } // namespace
 
 QString findSteamExecutable(Logger& logger) {
-    for (const RegistrySource& source : sources) {
-        const QString command = readRegistryString(source);
+    for (const SteamExeRegistrySource& source : sources) {
+        const QString command = commandIn(source);
         if (command.isEmpty()) {
             continue;
         }

@@ -27,7 +27,7 @@ QString manifestFolder() {
 }
 
 void readManifest(const QDir& folder, const QString& name, std::list<EpicAppEntry>& entries, Logger& logger) {
-    std::optional<EpicAppEntry> entry = parseEpicManifest(Files::readAll(folder.filePath(name)));
+    std::optional<EpicAppEntry> entry = parseEpicManifest(Files::readWholeFile(folder.filePath(name)));
     if (!entry) {
         logger.logWarning("  Skipped invalid manifest: %ls", qUtf16Printable(name));
         return;

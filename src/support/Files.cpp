@@ -44,7 +44,7 @@ QStringList names(const QString& folder, const QString& pattern) {
     return names;
 }
 
-QByteArray readAll(const QString& path) {
+QByteArray readWholeFile(const QString& path) {
     QFile file(path);
     const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (Trace::isOn()) {

@@ -20,7 +20,7 @@ bool folderExists(const QDir& folder);
 QStringList names(const QString& folder, const QString& pattern);
 
 /// All bytes of a file; empty when it is missing or can't be opened.
-QByteArray readAll(const QString& path);
+QByteArray readWholeFile(const QString& path);
 
 /// Where a shortcut leads, with forward slashes; empty when it leads nowhere.
 QString shortcutTarget(const QString& path);

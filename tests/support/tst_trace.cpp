@@ -94,7 +94,7 @@ TEST(Trace, TellsWhichFilesAreLookedForAndListedAndRead) {
     Files::exists("C:\\Luruludri Test\\a.acf");
     Files::folderExists(QDir("C:\\Luruludri Test\\b"));
     Files::names("C:\\Luruludri Test", "*.acf");
-    Files::readAll("C:\\Luruludri Test\\a.acf");
+    Files::readWholeFile("C:\\Luruludri Test\\a.acf");
     const std::vector<QJsonObject> events = trace.events();
     ASSERT_EQ(events.size(), 4U);
     EXPECT_EQ(events[0], QJsonObject({{"event", "exists"}, {"path", "C:\\Luruludri Test\\a.acf"}, {"found", true}}));
