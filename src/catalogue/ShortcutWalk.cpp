@@ -1,7 +1,5 @@
 #include "catalogue/ShortcutWalk.h"
 
-#include "platform/Listing.h"
-#include "support/Clock.h"
 #include "support/Paths.h"
 #include "support/Trace.h"
 
@@ -22,19 +20,6 @@ struct Folder {
 
 QString pathIn(const QString& folder, const QString& name) {
     return folder.endsWith(Paths::separatorFor(folder)) ? folder + name : Paths::join(folder, name);
-}
-
-/// Also true when it can't be told, as such a folder can't be listed either.
-bool leadsBack(const QString& link, const QStringList& way) {
-    Platform::FileIdentity target;
-    if (!Platform::fileIdentity(link, target)) {
-        return true;
-    }
-    return std::any_of(way.begin(), way.end(), [&target](const QString& folder) {
-        Platform::FileIdentity identity;
-        return Platform::fileIdentity(folder, identity) && identity.volume == target.volume &&
-               identity.index == target.index;
-    });
 }
 
 bool namesItself(const Platform::FolderEntry& entry) {
@@ -86,8 +71,9 @@ WalkTrace::~WalkTrace() {
 
 class ShortcutWalk {
 public:
-    explicit ShortcutWalk(quint64 limitMs)
-        : m_limitMs(limitMs) {}
+    ShortcutWalk(quint64 limitMs, const WalkSource& source)
+        : m_source(source)
+        , m_limitMs(limitMs) {}
 
     /// False when the time ran out.
     bool walk(const QString& root);
@@ -98,11 +84,13 @@ private:
     bool visit(const Folder& folder);
     void take(const Platform::FolderEntry& entry, const QString& path);
     bool isToBeWalked(const Platform::FolderEntry& entry, const QString& path, const QStringList& way) const;
+    bool leadsBack(const QString& link, const QStringList& way) const;
 
-    bool isTimeOver() const { return tickCountMs() - m_start >= m_limitMs; }
+    bool isTimeOver() const { return m_source.clockMs() - m_start >= m_limitMs; }
 
+    const WalkSource& m_source;
     quint64 m_limitMs;
-    quint64 m_start = tickCountMs();
+    quint64 m_start = m_source.clockMs();
     std::vector<Folder> m_pending; ///< the next one is the last
     QStringList m_shortcuts;
 };
@@ -124,8 +112,8 @@ bool ShortcutWalk::visit(const Folder& folder) {
     std::vector<Folder> folders;
     WalkTrace trace(folder.path);
     Platform::FolderEntry entry;
-    const Platform::ListingHandle listing = Platform::firstEntry(folder.path, entry);
-    for (bool isThere = listing != nullptr; isThere; isThere = Platform::nextEntry(listing, entry)) {
+    const Platform::ListingHandle listing = m_source.firstEntry(folder.path, entry);
+    for (bool isThere = listing != nullptr; isThere; isThere = m_source.nextEntry(listing, entry)) {
         if (isTimeOver()) {
             return false;
         }
@@ -137,7 +125,7 @@ bool ShortcutWalk::visit(const Folder& folder) {
         }
     }
     m_pending.insert(m_pending.end(), folders.rbegin(), folders.rend());
-    return true;
+    return !isTimeOver(); // as well when the listing's end, or its failure, is what took long
 }
 
 void ShortcutWalk::take(const Platform::FolderEntry& entry, const QString& path) {
@@ -157,10 +145,23 @@ bool ShortcutWalk::isToBeWalked(const Platform::FolderEntry& entry, const QStrin
     return (entry.attributes & Platform::attributeLink) == 0 || !leadsBack(path, way);
 }
 
+/// Also true when it can't be told, as such a folder can't be listed either.
+bool ShortcutWalk::leadsBack(const QString& link, const QStringList& way) const {
+    Platform::FileIdentity target;
+    if (!m_source.fileIdentity(link, target)) {
+        return true;
+    }
+    return std::any_of(way.begin(), way.end(), [this, &target](const QString& folder) {
+        Platform::FileIdentity identity;
+        return m_source.fileIdentity(folder, identity) && identity.volume == target.volume &&
+               identity.index == target.index;
+    });
+}
+
 } // namespace
 
-QStringList shortcutsBelow(const QString& folder, quint64 limitMs) {
-    ShortcutWalk walk(limitMs);
+QStringList shortcutsBelow(const QString& folder, quint64 limitMs, const WalkSource& source) {
+    ShortcutWalk walk(limitMs, source);
     const bool isComplete = !folder.isEmpty() && walk.walk(Paths::toNative(folder));
     if (!isComplete && !folder.isEmpty()) {
         Trace::note("%ls took too long to walk, so its shortcuts are left out.", qUtf16Printable(folder));

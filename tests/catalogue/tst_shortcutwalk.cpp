@@ -1,10 +1,13 @@
 #include "catalogue/ShortcutWalk.h"
 
+#include "catalogue/TestWalk.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <map>
 
 namespace {
 
@@ -137,6 +140,128 @@ TEST(ShortcutWalkTest, AWalkThatTakesTooLongHasNone) {
     TestPc pc;
     pc.file("C:\\Menu\\a.lnk");
     EXPECT_THAT(shortcutsBelow("C:\\Menu", 0), IsEmpty());
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, clockShowing({100, 30'099})), ElementsAre("C:\\Menu\\a.lnk"));
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, clockShowing({100, 30'100})), IsEmpty());
+}
+
+/// A walk on a PC where some of what is asked takes the whole time.
+class SlowWalkTest : public ::testing::Test {
+protected:
+    SlowWalkTest() {
+        pc.file("C:\\Menu\\a.lnk");
+        pc.file("C:\\Menu\\Sub\\b.lnk");
+        source.clockMs = [this] { return now; };
+    }
+
+    TestPc pc;
+    quint64 now = 0;
+    WalkSource source;
+};
+
+TEST_F(SlowWalkTest, ASlowEndOfTheLastListingCostsAllShortcuts) {
+    quint64 timeOfTheEnd = limitMs - 1;
+    source.nextEntry = [&](const Platform::ListingHandle& listing, Platform::FolderEntry& entry) {
+        const bool isThere = Platform::nextEntry(listing, entry);
+        now = isThere ? now : timeOfTheEnd;
+        return isThere;
+    };
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, source), ElementsAre("C:\\Menu\\a.lnk", "C:\\Menu\\Sub\\b.lnk"));
+    now = 0;
+    timeOfTheEnd = limitMs;
+    pc.removeFile("C:\\Menu\\Sub\\b.lnk");
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, source), IsEmpty());
+}
+
+TEST_F(SlowWalkTest, AListingThatFailsSlowlyCostsAllShortcuts) {
+    quint64 timeOfTheFailure = limitMs - 1;
+    source.firstEntry = [&](const QString& folder, Platform::FolderEntry& entry) {
+        if (folder.endsWith("Sub")) {
+            now = timeOfTheFailure;
+            return Platform::ListingHandle();
+        }
+        return Platform::firstEntry(folder, entry);
+    };
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, source), ElementsAre("C:\\Menu\\a.lnk"));
+    now = 0;
+    timeOfTheFailure = limitMs;
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, source), IsEmpty());
+}
+
+TEST_F(SlowWalkTest, WhenTheTimeIsOverNothingMoreIsAsked) {
+    QStringList asked;
+    source.firstEntry = [&](const QString& folder, Platform::FolderEntry& entry) {
+        asked.append(folder);
+        now = limitMs;
+        return Platform::firstEntry(folder, entry);
+    };
+    source.nextEntry = [&](const Platform::ListingHandle&, Platform::FolderEntry&) {
+        asked.append("next");
+        return false;
+    };
+    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, source), IsEmpty());
+    EXPECT_THAT(asked, ElementsAre("C:\\Menu"));
+}
+
+/// A walk where the folders named "link" are links, to whatever the test says.
+class LinkWalkTest : public ::testing::Test {
+protected:
+    LinkWalkTest() {
+        pc.file("C:\\Menu\\A\\link\\x.lnk");
+        source.firstEntry = [](const QString& folder, Platform::FolderEntry& entry) {
+            Platform::ListingHandle listing = Platform::firstEntry(folder, entry);
+            markLink(entry);
+            return listing;
+        };
+        source.nextEntry = [](const Platform::ListingHandle& listing, Platform::FolderEntry& entry) {
+            const bool isThere = Platform::nextEntry(listing, entry);
+            markLink(entry);
+            return isThere;
+        };
+        source.fileIdentity = [this](const QString& path, Platform::FileIdentity& identity) {
+            asked.append(path);
+            const auto known = identities.find(path);
+            identity = known == identities.end() ? Platform::FileIdentity{} : known->second;
+            return known != identities.end();
+        };
+    }
+
+    static void markLink(Platform::FolderEntry& entry) {
+        entry.attributes |= entry.name == "link" ? Platform::attributeLink : 0U;
+    }
+
+    QStringList walk() { return shortcutsBelow("C:\\Menu", limitMs, source); }
+
+    TestPc pc;
+    WalkSource source;
+    std::map<QString, Platform::FileIdentity> identities{{"C:\\Menu", {7, 1}}, {"C:\\Menu\\A", {7, 2}}};
+    QStringList asked;
+};
+
+TEST_F(LinkWalkTest, ALinkElsewhereIsFollowed) {
+    identities["C:\\Menu\\A\\link"] = {7, 3};
+    EXPECT_THAT(walk(), ElementsAre("C:\\Menu\\A\\link\\x.lnk"));
+    EXPECT_THAT(asked, ElementsAre("C:\\Menu\\A\\link", "C:\\Menu", "C:\\Menu\\A")) << "folders are not asked about";
+}
+
+TEST_F(LinkWalkTest, ALinkToAnyFolderOnTheWayIsNot) {
+    for (const char* folder : {"C:\\Menu", "C:\\Menu\\A"}) {
+        identities["C:\\Menu\\A\\link"] = identities[folder];
+        EXPECT_THAT(walk(), IsEmpty()) << folder;
+    }
+}
+
+TEST_F(LinkWalkTest, AFolderIsKnownByItsVolumeAndItsIndex) {
+    identities["C:\\Menu\\A\\link"] = {8, 2};
+    EXPECT_EQ(walk().size(), 1) << "another volume's";
+}
+
+TEST_F(LinkWalkTest, ALinkThatCanNotBeOpenedIsNotFollowed) {
+    EXPECT_THAT(walk(), IsEmpty());
+}
+
+TEST_F(LinkWalkTest, AFolderOnTheWayThatCanNotBeOpenedIsNobodysTarget) {
+    identities = {{"C:\\Menu\\A\\link", {0, 0}}};
+    EXPECT_THAT(walk(), ElementsAre("C:\\Menu\\A\\link\\x.lnk"));
 }
 
 } // namespace
