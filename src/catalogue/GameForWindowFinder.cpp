@@ -17,12 +17,12 @@ GameForWindowFinder::GameForWindowFinder(Logger* logger, GamesExplorerIndex* ind
     , m_executables(executables) {}
 
 bool GameForWindowFinder::find(GameLocation& location) {
-    const std::vector<const GamesExplorerEntry*> entries = m_index->findByTitle(m_title);
+    const std::vector<GamesExplorerEntry> entries = m_index->findByTitle(m_title);
     if (entries.empty()) {
         Trace::note("No game of the Games Explorer is named \"%ls\".", qUtf16Printable(m_title));
     }
-    for (const GamesExplorerEntry* entry : entries) {
-        if (findBy(*entry, location)) {
+    for (const GamesExplorerEntry& entry : entries) {
+        if (findBy(entry, location)) {
             logger().logAlways("GameForWindow: %ls", qUtf16Printable(location.launchCommand));
             return true;
         }

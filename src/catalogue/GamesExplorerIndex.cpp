@@ -25,43 +25,32 @@ GamesExplorerEntry readEntry(const QString& name, quint32 view) {
             valueOf(key, QStringLiteral("ConfigApplicationPath"))};
 }
 
-void readEntries(quint32 view, std::list<GamesExplorerEntry>& entries, Logger& logger) {
+} // namespace
+
+GamesExplorerIndex::GamesExplorerIndex()
+    : Index("GamesExplorer") {}
+
+std::vector<GamesExplorerEntry> GamesExplorerIndex::findByTitle(const QString& title) {
+    return built(m_titles).find(title, MatchMode::equals);
+}
+
+void GamesExplorerIndex::build(std::list<GamesExplorerEntry>& entries) {
+    Logger logger = Logger::create("Quorvan.Finders.GameForWindow");
+    for (const quint32 view : views) {
+        read(view, entries, logger);
+    }
+    if (entries.empty()) {
+        logger.logAlways("No apps");
+    }
+}
+
+void GamesExplorerIndex::read(quint32 view, std::list<GamesExplorerEntry>& entries, Logger& logger) {
     QStringList names;
     RegistryKey::open(rootKeyPath(), Hive::localMachine, view).subKeyNames(names);
     for (const QString& name : qAsConst(names)) {
-        entries.push_back(readEntry(name, view));
-        const GamesExplorerEntry& entry = entries.back();
+        const GamesExplorerEntry entry = readEntry(name, view);
         logger.logAlways("Title: %ls, %ls", qUtf16Printable(entry.title), qUtf16Printable(entry.appExePath));
-    }
-}
-
-} // namespace
-
-const std::list<GamesExplorerEntry>& GamesExplorerIndex::entries() {
-    return catalogue().entries;
-}
-
-std::vector<const GamesExplorerEntry*> GamesExplorerIndex::findByTitle(const QString& title) {
-    constexpr int equals = 0;
-    return catalogue().titles.find(title, equals);
-}
-
-const GamesExplorerIndex::Catalogue& GamesExplorerIndex::catalogue() {
-    return m_catalogue.entries(build);
-}
-
-void GamesExplorerIndex::build(Catalogue& catalogue) {
-    Trace::IndexSection section("GamesExplorer");
-    Logger logger = Logger::create("Quorvan.Finders.GameForWindow");
-    for (const quint32 view : views) {
-        readEntries(view, catalogue.entries, logger);
-    }
-    if (catalogue.entries.empty()) {
-        logger.logAlways("No apps");
-    }
-    for (const GamesExplorerEntry& entry : catalogue.entries) {
-        catalogue.titles.add(entry.title, entry);
+        add(entries, entry, m_titles.row(entry.title, entry));
         Trace::entry(entry.title, entry.configApplicationPath);
     }
-    section.setEntries(catalogue.entries.size());
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "support/BuiltOnce.h"
-#include "support/NameTable.h"
+#include "support/Index.h"
 
 #include <QString>
 
 #include <list>
 #include <vector>
+
+class Logger;
 
 /// One game of the Windows Games Explorer, as registered. A value that is missing is empty.
 struct GamesExplorerEntry {
@@ -18,24 +19,16 @@ struct GamesExplorerEntry {
 
 /// The games of the Windows Games Explorer, those of the 32-bit view first. A game that both views show is there twice.
 /// Empty on a system without the catalogue.
-///
-/// Built at the first question, whichever that is, and unchanged after it; any thread may ask. What is returned points
-/// into the index.
-class GamesExplorerIndex {
+class GamesExplorerIndex final : public Index<std::list<GamesExplorerEntry>> {
 public:
-    const std::list<GamesExplorerEntry>& entries();
+    GamesExplorerIndex();
 
     /// The entries with this title, letter case ignored, in index order.
-    std::vector<const GamesExplorerEntry*> findByTitle(const QString& title);
+    std::vector<GamesExplorerEntry> findByTitle(const QString& title);
 
 private:
-    struct Catalogue {
-        std::list<GamesExplorerEntry> entries;
-        NameTable<GamesExplorerEntry> titles;
-    };
+    void build(std::list<GamesExplorerEntry>& entries) override;
+    void read(quint32 view, std::list<GamesExplorerEntry>& entries, Logger& logger);
 
-    const Catalogue& catalogue();
-    static void build(Catalogue& catalogue);
-
-    BuiltOnce<Catalogue> m_catalogue;
+    NameTable<GamesExplorerEntry> m_titles;
 };

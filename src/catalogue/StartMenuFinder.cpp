@@ -20,13 +20,13 @@ StartMenuFinder::StartMenuFinder(Logger* logger, StartMenuIndex* index, const QS
     , m_matchMode(matchMode) {}
 
 bool StartMenuFinder::find(GameLocation& location) {
-    const std::vector<const QString*> shortcuts = m_index->findByName(m_name, m_matchMode);
+    const std::vector<QString> shortcuts = m_index->findByName(m_name, m_matchMode);
     if (shortcuts.empty()) {
         Trace::note("No shortcut of the Start menu %s \"%ls\".", MatchMode::words(m_matchMode),
                     qUtf16Printable(m_name));
     }
     return std::any_of(shortcuts.begin(), shortcuts.end(),
-                       [this, &location](const QString* shortcut) { return follow(*shortcut, location); });
+                       [this, &location](const QString& shortcut) { return follow(shortcut, location); });
 }
 
 bool StartMenuFinder::follow(const QString& shortcut, GameLocation& location) const {

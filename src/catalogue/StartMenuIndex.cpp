@@ -1,6 +1,5 @@
 #include "catalogue/StartMenuIndex.h"
 
-#include "catalogue/ShortcutWalk.h"
 #include "platform/Folders.h"
 #include "support/KnownFolders.h"
 #include "support/Paths.h"
@@ -19,26 +18,20 @@ QString nameOf(const QString& shortcut) {
 
 } // namespace
 
-const QStringList& StartMenuIndex::entries() {
-    return catalogue().entries;
+StartMenuIndex::StartMenuIndex(const WalkSource& source)
+    : Index("StartMenu")
+    , m_source(source) {}
+
+std::vector<QString> StartMenuIndex::findByName(const QString& name, int matchMode) {
+    return built(m_names).find(name, matchMode);
 }
 
-std::vector<const QString*> StartMenuIndex::findByName(const QString& name, int matchMode) {
-    return catalogue().names.find(name, matchMode);
-}
-
-const StartMenuIndex::Catalogue& StartMenuIndex::catalogue() {
-    return m_catalogue.entries(build);
-}
-
-void StartMenuIndex::build(Catalogue& catalogue) {
-    Trace::IndexSection section("StartMenu");
+void StartMenuIndex::build(QStringList& entries) {
     for (const int csidl : startMenus) {
-        catalogue.entries += shortcutsBelow(knownFolderPath(csidl), longestWalkMs);
+        const QStringList shortcuts = shortcutsBelow(knownFolderPath(csidl), longestWalkMs, m_source);
+        for (const QString& shortcut : shortcuts) {
+            add(entries, shortcut, m_names.row(nameOf(shortcut), shortcut));
+            Trace::entry(nameOf(shortcut), shortcut);
+        }
     }
-    for (const QString& shortcut : qAsConst(catalogue.entries)) {
-        catalogue.names.add(nameOf(shortcut), shortcut);
-        Trace::entry(nameOf(shortcut), shortcut);
-    }
-    section.setEntries(static_cast<std::size_t>(catalogue.entries.size()));
 }

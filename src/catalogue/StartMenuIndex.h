@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/BuiltOnce.h"
-#include "support/NameTable.h"
+#include "catalogue/ShortcutWalk.h"
+#include "support/Index.h"
 
 #include <QStringList>
 
@@ -9,24 +9,16 @@
 
 /// The full paths of all Start-menu shortcuts, with native separators, the user's before those of all users. A Start
 /// menu that is missing, or that takes 30 seconds or longer to walk, adds none. Writes no log.
-///
-/// Built at the first question, whichever that is, and unchanged after it; any thread may ask. What is returned points
-/// into the index.
-class StartMenuIndex {
+class StartMenuIndex final : public Index<QStringList> {
 public:
-    const QStringList& entries();
+    explicit StartMenuIndex(const WalkSource& source = {});
 
     /// The shortcuts with this name (the file's without ".lnk"), by `matchMode` (support/NameTable.h), in index order.
-    std::vector<const QString*> findByName(const QString& name, int matchMode);
+    std::vector<QString> findByName(const QString& name, int matchMode);
 
 private:
-    struct Catalogue {
-        QStringList entries;
-        NameTable<QString> names;
-    };
+    void build(QStringList& entries) override;
 
-    const Catalogue& catalogue();
-    static void build(Catalogue& catalogue);
-
-    BuiltOnce<Catalogue> m_catalogue;
+    WalkSource m_source;
+    NameTable<QString> m_names;
 };

@@ -45,13 +45,13 @@ UninstallFinder::UninstallFinder(Logger* logger, UninstallIndex* index, const QS
     , m_matchMode(matchMode) {}
 
 bool UninstallFinder::find(GameLocation& location) {
-    const std::vector<const UninstallEntry*> entries = m_index->findByName(m_displayName, m_matchMode);
+    const std::vector<UninstallEntry> entries = m_index->findByName(m_displayName, m_matchMode);
     if (entries.empty()) {
         Trace::note("No program of the Uninstall registry %s \"%ls\".", MatchMode::words(m_matchMode),
                     qUtf16Printable(m_displayName));
     }
     return std::any_of(entries.begin(), entries.end(),
-                       [this, &location](const UninstallEntry* entry) { return findBy(*entry, location); });
+                       [this, &location](const UninstallEntry& entry) { return findBy(entry, location); });
 }
 
 bool UninstallFinder::findBy(const UninstallEntry& entry, GameLocation& location) const {

@@ -22,57 +22,45 @@ UninstallEntry readEntry(const QString& keyPath, quint32 hive, quint32 view) {
             key.text(QStringLiteral("UninstallString"))};
 }
 
-void readEntries(quint32 hive, quint32 view, std::list<UninstallEntry>& entries, Logger& logger) {
-    const QString root = UninstallIndex::rootKeyPath();
-    QStringList names;
-    if (!RegistryKey::open(root, hive, view).subKeyNames(names)) {
-        return;
-    }
-    logger.logAlways("=== View: %d, Scope: %d ===", static_cast<int>(view), static_cast<int>(hive));
-    for (const QString& name : qAsConst(names)) {
-        UninstallEntry entry = readEntry(root + QLatin1Char('\\') + name, hive, view);
-        if (!entry.displayName.isEmpty() && tellsAPlace(entry)) {
-            logger.logAlways("%ls, %ls, %ls", qUtf16Printable(entry.displayName),
-                             qUtf16Printable(entry.installLocation), qUtf16Printable(entry.uninstallString));
-            entries.push_back(std::move(entry));
-        }
-    }
-}
-
 } // namespace
+
+UninstallIndex::UninstallIndex()
+    : Index("Uninstall") {}
 
 QString UninstallIndex::rootKeyPath() {
     return QStringLiteral("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
 }
 
-const std::list<UninstallEntry>& UninstallIndex::entries() {
-    return catalogue().entries;
+std::vector<UninstallEntry> UninstallIndex::findByName(const QString& displayName, int matchMode) {
+    return built(m_names).find(displayName, matchMode);
 }
 
-std::vector<const UninstallEntry*> UninstallIndex::findByName(const QString& displayName, int matchMode) {
-    return catalogue().names.find(displayName, matchMode);
+std::vector<UninstallEntry> UninstallIndex::findByKeyPath(const QString& keyPath) {
+    return built(m_keyPaths).find(keyPath);
 }
 
-std::vector<const UninstallEntry*> UninstallIndex::findByKeyPath(const QString& keyPath) {
-    return catalogue().keyPaths.find(keyPath);
-}
-
-const UninstallIndex::Catalogue& UninstallIndex::catalogue() {
-    return m_catalogue.entries(build);
-}
-
-void UninstallIndex::build(Catalogue& catalogue) {
-    Trace::IndexSection section("Uninstall");
+void UninstallIndex::build(std::list<UninstallEntry>& entries) {
     Logger logger = Logger::create("Quorvan.Finders.Uninstall");
     for (const quint32 view : views) {
         for (const quint32 hive : hives) {
-            readEntries(hive, view, catalogue.entries, logger);
+            read(hive, view, entries, logger);
         }
     }
-    for (const UninstallEntry& entry : catalogue.entries) {
-        catalogue.names.add(entry.displayName, entry);
-        catalogue.keyPaths.add(entry.keyPath, entry);
-        Trace::entry(entry.displayName, entry.installLocation);
+}
+
+void UninstallIndex::read(quint32 hive, quint32 view, std::list<UninstallEntry>& entries, Logger& logger) {
+    QStringList names;
+    if (!RegistryKey::open(rootKeyPath(), hive, view).subKeyNames(names)) {
+        return;
     }
-    section.setEntries(catalogue.entries.size());
+    logger.logAlways("=== View: %d, Scope: %d ===", static_cast<int>(view), static_cast<int>(hive));
+    for (const QString& name : qAsConst(names)) {
+        const UninstallEntry entry = readEntry(rootKeyPath() + QLatin1Char('\\') + name, hive, view);
+        if (!entry.displayName.isEmpty() && tellsAPlace(entry)) {
+            logger.logAlways("%ls, %ls, %ls", qUtf16Printable(entry.displayName),
+                             qUtf16Printable(entry.installLocation), qUtf16Printable(entry.uninstallString));
+            add(entries, entry, m_names.row(entry.displayName, entry), m_keyPaths.row(entry.keyPath, entry));
+            Trace::entry(entry.displayName, entry.installLocation);
+        }
+    }
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "support/BuiltOnce.h"
-#include "support/NameTable.h"
+#include "support/Index.h"
 
 #include <QString>
 
 #include <list>
 #include <vector>
+
+class Logger;
 
 /// One program of the Uninstall registry. A value that is missing or not text is empty.
 struct UninstallEntry {
@@ -18,31 +19,23 @@ struct UninstallEntry {
 
 /// The programs of the Uninstall registry that have a name and tell a place: both views, the machine's and the user's,
 /// in that order. A program that both views show is there twice.
-///
-/// Built at the first question, whichever that is, and unchanged after it; any thread may ask. What is returned points
-/// into the index.
-class UninstallIndex {
+class UninstallIndex final : public Index<std::list<UninstallEntry>> {
 public:
+    UninstallIndex();
+
     /// The key whose sub-keys are the programs.
     static QString rootKeyPath();
 
-    const std::list<UninstallEntry>& entries();
-
     /// The entries with this display name, by `matchMode` (support/NameTable.h), in index order.
-    std::vector<const UninstallEntry*> findByName(const QString& displayName, int matchMode);
+    std::vector<UninstallEntry> findByName(const QString& displayName, int matchMode);
 
     /// The entries of exactly this key, letter case included, in index order.
-    std::vector<const UninstallEntry*> findByKeyPath(const QString& keyPath);
+    std::vector<UninstallEntry> findByKeyPath(const QString& keyPath);
 
 private:
-    struct Catalogue {
-        std::list<UninstallEntry> entries;
-        NameTable<UninstallEntry> names;
-        IdTable<UninstallEntry> keyPaths;
-    };
+    void build(std::list<UninstallEntry>& entries) override;
+    void read(quint32 hive, quint32 view, std::list<UninstallEntry>& entries, Logger& logger);
 
-    const Catalogue& catalogue();
-    static void build(Catalogue& catalogue);
-
-    BuiltOnce<Catalogue> m_catalogue;
+    NameTable<UninstallEntry> m_names;
+    IdTable<UninstallEntry> m_keyPaths;
 };

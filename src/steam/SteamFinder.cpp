@@ -26,12 +26,12 @@ bool SteamFinder::find(GameLocation& location) {
 
 bool SteamFinder::findByUninstallEntry(GameLocation& location) const {
     const QString keyPath = UninstallIndex::rootKeyPath() + QLatin1String("\\Steam App ") + m_appId;
-    const std::vector<const UninstallEntry*> entries = m_uninstallIndex->findByKeyPath(keyPath);
+    const std::vector<UninstallEntry> entries = m_uninstallIndex->findByKeyPath(keyPath);
     if (entries.empty()) {
         Trace::note("The Uninstall registry has no program under \"Steam App %ls\".", qUtf16Printable(m_appId));
     }
-    for (const UninstallEntry* entry : entries) {
-        if (!entry->uninstallString.isEmpty() && findIn(entry->installLocation.trimmed(), location)) {
+    for (const UninstallEntry& entry : entries) {
+        if (!entry.uninstallString.isEmpty() && findIn(entry.installLocation.trimmed(), location)) {
             return true;
         }
     }
@@ -43,12 +43,12 @@ bool SteamFinder::findInLibraries(GameLocation& location) const {
         Trace::note("No folder's name is given, so no library is searched.");
         return false;
     }
-    const std::vector<const SteamAppEntry*> entries = m_steamIndex->findByAppId(m_appId);
+    const std::vector<SteamAppEntry> entries = m_steamIndex->findByAppId(m_appId);
     if (entries.empty()) {
         Trace::note("No Steam library has the app %ls.", qUtf16Printable(m_appId));
     }
-    for (const SteamAppEntry* entry : entries) {
-        if (findIn(QDir(entry->commonFolder).absoluteFilePath(m_installFolderName), location)) {
+    for (const SteamAppEntry& entry : entries) {
+        if (findIn(QDir(entry.commonFolder).absoluteFilePath(m_installFolderName), location)) {
             return true;
         }
     }

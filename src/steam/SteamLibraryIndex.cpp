@@ -18,7 +18,32 @@ QStringList libraryFolders(const QString& steam) {
     return folders;
 }
 
-void readApps(const QString& folder, std::list<SteamAppEntry>& entries, Logger& logger) {
+} // namespace
+
+SteamLibraryIndex::SteamLibraryIndex()
+    : Index("SteamLibraries") {}
+
+std::vector<SteamAppEntry> SteamLibraryIndex::findByAppId(const QString& appId) {
+    return built(m_appIds).find(appId);
+}
+
+void SteamLibraryIndex::build(std::list<SteamAppEntry>& entries) {
+    Logger logger = Logger::create("Quorvan.Finders.SteamGames");
+    const QString steam = findSteamExecutable(logger);
+    if (steam.isEmpty()) {
+        logger.logAlways("Steam.exe not found");
+        return;
+    }
+    const QStringList folders = libraryFolders(steam);
+    for (const QString& folder : folders) {
+        read(folder, entries, logger);
+    }
+    if (entries.empty()) {
+        logger.logAlways("No App ID");
+    }
+}
+
+void SteamLibraryIndex::read(const QString& folder, std::list<SteamAppEntry>& entries, Logger& logger) {
     const QLatin1String prefix("appmanifest_");
     logger.logAlways("Library Folder: %ls", qUtf16Printable(folder));
     const QStringList manifests = Files::names(folder, QStringLiteral("*.acf"));
@@ -27,47 +52,9 @@ void readApps(const QString& folder, std::list<SteamAppEntry>& entries, Logger& 
             continue;
         }
         const QString baseName = manifest.left(manifest.indexOf(QLatin1Char('.')));
-        entries.push_back({baseName.mid(prefix.size()), folder + QLatin1String("/common")});
-        logger.logAlways("  App ID: %ls", qUtf16Printable(entries.back().appId));
-    }
-}
-
-void readLibraries(std::list<SteamAppEntry>& entries, Logger& logger) {
-    const QString steam = findSteamExecutable(logger);
-    if (steam.isEmpty()) {
-        logger.logAlways("Steam.exe not found");
-        return;
-    }
-    const QStringList folders = libraryFolders(steam);
-    for (const QString& folder : folders) {
-        readApps(folder, entries, logger);
-    }
-    if (entries.empty()) {
-        logger.logAlways("No App ID");
-    }
-}
-
-} // namespace
-
-const std::list<SteamAppEntry>& SteamLibraryIndex::entries() {
-    return catalogue().entries;
-}
-
-std::vector<const SteamAppEntry*> SteamLibraryIndex::findByAppId(const QString& appId) {
-    return catalogue().appIds.find(appId);
-}
-
-const SteamLibraryIndex::Catalogue& SteamLibraryIndex::catalogue() {
-    return m_catalogue.entries(build);
-}
-
-void SteamLibraryIndex::build(Catalogue& catalogue) {
-    Trace::IndexSection section("SteamLibraries");
-    Logger logger = Logger::create("Quorvan.Finders.SteamGames");
-    readLibraries(catalogue.entries, logger);
-    for (const SteamAppEntry& entry : catalogue.entries) {
-        catalogue.appIds.add(entry.appId, entry);
+        const SteamAppEntry entry{baseName.mid(prefix.size()), folder + QLatin1String("/common")};
+        add(entries, entry, m_appIds.row(entry.appId, entry));
+        logger.logAlways("  App ID: %ls", qUtf16Printable(entry.appId));
         Trace::entry(entry.appId, entry.commonFolder);
     }
-    section.setEntries(catalogue.entries.size());
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "support/BuiltOnce.h"
-#include "support/NameTable.h"
+#include "support/Index.h"
 
 #include <QString>
 
@@ -18,24 +17,16 @@ struct SteamAppEntry {
 
 /// The apps in all libraries of the Steam client, the client's own first. An app that two libraries hold is there
 /// twice. Empty when there is no Steam client.
-///
-/// Built at the first question, whichever that is, and unchanged after it; any thread may ask. What is returned points
-/// into the index.
-class SteamLibraryIndex {
+class SteamLibraryIndex final : public Index<std::list<SteamAppEntry>> {
 public:
-    const std::list<SteamAppEntry>& entries();
+    SteamLibraryIndex();
 
     /// The entries with exactly this identifier, as text, in index order.
-    std::vector<const SteamAppEntry*> findByAppId(const QString& appId);
+    std::vector<SteamAppEntry> findByAppId(const QString& appId);
 
 private:
-    struct Catalogue {
-        std::list<SteamAppEntry> entries;
-        IdTable<SteamAppEntry> appIds;
-    };
+    void build(std::list<SteamAppEntry>& entries) override;
+    void read(const QString& folder, std::list<SteamAppEntry>& entries, Logger& logger);
 
-    const Catalogue& catalogue();
-    static void build(Catalogue& catalogue);
-
-    BuiltOnce<Catalogue> m_catalogue;
+    IdTable<SteamAppEntry> m_appIds;
 };

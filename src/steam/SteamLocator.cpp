@@ -45,8 +45,8 @@ QString executableOf(QString command) {
 
 QString findThroughStartMenu(Logger& logger) {
     StartMenuIndex index; // of its own, so that a Steam client installed meanwhile is seen
-    constexpr int equals = 0;
-    Finders::StartMenuFinder finder(&logger, &index, QStringLiteral("Steam"), {QStringLiteral("steam.exe")}, equals);
+    Finders::StartMenuFinder finder(&logger, &index, QStringLiteral("Steam"), {QStringLiteral("steam.exe")},
+                                    MatchMode::equals);
     GameLocation location;
     return finder.find(location) ? location.executablePath : QString();
 }

@@ -26,48 +26,39 @@ QString manifestFolder() {
     return knownFolderPath(Platform::csidlCommonAppData) + QLatin1String("/Epic/EpicGamesLauncher/Data/Manifests");
 }
 
-void readManifest(const QDir& folder, const QString& name, std::list<EpicAppEntry>& entries, Logger& logger) {
-    std::optional<EpicAppEntry> entry = parseEpicManifest(Files::readWholeFile(folder.filePath(name)));
-    if (!entry) {
-        logger.logWarning("  Skipped invalid manifest: %ls", qUtf16Printable(name));
-        return;
-    }
-    if (entry->AppName.isEmpty() && entry->InstallLocation.isEmpty()) {
-        return;
-    }
-    logger.logAlways("  App: %ls | %ls", qUtf16Printable(entry->AppName), qUtf16Printable(entry->DisplayName));
-    entries.push_back(std::move(*entry));
-}
-
 } // namespace
 
-const std::list<EpicAppEntry>& EpicManifestIndex::entries() {
-    return catalogue().entries;
+EpicManifestIndex::EpicManifestIndex()
+    : Index("EpicManifests") {}
+
+std::vector<EpicAppEntry> EpicManifestIndex::findByName(const QString& displayName, int matchMode) {
+    return built(m_names).find(displayName, matchMode);
 }
 
-std::vector<const EpicAppEntry*> EpicManifestIndex::findByName(const QString& displayName, int matchMode) {
-    return catalogue().names.find(displayName, matchMode);
-}
-
-const EpicManifestIndex::Catalogue& EpicManifestIndex::catalogue() {
-    return m_catalogue.entries(build);
-}
-
-void EpicManifestIndex::build(Catalogue& catalogue) {
-    Trace::IndexSection section("EpicManifests");
+void EpicManifestIndex::build(std::list<EpicAppEntry>& entries) {
     Logger logger = Logger::create("Quorvan.Finders.EpicStore");
     const QString folder = manifestFolder();
     logger.logAlways("MetaDir Folder: %ls", qUtf16Printable(folder));
     const QStringList manifests = Files::names(folder, QStringLiteral("*.item"));
     for (const QString& manifest : manifests) {
-        readManifest(QDir(folder), manifest, catalogue.entries, logger);
+        read(QDir(folder), manifest, entries, logger);
     }
-    if (catalogue.entries.empty()) {
+    if (entries.empty()) {
         logger.logAlways("No apps");
     }
-    for (const EpicAppEntry& entry : catalogue.entries) {
-        catalogue.names.add(entry.DisplayName, entry);
-        Trace::entry(entry.DisplayName, entry.InstallLocation);
+}
+
+void EpicManifestIndex::read(const QDir& folder, const QString& manifest, std::list<EpicAppEntry>& entries,
+                             Logger& logger) {
+    const std::optional<EpicAppEntry> entry = parseEpicManifest(Files::readWholeFile(folder.filePath(manifest)));
+    if (!entry) {
+        logger.logWarning("  Skipped invalid manifest: %ls", qUtf16Printable(manifest));
+        return;
     }
-    section.setEntries(catalogue.entries.size());
+    if (entry->AppName.isEmpty() && entry->InstallLocation.isEmpty()) {
+        return;
+    }
+    add(entries, *entry, m_names.row(entry->DisplayName, *entry));
+    logger.logAlways("  App: %ls | %ls", qUtf16Printable(entry->AppName), qUtf16Printable(entry->DisplayName));
+    Trace::entry(entry->DisplayName, entry->InstallLocation);
 }

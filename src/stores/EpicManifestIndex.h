@@ -1,13 +1,15 @@
 #pragma once
 
-#include "support/BuiltOnce.h"
 #include "support/CriticalSection.h"
-#include "support/NameTable.h"
+#include "support/Index.h"
 
 #include <QString>
 
 #include <list>
 #include <vector>
+
+class Logger;
+class QDir;
 
 /// One app of the Epic launcher: the texts of its manifest, under the manifest's own names. One that is missing is
 /// empty.
@@ -23,24 +25,16 @@ struct EpicAppEntry {
 
 /// The apps that the Epic launcher's manifests name, in the order of their files. A manifest that can't be read, or
 /// that names neither app nor place, adds none.
-///
-/// Built at the first question, whichever that is, and unchanged after it; any thread may ask. What is returned points
-/// into the index.
-class EpicManifestIndex {
+class EpicManifestIndex final : public Index<std::list<EpicAppEntry>, CriticalSection> {
 public:
-    const std::list<EpicAppEntry>& entries();
+    EpicManifestIndex();
 
     /// The entries with this display name, by `matchMode` (support/NameTable.h), in index order.
-    std::vector<const EpicAppEntry*> findByName(const QString& displayName, int matchMode);
+    std::vector<EpicAppEntry> findByName(const QString& displayName, int matchMode);
 
 private:
-    struct Catalogue {
-        std::list<EpicAppEntry> entries;
-        NameTable<EpicAppEntry> names;
-    };
+    void build(std::list<EpicAppEntry>& entries) override;
+    void read(const QDir& folder, const QString& manifest, std::list<EpicAppEntry>& entries, Logger& logger);
 
-    const Catalogue& catalogue();
-    static void build(Catalogue& catalogue);
-
-    BuiltOnce<Catalogue, CriticalSection> m_catalogue;
+    NameTable<EpicAppEntry> m_names;
 };

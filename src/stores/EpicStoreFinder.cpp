@@ -33,13 +33,13 @@ bool EpicStoreFinder::find(GameLocation& location) {
         Trace::note("No name is given.");
         return false;
     }
-    const std::vector<const EpicAppEntry*> entries = m_index->findByName(m_name, m_matchMode);
+    const std::vector<EpicAppEntry> entries = m_index->findByName(m_name, m_matchMode);
     if (entries.empty()) {
         Trace::note("No manifest of the Epic launcher %s \"%ls\".", MatchMode::words(m_matchMode),
                     qUtf16Printable(m_name));
     }
     return std::any_of(entries.begin(), entries.end(),
-                       [this, &location](const EpicAppEntry* entry) { return findBy(*entry, location); });
+                       [this, &location](const EpicAppEntry* entry) { return findBy(entry, location); });
 }
 
 bool EpicStoreFinder::findBy(const EpicAppEntry& entry, GameLocation& location) const {

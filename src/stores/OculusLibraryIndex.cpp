@@ -7,52 +7,35 @@
 
 #include <QFileInfo>
 
-namespace {
+OculusLibraryIndex::OculusLibraryIndex()
+    : Index("OculusLibraries") {}
 
-void readApps(const QString& folder, std::list<OculusAppEntry>& entries, Logger& logger) {
-    logger.logAlways("Library Folder: %ls", qUtf16Printable(folder));
-    const QStringList manifests = Files::names(folder, QStringLiteral("*.json.mini"));
-    for (const QString& manifest : manifests) {
-        entries.push_back({QFileInfo(manifest).baseName(), folder});
-        logger.logAlways("  App ID: %ls", qUtf16Printable(entries.back().appId));
-    }
+std::vector<OculusAppEntry> OculusLibraryIndex::findByAppId(const QString& appId) {
+    return built(m_appIds).find(appId);
 }
 
-void readLibraries(std::list<OculusAppEntry>& entries, Logger& logger) {
+void OculusLibraryIndex::build(std::list<OculusAppEntry>& entries) {
+    Logger logger = Logger::create("Quorvan.Finders.OculusStore");
     const QStringList folders = oculusLibraryFolders(logger);
     if (folders.isEmpty()) {
         logger.logAlways("Not found");
         return;
     }
     for (const QString& folder : folders) {
-        readApps(folder, entries, logger);
+        read(folder, entries, logger);
     }
     if (entries.empty()) {
         logger.logAlways("No App ID");
     }
 }
 
-} // namespace
-
-const std::list<OculusAppEntry>& OculusLibraryIndex::entries() {
-    return catalogue().entries;
-}
-
-std::vector<const OculusAppEntry*> OculusLibraryIndex::findByAppId(const QString& appId) {
-    return catalogue().appIds.find(appId);
-}
-
-const OculusLibraryIndex::Catalogue& OculusLibraryIndex::catalogue() {
-    return m_catalogue.entries(build);
-}
-
-void OculusLibraryIndex::build(Catalogue& catalogue) {
-    Trace::IndexSection section("OculusLibraries");
-    Logger logger = Logger::create("Quorvan.Finders.OculusStore");
-    readLibraries(catalogue.entries, logger);
-    for (const OculusAppEntry& entry : catalogue.entries) {
-        catalogue.appIds.add(entry.appId, entry);
+void OculusLibraryIndex::read(const QString& folder, std::list<OculusAppEntry>& entries, Logger& logger) {
+    logger.logAlways("Library Folder: %ls", qUtf16Printable(folder));
+    const QStringList manifests = Files::names(folder, QStringLiteral("*.json.mini"));
+    for (const QString& manifest : manifests) {
+        const OculusAppEntry entry{QFileInfo(manifest).baseName(), folder};
+        add(entries, entry, m_appIds.row(entry.appId, entry));
+        logger.logAlways("  App ID: %ls", qUtf16Printable(entry.appId));
         Trace::entry(entry.appId, entry.manifestsFolder);
     }
-    section.setEntries(catalogue.entries.size());
 }

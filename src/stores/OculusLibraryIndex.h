@@ -1,12 +1,13 @@
 #pragma once
 
-#include "support/BuiltOnce.h"
-#include "support/NameTable.h"
+#include "support/Index.h"
 
 #include <QString>
 
 #include <list>
 #include <vector>
+
+class Logger;
 
 /// One app that an Oculus library's manifests name.
 struct OculusAppEntry {
@@ -16,24 +17,16 @@ struct OculusAppEntry {
 
 /// The apps in all Oculus libraries, as the names of their manifest files tell. An app that two libraries hold is
 /// there twice.
-///
-/// Built at the first question, whichever that is, and unchanged after it; any thread may ask. What is returned points
-/// into the index.
-class OculusLibraryIndex {
+class OculusLibraryIndex final : public Index<std::list<OculusAppEntry>> {
 public:
-    const std::list<OculusAppEntry>& entries();
+    OculusLibraryIndex();
 
     /// The entries with exactly this identifier, in index order.
-    std::vector<const OculusAppEntry*> findByAppId(const QString& appId);
+    std::vector<OculusAppEntry> findByAppId(const QString& appId);
 
 private:
-    struct Catalogue {
-        std::list<OculusAppEntry> entries;
-        IdTable<OculusAppEntry> appIds;
-    };
+    void build(std::list<OculusAppEntry>& entries) override;
+    void read(const QString& folder, std::list<OculusAppEntry>& entries, Logger& logger);
 
-    const Catalogue& catalogue();
-    static void build(Catalogue& catalogue);
-
-    BuiltOnce<Catalogue> m_catalogue;
+    IdTable<OculusAppEntry> m_appIds;
 };

@@ -27,12 +27,12 @@ bool OculusStoreFinder::find(GameLocation& location) {
         Trace::note("No software folder is given, so no library is searched.");
         return false;
     }
-    const std::vector<const OculusAppEntry*> entries = m_index->findByAppId(m_appId);
+    const std::vector<OculusAppEntry> entries = m_index->findByAppId(m_appId);
     if (entries.empty()) {
         Trace::note("No Oculus library has the app %ls.", qUtf16Printable(m_appId));
     }
     return std::any_of(entries.begin(), entries.end(),
-                       [this, &location](const OculusAppEntry* entry) { return findBy(*entry, location); });
+                       [this, &location](const OculusAppEntry* entry) { return findBy(entry, location); });
 }
 
 bool OculusStoreFinder::findBy(const OculusAppEntry& entry, GameLocation& location) const {

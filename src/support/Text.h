@@ -9,4 +9,12 @@ namespace Text {
 /// path that does not exist, and the finders rely on it.
 QString unquote(const QString& text);
 
+/// `text` with the case of each character folded, so that two texts are the same exactly when QString::compare calls
+/// them equal with Qt::CaseInsensitive, and one contains another exactly when QString::contains says so. (Unlike
+/// QString::toCaseFolded, which also makes "ss" of "ß".)
+///
+/// But for half a character: whether a text contains the second unit of a surrogate pair by itself, which is no text,
+/// is answered for the folded pair.
+QString foldCase(const QString& text);
+
 } // namespace Text

@@ -96,8 +96,8 @@ TEST_F(GamesExplorerIndexTest, FindsTitlesIgnoringCase) {
     addGame(pc, {"{2}", "Some Game 2", "C:\\2.exe", {}, View::view32});
     addGame(pc, {"{3}", "SOME GAME", "C:\\3.exe", {}, View::view32});
     QStringList keys;
-    for (const GamesExplorerEntry* entry : index.findByTitle("some GAME")) {
-        keys.append(entry->keyName);
+    for (const GamesExplorerEntry& entry : index.findByTitle("some GAME")) {
+        keys.append(entry.keyName);
     }
     EXPECT_THAT(keys, ElementsAre("{1}", "{3}"));
     EXPECT_THAT(index.findByTitle("Some"), IsEmpty());

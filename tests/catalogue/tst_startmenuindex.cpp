@@ -1,5 +1,6 @@
 #include "catalogue/StartMenuIndex.h"
 
+#include "catalogue/TestWalk.h"
 #include "common/AtOnce.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
@@ -26,8 +27,8 @@ protected:
 
     QStringList find(const QString& name, int matchMode) {
         QStringList found;
-        for (const QString* shortcut : index.findByName(name, matchMode)) {
-            found.append(*shortcut);
+        for (const QString& shortcut : index.findByName(name, matchMode)) {
+            found.append(shortcut);
         }
         return found;
     }
@@ -86,6 +87,21 @@ TEST_F(StartMenuIndexTest, ThreadsThatAskAtOnceSeeTheWholeList) {
     std::atomic<int> complete{0};
     callAtOnce([&] { complete += index.entries().size() == 50 && index.findByName("A", 0).size() == 50 ? 1 : 0; });
     EXPECT_EQ(complete, 16);
+}
+
+TEST_F(StartMenuIndexTest, AStartMenuThatTakesThirtySecondsAddsNone) {
+    pc.file("C:\\Menu\\a.lnk");
+    StartMenuIndex inTime(clockShowing({0, 29'999}));
+    EXPECT_THAT(inTime.entries(), ElementsAre("C:\\Menu\\a.lnk"));
+    StartMenuIndex late(clockShowing({0, 30'000}));
+    EXPECT_THAT(late.entries(), IsEmpty());
+}
+
+TEST_F(StartMenuIndexTest, EachStartMenuHasItsOwnThirtySeconds) {
+    pc.file("C:\\Menu\\a.lnk");
+    pc.file("D:\\Menu\\b.lnk");
+    StartMenuIndex late(clockShowing({0, 30'000}));
+    EXPECT_THAT(late.entries(), ElementsAre("D:\\Menu\\b.lnk")) << "the user's slow one does not cost all users'";
 }
 
 } // namespace

@@ -21,10 +21,10 @@ QString textOf(const UninstallEntry& entry) {
     return QStringList{entry.keyPath, entry.displayName, entry.installLocation, entry.uninstallString}.join(" | ");
 }
 
-QStringList namesOf(const std::vector<const UninstallEntry*>& entries) {
+QStringList namesOf(const std::vector<UninstallEntry>& entries) {
     QStringList names;
-    for (const UninstallEntry* entry : entries) {
-        names.append(entry->displayName);
+    for (const UninstallEntry& entry : entries) {
+        names.append(entry.displayName);
     }
     return names;
 }

@@ -103,8 +103,8 @@ TEST_F(SteamLibraryIndexTest, AnAppInTwoLibrariesIsThereTwice) {
     pc.file("C:\\Steam\\steamapps\\appmanifest_440.acf");
     pc.file("D:\\SteamLibrary\\steamapps\\appmanifest_440.acf");
     QStringList folders;
-    for (const SteamAppEntry* entry : index.findByAppId("440")) {
-        folders.append(entry->commonFolder);
+    for (const SteamAppEntry& entry : index.findByAppId("440")) {
+        folders.append(entry.commonFolder);
     }
     EXPECT_THAT(folders, ElementsAre("C:/Steam/steamapps/common", "D:/SteamLibrary/steamapps/common"));
     EXPECT_THAT(index.findByAppId("0440"), IsEmpty());

@@ -161,8 +161,8 @@ TEST_F(EpicManifestIndexTest, FindsEntriesByDisplayName) {
     addEpicApp(pc, "3.item", {"3", "WARHAMMER", "D:\\3"});
     const auto found = [this](const QString& name, int matchMode) {
         QStringList names;
-        for (const EpicAppEntry* entry : index.findByName(name, matchMode)) {
-            names.append(entry->AppName);
+        for (const EpicAppEntry& entry : index.findByName(name, matchMode)) {
+            names.append(entry.AppName);
         }
         return names;
     };
@@ -192,6 +192,28 @@ TEST_F(EpicManifestIndexTest, ThreadsThatAskAtOnceWaitForOneBuild) {
     callAtOnce([&] { complete += index.entries().size() == 20 && index.findByName("kiwi", 0).size() == 20 ? 1 : 0; });
     EXPECT_EQ(complete, 16);
     EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
+}
+
+TEST_F(EpicManifestIndexTest, TheRegisteredFolderIsNotTrimmed) {
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
+    pc.value(epicKey, "ModSdkMetadataDir", ' ' + manifestFolder);
+    EXPECT_THAT(appNames(), IsEmpty());
+    EXPECT_THAT(pc.messages(logName), ElementsAre("A: MetaDir Folder:  " + manifestFolder, "A: No apps"));
+}
+
+TEST_F(EpicManifestIndexTest, HiddenManifestsAreNotListed) {
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
+    addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Plum"});
+    pc.hide(manifestFolder + "\\1.item");
+    EXPECT_THAT(appNames(), ElementsAre("Plum"));
+    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine, "A:   App: Plum | Plum"));
+}
+
+TEST_F(EpicManifestIndexTest, ManifestsKeepTheFileSystemsOrder) {
+    for (const char* name : {"_", "B", "a", "C"}) {
+        addEpicApp(pc, QString(name) + ".item", {name, name, "D:\\X"});
+    }
+    EXPECT_THAT(appNames(), ElementsAre("a", "B", "C", "_")) << "neither by code nor by small letters";
 }
 
 } // namespace

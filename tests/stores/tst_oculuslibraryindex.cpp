@@ -89,8 +89,8 @@ TEST_F(OculusLibraryIndexTest, FindsAppsByTheirExactId) {
     addLibrary("D:\\2", {"kite.json.mini"});
     const auto found = [this](const QString& appId) {
         QStringList folders;
-        for (const OculusAppEntry* entry : index.findByAppId(appId)) {
-            folders.append(entry->manifestsFolder);
+        for (const OculusAppEntry& entry : index.findByAppId(appId)) {
+            folders.append(entry.manifestsFolder);
         }
         return folders;
     };

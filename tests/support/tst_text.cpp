@@ -5,6 +5,7 @@
 #include "common/TestPc.h"
 
 #include <QDir>
+#include <QRandomGenerator>
 
 #include <gtest/gtest.h>
 
@@ -66,6 +67,60 @@ TEST(Paths, TheFolderOfAPathHasForwardSlashes) {
     EXPECT_EQ(Paths::absoluteFolderOf("x.exe"), QDir::currentPath());
     EXPECT_EQ(Paths::absoluteFolderOf("sub\\x.exe"), QDir::currentPath() + "/sub");
     EXPECT_EQ(Paths::absoluteFolderOf(""), "");
+}
+
+TEST(FoldCase, FoldsCharacterByCharacter) {
+    EXPECT_EQ(Text::foldCase("Käfer ÄÖ Straße"), "käfer äö straße");
+    EXPECT_EQ(Text::foldCase("ΣΟΦΟΣ"), Text::foldCase("σοφος"));
+    EXPECT_EQ(Text::foldCase(QString::fromUtf8("\xF0\x90\x90\x80")), QString::fromUtf8("\xF0\x90\x90\xA8"));
+    EXPECT_EQ(Text::foldCase(""), "");
+}
+
+TEST(FoldCase, AgreesWithQtOnEveryCharacter) {
+    for (uint character = 0; character < 0x20000; ++character) {
+        const uint lower = QChar::toLower(character);
+        const uint upper = QChar::toUpper(character);
+        const QString text = QString::fromUcs4(&character, 1);
+        for (const uint other : {lower, upper}) {
+            const QString otherText = QString::fromUcs4(&other, 1);
+            ASSERT_EQ(Text::foldCase(text) == Text::foldCase(otherText),
+                      text.compare(otherText, Qt::CaseInsensitive) == 0)
+                << std::hex << character << ' ' << other;
+        }
+    }
+}
+
+TEST(FoldCase, AgreesWithQtOnTextsOfAllKinds) {
+    QRandomGenerator random(7);
+    const QString letters = QString::fromUtf8("aAsSßẞiIıİkKK σςΣ") + QChar(0xD801) + QChar(0xDC00) + QChar(0xDC28);
+    const auto text = [&](int most) {
+        QString result;
+        for (int length = random.bounded(most); length > 0; --length) {
+            result += letters.at(random.bounded(letters.size()));
+        }
+        return result;
+    };
+    const auto beginsWithinAPair = [](const QString& searched) {
+        return searched.startsWith(QChar(0xDC00)) || searched.startsWith(QChar(0xDC28));
+    };
+    for (int i = 0; i < 20'000; ++i) {
+        const QString left = text(6);
+        const QString right = text(4);
+        const QString leftFolded = Text::foldCase(left);
+        const QString rightFolded = Text::foldCase(right);
+        ASSERT_EQ(leftFolded == rightFolded, left.compare(right, Qt::CaseInsensitive) == 0)
+            << left.toStdString() << " | " << right.toStdString();
+        ASSERT_TRUE(beginsWithinAPair(right) ||
+                    leftFolded.contains(rightFolded) == left.contains(right, Qt::CaseInsensitive))
+            << left.toStdString() << " | " << right.toStdString();
+    }
+}
+
+TEST(FoldCase, HalfACharacterIsLookedForInTheFoldedPair) {
+    const QString capital = QString::fromUtf8("\xF0\x90\x90\x80"); // D801 DC00; the small letter is D801 DC28
+    EXPECT_TRUE(Text::foldCase(capital).contains(Text::foldCase(QChar(0xD801))));
+    EXPECT_TRUE(Text::foldCase(capital).contains(Text::foldCase(QChar(0xDC28))));
+    EXPECT_FALSE(Text::foldCase(capital).contains(Text::foldCase(QChar(0xDC00))));
 }
 
 } // namespace

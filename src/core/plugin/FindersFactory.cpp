@@ -137,9 +137,9 @@ QString FindersFactory::lumavexStandaloneLocation() {
 
 QString FindersFactory::steamVrFolder() {
     const QStringList server{QStringLiteral("bin\\win64\\vrserver.exe")};
-    constexpr int equals = 0;
     std::unique_ptr<IGameFinder> alternative = std::make_unique<SteamVrAlternativeFinder>(&m_state->logger);
-    std::unique_ptr<IGameFinder> uninstall = createUninstallFinder(QStringLiteral("SteamVR"), server, equals);
+    std::unique_ptr<IGameFinder> uninstall =
+        createUninstallFinder(QStringLiteral("SteamVR"), server, MatchMode::equals);
     std::unique_ptr<IGameFinder> steam = createSteamFinder(QStringLiteral("250820"), QStringLiteral("SteamVR"), server);
     const std::unique_ptr<IGameFinder> finder =
         createMultiFinder(std::move(steam), std::move(uninstall), std::move(alternative), nullptr, nullptr, nullptr,
