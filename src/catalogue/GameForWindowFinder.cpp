@@ -43,8 +43,11 @@ bool GameForWindowFinder::findBy(const GamesExplorerEntry& entry, GameLocation& 
         Trace::note("The entry %ls tells no folder, and no executable that exists.", qUtf16Printable(entry.keyName));
         return false;
     }
-    return collectExecutables(location, folder, m_executables, {},
-                              [&location, &folder](const QString&) { location.installFolder = folder; });
+    if (collectExecutables(location, folder, m_executables).isEmpty()) {
+        return false;
+    }
+    location.installFolder = folder;
+    return true;
 }
 
 } // namespace Finders

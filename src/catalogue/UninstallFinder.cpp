@@ -59,17 +59,16 @@ bool UninstallFinder::findBy(const UninstallEntry& entry, GameLocation& location
 }
 
 bool UninstallFinder::findInInstallLocation(const UninstallEntry& entry, GameLocation& location) const {
-    resetLocation(location);
-    location.installFolder = entry.installLocation;
+    resetLocation(location, entry.installLocation);
     if (entry.installLocation.isEmpty()) {
         Trace::note("%ls tells no install location.", qUtf16Printable(entry.keyPath));
         return false;
     }
-    return collectExecutables(location, entry.installLocation, m_executables, {},
-                              [this, &entry](const QString& executable) {
-                                  logger().logAlways("Uninstall: Found %ls: %ls", qUtf16Printable(entry.keyPath),
-                                                     qUtf16Printable(executable));
-                              });
+    const QStringList found = collectExecutables(location, entry.installLocation, m_executables);
+    for (const QString& executable : found) {
+        logger().logAlways("Uninstall: Found %ls: %ls", qUtf16Printable(entry.keyPath), qUtf16Printable(executable));
+    }
+    return !found.isEmpty();
 }
 
 bool UninstallFinder::findBesideUninstaller(const UninstallEntry& entry, GameLocation& location) const {
@@ -77,11 +76,12 @@ bool UninstallFinder::findBesideUninstaller(const UninstallEntry& entry, GameLoc
         Trace::note("%ls names no uninstaller in the game's folder.", qUtf16Printable(entry.keyPath));
         return false;
     }
-    resetLocation(location);
-    location.installFolder = Paths::absoluteFolderOf(programOf(entry.uninstallString));
-    return collectExecutables(location, location.installFolder, m_executables, {}, [this](const QString& executable) {
+    resetLocation(location, Paths::absoluteFolderOf(programOf(entry.uninstallString)));
+    const QStringList found = collectExecutables(location, location.installFolder, m_executables);
+    for (const QString& executable : found) {
         logger().logAlways("Uninstall: Found %ls", qUtf16Printable(executable));
-    });
+    }
+    return !found.isEmpty();
 }
 
 } // namespace Finders

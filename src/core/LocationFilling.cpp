@@ -6,11 +6,11 @@
 
 namespace Finders {
 
-void resetLocation(GameLocation& location) {
+void resetLocation(GameLocation& location, const QString& installFolder) {
     location.executablePath.clear();
     location.launchCommand.clear();
     location.executablePaths.clear();
-    location.installFolder.clear();
+    location.installFolder = installFolder;
     location.hostFlag = false;
 }
 
@@ -28,19 +28,18 @@ void addExecutable(GameLocation& location, const QString& executable, const QStr
     }
 }
 
-bool collectExecutables(GameLocation& location, const QString& folder, const QStringList& names,
-                        const QString& launchUrl, const std::function<void(const QString& executable)>& onFound) {
-    bool found = false;
+QStringList collectExecutables(GameLocation& location, const QString& folder, const QStringList& names,
+                               const QString& launchUrl) {
+    QStringList found;
     for (const QString& name : names) {
         const QString candidate = Paths::join(folder, name);
         if (!Files::exists(candidate)) {
             continue;
         }
         addExecutable(location, candidate, launchUrl.isEmpty() ? candidate : launchUrl);
-        onFound(candidate);
-        found = true;
+        found.append(candidate);
     }
-    if (!found) {
+    if (found.isEmpty()) {
         noteNoExecutable(folder);
     }
     return found;

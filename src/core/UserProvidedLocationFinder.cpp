@@ -66,20 +66,19 @@ UserProvidedLocationFinder::UserProvidedLocationFinder(Logger* logger, const QSt
 
 bool UserProvidedLocationFinder::find(GameLocation& location) {
     const QString folder = userLocation();
-    resetLocation(location);
-    location.installFolder = folder;
+    resetLocation(location, folder);
     if (folder.isEmpty()) {
         Trace::note("The user has chosen no folder for this game.");
         return false;
     }
-    const auto logFound = [this](const QString& executable) {
+    const QStringList found = collectExecutables(location, folder, m_executables);
+    for (const QString& executable : found) {
         m_logger->logAlways("User: Found %ls", qUtf16Printable(executable));
-    };
-    if (!collectExecutables(location, folder, m_executables, {}, logFound)) {
-        m_logger->logError("User: Not found %ls", qUtf16Printable(folder));
-        return false;
     }
-    return true;
+    if (found.isEmpty()) {
+        m_logger->logError("User: Not found %ls", qUtf16Printable(folder));
+    }
+    return !found.isEmpty();
 }
 
 QString UserProvidedLocationFinder::userLocation() {

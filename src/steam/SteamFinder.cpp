@@ -56,14 +56,12 @@ bool SteamFinder::findInLibraries(GameLocation& location) const {
 }
 
 bool SteamFinder::findIn(const QString& folder, GameLocation& location) const {
-    resetLocation(location);
-    location.installFolder = folder;
+    resetLocation(location, folder);
     if (folder.isEmpty() || !Files::folderExists(QDir(folder))) {
         Trace::note("The install folder \"%ls\" is missing.", qUtf16Printable(folder));
         return false;
     }
-    const QString launchUrl = QLatin1String("steam://launch/") + m_appId;
-    if (!collectExecutables(location, folder, m_executables, launchUrl, [](const QString&) {})) {
+    if (collectExecutables(location, folder, m_executables, QLatin1String("steam://launch/") + m_appId).isEmpty()) {
         return false;
     }
     logger().logAlways("Steam: Found %ls", qUtf16Printable(m_appId));

@@ -39,7 +39,7 @@ bool EpicStoreFinder::find(GameLocation& location) {
                     qUtf16Printable(m_name));
     }
     return std::any_of(entries.begin(), entries.end(),
-                       [this, &location](const EpicAppEntry* entry) { return findBy(entry, location); });
+                       [this, &location](const EpicAppEntry& entry) { return findBy(entry, location); });
 }
 
 bool EpicStoreFinder::findBy(const EpicAppEntry& entry, GameLocation& location) const {
@@ -48,16 +48,15 @@ bool EpicStoreFinder::findBy(const EpicAppEntry& entry, GameLocation& location) 
         Trace::note("The manifest of %ls tells no install location.", qUtf16Printable(entry.AppName));
         return false;
     }
-    resetLocation(location);
-    location.installFolder = folder;
-    const auto logFound = [this, &folder](const QString& executable) {
+    resetLocation(location, folder);
+    const QStringList found = collectExecutables(location, folder, m_executables, launchUrlOf(entry));
+    for (const QString& executable : found) {
         logger().logAlways("EpicStore: Found %ls: %ls", qUtf16Printable(folder), qUtf16Printable(executable));
-    };
-    if (!collectExecutables(location, folder, m_executables, launchUrlOf(entry), logFound)) {
-        logger().logAlways("EpicStore: Not found %ls", qUtf16Printable(folder));
-        return false;
     }
-    return true;
+    if (found.isEmpty()) {
+        logger().logAlways("EpicStore: Not found %ls", qUtf16Printable(folder));
+    }
+    return !found.isEmpty();
 }
 
 } // namespace Finders

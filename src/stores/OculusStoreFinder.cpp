@@ -32,7 +32,7 @@ bool OculusStoreFinder::find(GameLocation& location) {
         Trace::note("No Oculus library has the app %ls.", qUtf16Printable(m_appId));
     }
     return std::any_of(entries.begin(), entries.end(),
-                       [this, &location](const OculusAppEntry* entry) { return findBy(entry, location); });
+                       [this, &location](const OculusAppEntry& entry) { return findBy(entry, location); });
 }
 
 bool OculusStoreFinder::findBy(const OculusAppEntry& entry, GameLocation& location) const {
@@ -41,16 +41,17 @@ bool OculusStoreFinder::findBy(const OculusAppEntry& entry, GameLocation& locati
     dir.makeAbsolute();
     const QString folder = dir.absolutePath();
 
-    resetLocation(location);
-    location.installFolder = folder;
+    resetLocation(location, folder);
     if (!isThere || folder.isEmpty() || !Files::folderExists(QDir(folder))) {
         Trace::note("The folder %ls is missing beside %ls.", qUtf16Printable(m_softwareFolder),
                     qUtf16Printable(entry.manifestsFolder));
         return false;
     }
-    return collectExecutables(location, folder, m_executables, {}, [this, &location](const QString&) {
-        logger().logAlways("OculusStore: %ls", qUtf16Printable(location.launchCommand));
-    });
+    const int found = collectExecutables(location, folder, m_executables).size();
+    for (int i = 0; i < found; ++i) {
+        logger().logAlways("OculusStore: %ls", qUtf16Printable(location.launchCommand)); // each time the first one
+    }
+    return found > 0;
 }
 
 } // namespace Finders

@@ -41,8 +41,7 @@ bool UniversalAppFinder::find(GameLocation& location) {
         return false;
     }
 
-    resetLocation(location);
-    location.installFolder = fullName;
+    resetLocation(location, fullName);
     addExecutable(location, QString(), QLatin1String("uapp://") + appId);
     return true;
 }
