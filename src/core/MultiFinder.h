@@ -31,6 +31,8 @@ public:
     void setUserLocation(const QString& path) override;
 
 private:
+    /// The last member first: from its end alone a vector gives up one element after the other, and the first member
+    /// must go first.
     std::vector<std::unique_ptr<IGameFinder>> m_finders;
 };
 

@@ -1,4 +1,6 @@
 #include "allocation/FailingAllocation.h"
+#include "core/GameLocation.h"
+#include "core/MultiFinder.h"
 #include "core/plugin/FindersFactory.h"
 
 #include "common/QtPrinters.h"
@@ -7,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <memory>
 #include <new>
 
@@ -53,6 +57,41 @@ TEST(AllocationTest, TheFirstCreateOfAllBearsItAsWell) {
     });
     EXPECT_GE(exceptions, 3);
     EXPECT_TRUE(FailingAllocation::nothingLeaked());
+}
+
+class NoFinder final : public IGameFinder {
+public:
+    bool find(GameLocation&) override { return false; }
+
+    QString userLocation() override { return {}; }
+
+    void setUserLocation(const QString&) override {}
+};
+
+using Eleven = std::array<std::unique_ptr<IGameFinder>, 11>;
+
+/// Null when memory runs out after so many allocations.
+std::unique_ptr<IGameFinder> combine(Eleven& finders, int countdown) {
+    const FailingAllocation failing(countdown);
+    try {
+        return std::make_unique<Finders::MultiFinder>(
+            std::move(finders[0]), std::move(finders[1]), std::move(finders[2]), std::move(finders[3]),
+            std::move(finders[4]), std::move(finders[5]), std::move(finders[6]), std::move(finders[7]),
+            std::move(finders[8]), std::move(finders[9]), std::move(finders[10]));
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+TEST(AllocationTest, AMultiFinderThatCanNotBeMadeTakesNoFinder) {
+    int failures = 0;
+    for (bool isMade = false; !isMade; failures += isMade ? 0 : 1) {
+        Eleven finders;
+        std::generate(finders.begin(), finders.end(), std::make_unique<NoFinder>);
+        isMade = combine(finders, failures) != nullptr;
+        EXPECT_EQ(std::count(finders.begin(), finders.end(), nullptr), isMade ? 11 : 0);
+    }
+    EXPECT_EQ(failures, 2) << "the finder itself, and the place for all its members";
 }
 
 } // namespace
