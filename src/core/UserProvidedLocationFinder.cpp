@@ -1,7 +1,7 @@
 #include "core/UserProvidedLocationFinder.h"
 
 #include "core/LocationFilling.h"
-#include "platform/Folders.h"
+#include "core/UserChoices.h"
 #include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
@@ -14,33 +14,7 @@ namespace Finders {
 
 namespace {
 
-/// The user's choices, one value a game: shared with the host. Open while this object lives.
-class Choices {
-public:
-    Choices()
-        : m_settings(QSettings::UserScope, QLatin1String("Veltrane"), QLatin1String("Quorvan")) {
-        m_settings.beginGroup(QLatin1String("UserProvidedLocations"));
-    }
-
-    ~Choices() { m_settings.sync(); }
-
-    /// On a recorded PC, what is not in the settings of who replays it can be in those that were recorded.
-    QString value(const QString& key) const {
-        const QString recorded = Platform::recordedUserLocation(key);
-        return m_settings.value(key, recorded.isEmpty() ? emptyText() : recorded).toString();
-    }
-
-    void setValue(const QString& key, const QString& folder) { m_settings.setValue(key, folder); }
-
-    void remove(const QString& key) { m_settings.remove(key); }
-
-    static QString emptyText() { return QString(QLatin1String("")); }
-
-private:
-    Q_DISABLE_COPY_MOVE(Choices)
-
-    QSettings m_settings;
-};
+using Choices = UserChoices<QSettings>;
 
 QStringList trimmedNames(const QStringList& names) {
     QStringList trimmed;

@@ -1,3 +1,4 @@
+#include "core/plugin/FactoryState.h"
 #include "core/plugin/FindersFactory.h"
 
 #include "common/PluginUnderTest.h"
@@ -11,7 +12,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <future>
 #include <thread>
 
@@ -188,6 +191,16 @@ TEST(InterfaceTest, TheRecordsFieldsKeepTheirPlaces) {
     EXPECT_EQ(offsetof(GameLocation, installFolder), 24U);
     EXPECT_EQ(offsetof(GameLocation, hostFlag), 32U);
     EXPECT_EQ(sizeof(GameLocation), 40U);
+}
+
+TEST(FactoryStateTest, TheLoggerIsMadeLastAndGoesFirst) {
+    const TestPc pc;
+    const Finders::FactoryState state;
+    // The parts of a struct lie in the order in which they are made, and go in the opposite one.
+    const std::vector<const void*> parts{
+        &state.uninstallIndex,     &state.gamesExplorerIndex, &state.startMenuIndex, &state.steamLibraryIndex,
+        &state.oculusLibraryIndex, &state.epicManifestIndex,  &state.logger};
+    EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end(), std::less<>()));
 }
 
 } // namespace

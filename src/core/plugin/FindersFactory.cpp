@@ -1,45 +1,28 @@
 #include "core/plugin/FindersFactory.h"
 
 #include "catalogue/GameForWindowFinder.h"
-#include "catalogue/GamesExplorerIndex.h"
 #include "catalogue/StartMenuFinder.h"
-#include "catalogue/StartMenuIndex.h"
 #include "catalogue/UninstallFinder.h"
-#include "catalogue/UninstallIndex.h"
 #include "core/FolderFinder.h"
 #include "core/MultiFinder.h"
 #include "core/UserProvidedLocationFinder.h"
+#include "core/plugin/FactoryState.h"
 #include "runtimes/RuntimeLocators.h"
 #include "steam/SteamFinder.h"
-#include "steam/SteamLibraryIndex.h"
 #include "steam/SteamLocator.h"
 #include "steam/SteamVrAlternativeFinder.h"
-#include "stores/EpicManifestIndex.h"
 #include "stores/EpicStoreFinder.h"
 #include "stores/OculusLibraries.h"
-#include "stores/OculusLibraryIndex.h"
 #include "stores/OculusStoreFinder.h"
 #include "stores/UniversalAppFinder.h"
-#include "support/Logger.h"
 #include "support/Paths.h"
 #include "support/Trace.h"
 
 namespace Finders {
 
-/// The order matters: the logger is made last and goes first, so its file is closed before any index is torn down.
-struct FindersFactory::State {
-    UninstallIndex uninstallIndex;
-    GamesExplorerIndex gamesExplorerIndex;
-    StartMenuIndex startMenuIndex;
-    SteamLibraryIndex steamLibraryIndex;
-    OculusLibraryIndex oculusLibraryIndex;
-    EpicManifestIndex epicManifestIndex;
-    Logger logger = Logger::create("Quorvan.Finders");
-};
-
-std::unique_ptr<FindersFactory::State> FindersFactory::makeState() {
+std::unique_ptr<FactoryState> FindersFactory::makeState() {
     Trace::begin(); // first, so that it tells of the state's making
-    return std::make_unique<State>();
+    return std::make_unique<FactoryState>();
 }
 
 FindersFactory::FindersFactory()

@@ -4,6 +4,8 @@
 
 namespace Finders {
 
+struct FactoryState;
+
 /// The factory that the host gets: owns the log file and the indexes of installed software that its finders share.
 /// Nothing is looked up before a finder asks, and two factories share nothing.
 class FindersFactory : public IGameFinderFactory {
@@ -44,11 +46,9 @@ public:
     QString steamVrFolder() override;
 
 private:
-    struct State;
+    static std::unique_ptr<FactoryState> makeState();
 
-    static std::unique_ptr<State> makeState();
-
-    std::unique_ptr<State> m_state;
+    std::unique_ptr<FactoryState> m_state;
 };
 
 } // namespace Finders
