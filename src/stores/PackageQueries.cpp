@@ -1,6 +1,6 @@
 #include "stores/PackageQueries.h"
 
-#include "stores/PackageFunctions.h"
+#include "platform/SystemFunctions.h"
 
 #include <algorithm>
 #include <cstring>
@@ -9,6 +9,31 @@
 #include <vector>
 
 namespace {
+
+template <class Function>
+Function lookUp(const char* name) {
+    return reinterpret_cast<Function>(Platform::kernelFunction(name));
+}
+
+PackageFunctions::GetPackagesByPackageFamily getPackagesByPackageFamily() {
+    static const auto kept = lookUp<PackageFunctions::GetPackagesByPackageFamily>("GetPackagesByPackageFamily");
+    return kept;
+}
+
+PackageFunctions::OpenPackageInfoByFullName openPackageInfoByFullName() {
+    static const auto kept = lookUp<PackageFunctions::OpenPackageInfoByFullName>("OpenPackageInfoByFullName");
+    return kept;
+}
+
+PackageFunctions::ClosePackageInfo closePackageInfo() {
+    static const auto kept = lookUp<PackageFunctions::ClosePackageInfo>("ClosePackageInfo");
+    return kept;
+}
+
+PackageFunctions::GetPackageApplicationIds getPackageApplicationIds() {
+    static const auto kept = lookUp<PackageFunctions::GetPackageApplicationIds>("GetPackageApplicationIds");
+    return kept;
+}
 
 using OpenPackage =
     std::unique_ptr<std::remove_pointer_t<PackageFunctions::PackageInfo>, PackageFunctions::ClosePackageInfo>;
@@ -35,6 +60,10 @@ std::u16string firstId(const std::vector<uchar>& buffer) {
 }
 
 } // namespace
+
+PackageFunctions systemPackageFunctions() {
+    return {getPackagesByPackageFamily(), openPackageInfoByFullName(), closePackageInfo(), getPackageApplicationIds()};
+}
 
 std::u16string packageFullNameOf(const std::u16string& family, const PackageFunctions& functions) {
     if (functions.getPackagesByPackageFamily == nullptr) {

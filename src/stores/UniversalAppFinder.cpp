@@ -1,7 +1,6 @@
 #include "stores/UniversalAppFinder.h"
 
 #include "core/LocationFilling.h"
-#include "stores/PackageFunctions.h"
 #include "stores/PackageQueries.h"
 #include "support/Logger.h"
 #include "support/Trace.h"

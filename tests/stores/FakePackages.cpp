@@ -20,14 +20,14 @@ std::size_t lengthOf(const Texts& texts) {
 }
 
 /// Writes the texts, and where each begins to `begins`, which may lie anywhere.
-void write(const Texts& texts, char16_t* buffer, void* begins, bool reportsNoText) {
+void write(const Texts& texts, char16_t* buffer, void* begins, bool reportsNoText, std::size_t end = 1) {
     auto* begin = static_cast<uchar*>(begins);
     for (const std::u16string& text : texts) {
         const char16_t* const reported = reportsNoText ? nullptr : buffer;
         std::memcpy(begin, &reported, sizeof reported);
         begin += sizeof reported;
-        std::copy_n(text.c_str(), text.size() + 1, buffer);
-        buffer += text.size() + 1;
+        std::copy_n(text.c_str(), text.size() + end, buffer);
+        buffer += text.size() + end;
     }
 }
 
@@ -55,6 +55,7 @@ qint32 FakePackages::called(const std::string& function) {
 
 qint32 FakePackages::getPackagesByPackageFamily(const char16_t* family, quint32* count, char16_t** fullNames,
                                                 quint32* bufferLength, char16_t* buffer) {
+    current->sizes.push_back({*count, *bufferLength});
     if (const qint32 failure = current->called("GetPackagesByPackageFamily")) {
         return failure;
     }
@@ -67,13 +68,17 @@ qint32 FakePackages::getPackagesByPackageFamily(const char16_t* family, quint32*
             names.push_back(package.fullName);
         }
     }
-    const bool fits = *count >= names.size() && *bufferLength >= lengthOf(names);
+    const std::size_t end = current->endsNoText ? 0 : 1;
+    const std::size_t needed = lengthOf(names) - (1 - end) * names.size();
+    const std::size_t given = *bufferLength;
+    const bool fits = *count >= names.size() && given >= needed;
     *count = static_cast<quint32>(names.size());
-    *bufferLength = static_cast<quint32>(lengthOf(names));
+    *bufferLength = static_cast<quint32>(needed);
     if (!fits) {
         return PackageFunctions::errorInsufficientBuffer;
     }
-    write(names, buffer, fullNames, current->reportsNoText);
+    std::fill_n(buffer, current->endsNoText ? given : 0, u'x');
+    write(names, buffer, fullNames, current->reportsNoText, end);
     *count = current->reportsNoCount ? 0 : *count;
     return PackageFunctions::errorSuccess;
 }
@@ -104,6 +109,7 @@ qint32 FakePackages::closePackageInfo(PackageFunctions::PackageInfo) {
 
 qint32 FakePackages::getPackageApplicationIds(PackageFunctions::PackageInfo info, quint32* bufferLength, uchar* buffer,
                                               quint32* count) {
+    current->sizes.push_back({*count, *bufferLength});
     if (const qint32 failure = current->called("GetPackageApplicationIds")) {
         return failure;
     }
@@ -112,12 +118,15 @@ qint32 FakePackages::getPackageApplicationIds(PackageFunctions::PackageInfo info
     }
     const Texts& ids = static_cast<const FakePackage*>(info)->applicationIds;
     const std::size_t pointers = ids.size() * sizeof(char16_t*);
-    const std::size_t needed = pointers + lengthOf(ids) * sizeof(char16_t);
+    const std::size_t needed = current->idBytes.value_or(pointers + lengthOf(ids) * sizeof(char16_t));
     const bool fits = *bufferLength >= needed;
     *bufferLength = static_cast<quint32>(needed);
     *count = static_cast<quint32>(ids.size());
     if (!fits) {
         return PackageFunctions::errorInsufficientBuffer;
+    }
+    if (current->idBytes) {
+        return PackageFunctions::errorSuccess;
     }
     write(ids, reinterpret_cast<char16_t*>(buffer + pointers), buffer, current->reportsNoText);
     *count = current->reportsNoCount ? 0 : *count;

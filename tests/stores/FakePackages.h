@@ -1,8 +1,9 @@
 #pragma once
 
-#include "stores/PackageFunctions.h"
+#include "stores/PackageQueries.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,9 +32,20 @@ public:
     /// The names of the functions called, in order.
     std::vector<std::string> calls;
 
+    /// The sizes that came with each call that tells or fills a buffer.
+    struct Sizes {
+        quint32 count;
+        quint32 length;
+    };
+
+    std::vector<Sizes> sizes;
+
+    std::optional<quint32> idBytes; ///< claimed for the IDs, and the buffer is then left alone
+
     int openInfos = 0;
     bool reportsNoText = false;  ///< succeeds with null pointers to the texts
     bool reportsNoCount = false; ///< succeeds with a count of 0, whatever it writes
+    bool endsNoText = false;     ///< writes the full names without their ends, after filling the buffer with rubbish
 
 private:
     FakePackages(const FakePackages&) = delete;

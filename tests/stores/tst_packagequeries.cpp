@@ -222,4 +222,38 @@ TEST_F(PackageQueriesTest, AFailureToCloseChangesNothing) {
     EXPECT_EQ(applicationId(), appId);
 }
 
+TEST_F(PackageQueriesTest, TheSecondCallForNamesGetsTheSizesOfTheFirst) {
+    system.packages.push_back({family, second, {}});
+    EXPECT_EQ(fullName(), first);
+    ASSERT_EQ(system.sizes.size(), 2U);
+    EXPECT_EQ(system.sizes[0].count, 0U);
+    EXPECT_EQ(system.sizes[0].length, 0U);
+    EXPECT_EQ(system.sizes[1].count, 2U);
+    EXPECT_EQ(system.sizes[1].length, first.size() + 1 + second.size() + 1);
+}
+
+TEST_F(PackageQueriesTest, TheSecondCallForIdsGetsTheSizeOfTheFirst) {
+    system.packages[1].applicationIds = {appId};
+    EXPECT_EQ(applicationId(), appId);
+    ASSERT_EQ(system.sizes.size(), 2U);
+    EXPECT_EQ(system.sizes[0].count, 0U);
+    EXPECT_EQ(system.sizes[0].length, 0U);
+    EXPECT_EQ(system.sizes[1].length, sizeof(char16_t*) + (appId.size() + 1) * sizeof(char16_t));
+}
+
+TEST_F(PackageQueriesTest, ANameWithoutAnEndEndsWhereTheSystemSays) {
+    system.endsNoText = true;
+    EXPECT_EQ(fullName(), first) << "at the buffer's end";
+    atCall("GetPackagesByPackageFamily", 2, 0, [this] { system.packages[1].fullName.resize(4); });
+    EXPECT_EQ(fullName(), u"Bolt") << "before it";
+}
+
+TEST_F(PackageQueriesTest, ABufferWithoutRoomForAPointerHasNoId) {
+    for (const quint32 bytes : {1U, 7U, 8U}) {
+        system.idBytes = bytes;
+        EXPECT_EQ(applicationId(), u"") << bytes;
+        EXPECT_EQ(system.openInfos, 0);
+    }
+}
+
 } // namespace
