@@ -215,4 +215,11 @@ TEST_F(UninstallFinderTest, KeepsNoUserLocation) {
     EXPECT_FALSE(finder.userLocation().isNull());
 }
 
+TEST_F(UninstallFinderTest, QuotesFurtherOnDoNotEndAnUnquotedCommand) {
+    pc.file("C:\\Games\\X\\game.exe");
+    addProgram(pc, {"1", "X", {}, "C:\\Games\\X\\unins000.exe \"/LOG=u.log\""});
+    EXPECT_FALSE(find("X", {"game.exe"}));
+    EXPECT_EQ(location, failedIn("C:/Games/X/unins000.exe \""));
+}
+
 } // namespace

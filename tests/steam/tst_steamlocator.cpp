@@ -170,4 +170,19 @@ TEST_F(SteamLocatorTest, TheConfigurationFolderLiesBesideTheExecutable) {
     EXPECT_EQ(findSteamConfigFolder(logger), "C:/Steam/config");
 }
 
+TEST_F(SteamLocatorTest, AnExpandableCommandIsCheckedAsItReads) {
+    const QString command = "C:\\Steam\\steam.exe";
+    pc.file(command);
+    pc.value({RootKey::ClassesRoot, "steam\\Shell\\Open\\Command", View::view32}, "", 2,
+             QByteArray(reinterpret_cast<const char*>(command.utf16()), command.size() * 2 + 2));
+    EXPECT_EQ(find(), "");
+    EXPECT_EQ(pc.messages("Test").first(), "A: SteamExeFinder: Checking ?");
+}
+
+TEST_F(SteamLocatorTest, TheConfigurationFolderIsFoundThroughTheStartMenuAsWell) {
+    pc.file("D:\\Steam\\Steam.exe");
+    pc.shortcut("C:\\Menu\\Steam.lnk", "D:\\Steam\\Steam.exe");
+    EXPECT_EQ(findSteamConfigFolder(logger), "D:/Steam/config");
+}
+
 } // namespace

@@ -79,4 +79,10 @@ TEST(EpicManifestTest, ALargeManifestIsReadWhole) {
     EXPECT_EQ(entry->AppName, "Kiwi");
 }
 
+TEST(EpicManifestTest, OfAKeyThatIsThereTwiceTheLastCounts) {
+    const auto entry = parseEpicManifest(R"({"AppName": "Kiwi", "InstallLocation": "C:\\X", "AppName": "Plum"})");
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(entry->AppName, "Plum");
+}
+
 } // namespace

@@ -150,4 +150,13 @@ TEST_F(EpicStoreFinderTest, TheFactoryMakesItAndKeepsOneIndexForAll) {
     EXPECT_EQ(pc.log("Quorvan.Finders.EpicStore").count("LOG CREATED"), 1);
 }
 
+TEST_F(EpicStoreFinderTest, AnEmptyExecutableStandsForTheFolderItself) {
+    pc.folder("D:\\Epic\\Kiwi");
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Epic\\Kiwi"});
+    EXPECT_TRUE(find("Kiwi", {""}, equals));
+    EXPECT_EQ(location.executablePath, "D:\\Epic\\Kiwi\\");
+    EXPECT_THAT(location.executablePaths, ElementsAre("D:\\Epic\\Kiwi\\"));
+    EXPECT_THAT(pc.messages("Test"), ElementsAre("A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\"));
+}
+
 } // namespace

@@ -164,4 +164,14 @@ TEST_F(OculusLibrariesTest, TheFactoryLooksAnewAtEachQuestion) {
     EXPECT_EQ(pc.log("Quorvan.Finders.OculusStore"), "");
 }
 
+TEST_F(OculusLibrariesTest, APathOfAnotherTypeIsTakenAsItReads) {
+    const QString path = "D:\\Apps";
+    makeOculusFolders(pc, path);
+    pc.number({RootKey::CurrentUser, oculusKeyPath + "\\1", View::view64}, "Path", 42);
+    pc.value({RootKey::CurrentUser, oculusKeyPath + "\\2", View::view64}, "Path", 2,
+             QByteArray(reinterpret_cast<const char*>(path.utf16()), path.size() * 2 + 2));
+    EXPECT_THAT(oculusLibraryFolders(logger), IsEmpty());
+    EXPECT_THAT(pc.messages("Test"), ElementsAre(rejected("42", "42", "0, 0, 0"), rejected("?", "?", "0, 0, 0")));
+}
+
 } // namespace

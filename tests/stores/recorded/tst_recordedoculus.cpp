@@ -56,4 +56,15 @@ TEST_F(OculusRecordedTest, AManifestThatBeginsWithADotNamesTheEmptyApp) {
     EXPECT_EQ(index.findByAppId("").size(), 1U);
 }
 
+TEST_F(OculusRecordedTest, EveryDriveLetterCounts) {
+    for (const char letter : {'A', 'Z'}) {
+        const QByteArray drive(1, letter);
+        for (const char* folder : {"/Apps/Software", "/Apps/Manifests"}) {
+            recording.folder("drives/" + drive + folder);
+        }
+        EXPECT_THAT(foldersOf(R"(\\\\?\\Volume{ab}\\Apps)", '"' + drive + R"(": "\\\\?\\Volume{ab}\\")"),
+                    ElementsAre(drive + ":/Apps/Manifests"));
+    }
+}
+
 } // namespace

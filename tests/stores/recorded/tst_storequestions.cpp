@@ -14,6 +14,7 @@
 namespace {
 
 using ::testing::Contains;
+using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
@@ -65,6 +66,21 @@ TEST_F(StoreQuestionsTest, OculusManifestsAreNeverOpenedAndListedOnce) {
                     index.findByAppId("kite");
                 }),
                 IsEmpty());
+}
+
+TEST_F(StoreQuestionsTest, AManifestThatCanNotBeOpenedIsSkippedByName) {
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
+    addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Plum"});
+    Recorded::setObserver([this](const QString& question) {
+        if (question == "open C:/Epic/Manifests/1.item") { // it goes between the listing and its opening
+            pc.removeFile(manifestFolder + "\\1.item");
+        }
+    });
+    EpicManifestIndex index;
+    EXPECT_EQ(index.entries().size(), 1U);
+    EXPECT_THAT(pc.messages("Quorvan.Finders.EpicStore"),
+                ElementsAre("A: MetaDir Folder: " + manifestFolder, "W:   Skipped invalid manifest: 1.item",
+                            "A:   App: Plum | Plum"));
 }
 
 } // namespace
