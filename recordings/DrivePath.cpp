@@ -1,6 +1,7 @@
 #include "recordings/DrivePath.h"
 
 #include "recordings/WindowsNames.h"
+#include "recordings/WindowsPath.h"
 
 #include <algorithm>
 
@@ -29,55 +30,29 @@ bool isDevice(const QString& name) {
            folded == QLatin1String("NUL");
 }
 
-// A name that a separator follows loses a single dot at its end, the last name of a path all dots and spaces.
-QString trimmedName(QString name, bool isLast) {
-    if (!isLast) {
-        return name.endsWith(dot) && !name.endsWith(QLatin1String("..")) ? name.left(name.size() - 1) : name;
-    }
-    while (name.endsWith(dot) || name.endsWith(QLatin1Char(' '))) {
-        name.chop(1);
-    }
-    return name;
-}
-
 } // namespace
 
-QString withSlashes(const QString& path) {
-    QString result = path.startsWith(QLatin1String("\\\\?\\")) ? path.mid(4) : path;
-    return result.replace(QLatin1Char('\\'), slash);
-}
-
 std::optional<DrivePath> DrivePath::parse(const QString& path) {
-    const QString text = withSlashes(path);
+    QString text = Path(path).text();
+    if (text.startsWith(QLatin1String("//./"))) {
+        text.remove(0, 4);
+    }
     if (text.size() < 2 || !isLetter(text.at(0)) || text.at(1) != QLatin1Char(':')) {
         return std::nullopt;
     }
     DrivePath result;
     result.letter = text.at(0);
-    // Qt puts a space at the end of a path back after Windows has removed it, so that such a path leads nowhere.
-    result.isValid = !text.endsWith(QLatin1Char(' '));
     result.isFolderOnly = text.endsWith(slash);
-    const QStringList parts = text.mid(2).split(slash);
-    for (int i = 0; i < parts.size(); ++i) {
-        const QString& part = parts.at(i);
-        if (part == QLatin1String("..")) {
-            if (!result.names.isEmpty()) {
-                result.names.removeLast();
-            }
-            continue;
-        }
-        const QString name = trimmedName(part, i + 1 == parts.size());
-        if (!name.isEmpty()) {
-            result.names.append(name);
-        }
-    }
-    // A name with a dot or a space left at its end is one that no program of Windows makes.
-    result.isValid = result.isValid && std::all_of(result.names.begin(), result.names.end(), canName);
+    result.names = Path::workedOut(text.mid(2));
+    // No file has a name with a dot or a space at its end, which no program of Windows makes. At the end of a whole
+    // path Qt puts a space back that Windows has removed.
+    result.isValid = !text.endsWith(QLatin1Char(' ')) && std::all_of(result.names.begin(), result.names.end(), canName);
     return result;
 }
 
 bool DrivePath::canName(const QString& name) {
-    return trimmedName(name, true) == name && !isDevice(name) && std::none_of(name.begin(), name.end(), isForbidden);
+    return !name.endsWith(dot) && !name.endsWith(QLatin1Char(' ')) && !isDevice(name) &&
+           std::none_of(name.begin(), name.end(), isForbidden);
 }
 
 QString DrivePath::text() const {

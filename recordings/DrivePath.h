@@ -16,7 +16,7 @@ struct DrivePath {
 
     bool isFolderOnly = false; ///< a separator ends it, so that no file is meant
 
-    /// Takes apart "C:\x", "c:/x", "C:x" and "\\?\C:\x". Empty when `path` doesn't begin with a drive.
+    /// Takes apart "C:\x", "c:/x", "C:x", "\\?\C:\x" and "\\.\C:\x". Empty when `path` doesn't begin with a drive.
     static std::optional<DrivePath> parse(const QString& path);
 
     /// Whether a file on Windows can have `name`.
@@ -27,8 +27,5 @@ struct DrivePath {
     /// "C:/Games/X", without a slash at the end but for "C:/".
     QString text() const;
 };
-
-/// `path` as Qt writes it on Windows: with slashes, and without a "\\?\" before it.
-QString withSlashes(const QString& path);
 
 } // namespace Windows

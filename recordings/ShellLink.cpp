@@ -3,6 +3,7 @@
 #include "recordings/ByteView.h"
 #include "recordings/DrivePath.h"
 #include "recordings/WindowsNames.h"
+#include "recordings/WindowsPath.h"
 
 #include <QHash>
 
@@ -211,7 +212,7 @@ QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, 
         const auto path = Windows::DrivePath::parse(folder + QLatin1Char('/') + link.relativePath);
         target = path ? path->text() : QString();
     }
-    return target.size() > longestTarget ? QString() : Windows::withSlashes(target);
+    return target.size() > longestTarget ? QString() : Windows::Path(target).text();
 }
 
 } // namespace Recorded

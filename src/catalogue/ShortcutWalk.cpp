@@ -19,7 +19,7 @@ struct Folder {
 };
 
 QString pathIn(const QString& folder, const QString& name) {
-    return folder.endsWith(Paths::separatorFor(folder)) ? folder + name : Paths::join(folder, name);
+    return folder.endsWith(Paths::separator()) ? folder + name : Paths::join(folder, name);
 }
 
 bool namesItself(const Platform::FolderEntry& entry) {

@@ -12,7 +12,7 @@ constexpr quint64 longestWalkMs = 30'000;
 
 /// By its text, as asking the file system would open each shortcut.
 QString nameOf(const QString& shortcut) {
-    const QString file = shortcut.mid(shortcut.lastIndexOf(Paths::separatorFor(shortcut)) + 1);
+    const QString file = shortcut.mid(shortcut.lastIndexOf(Paths::separator()) + 1);
     return file.left(file.lastIndexOf(QLatin1Char('.')));
 }
 

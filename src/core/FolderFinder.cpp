@@ -6,8 +6,6 @@
 #include "support/Paths.h"
 #include "support/Trace.h"
 
-#include <QDir>
-
 namespace Finders {
 
 FolderFinder::FolderFinder(Logger* logger, const QString& folder, const QStringList& executables)
@@ -16,8 +14,7 @@ FolderFinder::FolderFinder(Logger* logger, const QString& folder, const QStringL
     , m_executables(executables) {}
 
 bool FolderFinder::find(GameLocation& location) {
-    const QDir dir(m_folder);
-    if (!Files::folderExists(dir)) {
+    if (!Files::folderExists(m_folder)) {
         Trace::note("The folder %ls is missing.", qUtf16Printable(m_folder));
         return false;
     }
@@ -25,12 +22,12 @@ bool FolderFinder::find(GameLocation& location) {
     resetLocation(location);
     bool found = false;
     for (const QString& executable : qAsConst(m_executables)) {
-        const QString path = dir.absoluteFilePath(executable);
+        const QString path = Paths::absoluteFilePath(m_folder, executable);
         if (!Files::exists(path)) {
             continue;
         }
         const QString native = Paths::toNative(path);
-        location.installFolder = Paths::toNative(dir.absolutePath());
+        location.installFolder = Paths::toNative(Paths::absoluteFolder(m_folder));
         addExecutable(location, native, native);
         logger().logAlways("Folder: %ls", qUtf16Printable(path));
         found = true;

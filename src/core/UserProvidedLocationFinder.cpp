@@ -7,7 +7,6 @@
 #include "support/Paths.h"
 #include "support/Trace.h"
 
-#include <QDir>
 #include <QSettings>
 
 namespace Finders {
@@ -87,7 +86,7 @@ QString UserProvidedLocationFinder::installFolderFor(const QString& path) const 
         const int depth = separatorsIn(executable);
         const QString up = path + QString(QLatin1String("/..")).repeated(depth);
         if (depth > 0 && Files::exists(Paths::join(up, executable))) {
-            return QDir(up).absolutePath();
+            return Paths::absoluteFolder(up);
         }
     }
     return path;

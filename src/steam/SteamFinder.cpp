@@ -5,9 +5,8 @@
 #include "steam/SteamLibraryIndex.h"
 #include "support/Files.h"
 #include "support/Logger.h"
+#include "support/Paths.h"
 #include "support/Trace.h"
-
-#include <QDir>
 
 namespace Finders {
 
@@ -48,7 +47,7 @@ bool SteamFinder::findInLibraries(GameLocation& location) const {
         Trace::note("No Steam library has the app %ls.", qUtf16Printable(m_appId));
     }
     for (const SteamAppEntry& entry : entries) {
-        if (findIn(QDir(entry.commonFolder).absoluteFilePath(m_installFolderName), location)) {
+        if (findIn(Paths::absoluteFilePath(entry.commonFolder, m_installFolderName), location)) {
             return true;
         }
     }
@@ -57,7 +56,7 @@ bool SteamFinder::findInLibraries(GameLocation& location) const {
 
 bool SteamFinder::findIn(const QString& folder, GameLocation& location) const {
     resetLocation(location, folder);
-    if (folder.isEmpty() || !Files::folderExists(QDir(folder))) {
+    if (folder.isEmpty() || !Files::folderExists(folder)) {
         Trace::note("The install folder \"%ls\" is missing.", qUtf16Printable(folder));
         return false;
     }

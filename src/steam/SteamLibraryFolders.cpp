@@ -1,9 +1,8 @@
 #include "steam/SteamLibraryFolders.h"
 
 #include "support/Files.h"
+#include "support/Paths.h"
 #include "support/Text.h"
-
-#include <QDir>
 
 #include <optional>
 
@@ -27,8 +26,8 @@ QStringList parseLibraryFolders(const QString& vdfPath) {
     const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     for (const QString& line : lines) {
         const std::optional<QString> library = libraryIn(line);
-        if (library && Files::folderExists(QDir(*library))) {
-            folders.append(QDir(*library).absolutePath() + QLatin1String("/steamapps"));
+        if (library && Files::folderExists(*library)) {
+            folders.append(Paths::absoluteFolder(*library) + QLatin1String("/steamapps"));
         }
     }
     return folders;

@@ -3,6 +3,7 @@
 #include "platform/Folders.h"
 #include "support/Files.h"
 #include "support/Logger.h"
+#include "support/Paths.h"
 #include "support/RegistryKey.h"
 #include "support/Trace.h"
 
@@ -50,17 +51,18 @@ void addLibrary(const QString& registered, const VolumeMap& volumes, QStringList
     const QString software = QStringLiteral("Software");
     const QString manifests = QStringLiteral("Manifests");
     const QString path = withDrive(registered, volumes);
-    QDir library(path);
+    const QDir library(path);
     const bool hasSoftware = Files::exists(library.filePath(software));
     const bool hasManifests = Files::exists(library.filePath(manifests));
     if (hasSoftware && hasManifests) {
-        library.cd(manifests); // where a file has the name, the library itself is taken
-        folders.append(library.absolutePath());
+        QString folder = path;
+        Files::enter(folder, manifests); // where a file has the name, the library itself is taken
+        folders.append(Paths::absoluteFolder(folder));
         return;
     }
     logger.logError("OculusStore: Failed to open. UNC: %ls, path: %ls, %d, %d, %d", qUtf16Printable(registered),
-                    qUtf16Printable(path), static_cast<int>(Files::folderExists(library)),
-                    static_cast<int>(hasSoftware), static_cast<int>(hasManifests));
+                    qUtf16Printable(path), static_cast<int>(Files::folderExists(path)), static_cast<int>(hasSoftware),
+                    static_cast<int>(hasManifests));
 }
 
 } // namespace

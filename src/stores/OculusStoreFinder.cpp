@@ -4,9 +4,8 @@
 #include "stores/OculusLibraryIndex.h"
 #include "support/Files.h"
 #include "support/Logger.h"
+#include "support/Paths.h"
 #include "support/Trace.h"
-
-#include <QDir>
 
 #include <algorithm>
 
@@ -36,13 +35,13 @@ bool OculusStoreFinder::find(GameLocation& location) {
 }
 
 bool OculusStoreFinder::findBy(const OculusAppEntry& entry, GameLocation& location) const {
-    QDir dir(entry.manifestsFolder);
-    const bool isThere = dir.cdUp() && dir.cd(QStringLiteral("Software")) && dir.cd(m_softwareFolder);
-    dir.makeAbsolute();
-    const QString folder = dir.absolutePath();
+    QString folder = entry.manifestsFolder;
+    const bool isThere = Files::enter(folder, QStringLiteral("..")) &&
+                         Files::enter(folder, QStringLiteral("Software")) && Files::enter(folder, m_softwareFolder);
+    folder = Paths::absoluteFolder(folder);
 
     resetLocation(location, folder);
-    if (!isThere || folder.isEmpty() || !Files::folderExists(QDir(folder))) {
+    if (!isThere || folder.isEmpty() || !Files::folderExists(folder)) {
         Trace::note("The folder %ls is missing beside %ls.", qUtf16Printable(m_softwareFolder),
                     qUtf16Printable(entry.manifestsFolder));
         return false;

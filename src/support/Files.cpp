@@ -29,8 +29,12 @@ bool exists(const QString& path) {
     return told(path, QFile::exists(path));
 }
 
-bool folderExists(const QDir& folder) {
-    return told(folder.path(), folder.exists());
+bool folderExists(const QString& folder) {
+    return told(Platform::writtenFolder(folder), QDir(folder).exists());
+}
+
+bool enter(QString& folder, const QString& name) {
+    return Platform::changeFolder(folder, name);
 }
 
 QStringList names(const QString& folder, const QString& pattern) {

@@ -4,8 +4,6 @@
 #include <QString>
 #include <QStringList>
 
-class QDir;
-
 /// What finders ask of the file system: Qt's own questions, each told to the trace. Names of files come in the file
 /// system's order.
 namespace Files {
@@ -14,7 +12,11 @@ namespace Files {
 bool exists(const QString& path);
 
 /// QDir::exists: the folder itself is there.
-bool folderExists(const QDir& folder);
+bool folderExists(const QString& folder);
+
+/// QDir::cd: makes `folder` the folder `name` in it, or the one above it ("..") or any other when `name` is a whole
+/// path. False when there is none; `folder` is then untouched.
+bool enter(QString& folder, const QString& name);
 
 /// The names of the folder's files that fit a pattern like "*.acf", without hidden ones; empty when it can't be listed.
 QStringList names(const QString& folder, const QString& pattern);

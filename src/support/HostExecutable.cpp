@@ -2,7 +2,8 @@
 
 #include "platform/Folders.h"
 #include "platform/Process.h"
-#include "support/Paths.h"
+
+#include <QDir>
 
 #include <array>
 
@@ -21,7 +22,9 @@ HostExecutable HostExecutable::from(ModuleFileName moduleFileName) {
         return {};
     }
     const QString path = QString::fromUtf16(buffer.data());
-    return {path, path.mid(path.lastIndexOf(Paths::separatorFor(path)) + 1)};
+    // A recorded host is named as on its PC, every other one as here.
+    const QChar separator = path.contains(QLatin1Char('\\')) ? QChar(u'\\') : QDir::separator();
+    return {path, path.mid(path.lastIndexOf(separator) + 1)};
 }
 
 QString hostExecutablePath() {

@@ -1,8 +1,9 @@
 #include "support/KnownFolders.h"
 
 #include "platform/Folders.h"
-#include "support/Paths.h"
 #include "support/Trace.h"
+
+#include <QDir>
 
 #include <array>
 
@@ -43,5 +44,5 @@ QString knownFolderPath(int csidl) {
 
 QString makeMakerFolderPath(int kind, const QString& sub) {
     const QString folder = ask(Platform::ownFolderPath, csidlOf(kind));
-    return Paths::join(Paths::join(folder, QStringLiteral("Veltrane")), sub);
+    return folder + QDir::separator() + QLatin1String("Veltrane") + QDir::separator() + sub;
 }

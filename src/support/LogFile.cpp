@@ -6,7 +6,8 @@
 #include "support/FileVersion.h"
 #include "support/HostExecutable.h"
 #include "support/LogPrefix.h"
-#include "support/Paths.h"
+
+#include <QDir>
 
 #include <array>
 
@@ -19,7 +20,7 @@ QString pathOf(const QByteArray& name, const LogFileOptions& options) {
     Platform::createFolder(folder);
 
     const QString processName = options.appendProcessName ? hostExecutableFileName() : QString();
-    return Paths::join(folder, logFileName(name, processName));
+    return folder + QDir::separator() + logFileName(name, processName);
 }
 
 const char* modeOf(const LogFileOptions& options) {

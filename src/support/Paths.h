@@ -1,26 +1,43 @@
 #pragma once
 
-#include <QChar>
-#include <QString>
+#include "platform/Paths.h"
 
-/// Native path syntax. On Windows this is QDir's own. Elsewhere a path that Windows would know (with a drive letter, or
-/// beginning with two backslashes) takes backslashes too, so that a recorded PC gives the answers that the PC gives;
-/// every other path keeps Qt's own way.
+/// Paths of the PC that finders look at, in the words that finders use. This library's own files, which are not on a
+/// recorded PC, take QDir::separator().
 namespace Paths {
 
-/// The separator to add to `path`.
-QChar separatorFor(const QString& path);
+inline QChar separator() {
+    return Platform::pathSeparator();
+}
 
-/// QDir::toNativeSeparators for Windows' paths as well.
-QString toNative(const QString& path);
+inline QString toNative(const QString& path) {
+    return Platform::toNativeSeparators(path);
+}
 
 /// `folder`, one native separator, `name`: never checks whether `folder` ends with a separator already.
-QString join(const QString& folder, const QString& name);
+inline QString join(const QString& folder, const QString& name) {
+    return folder + separator() + name;
+}
 
-/// QDir::cleanPath, with either separator in `path`, and then toNative.
-QString cleaned(const QString& path);
+/// Cleaned, and native.
+inline QString cleaned(const QString& path) {
+    return toNative(Platform::cleanPath(path));
+}
 
-/// QFileInfo::absolutePath, with either separator in `path`: the folder of `path`, with forward slashes.
-QString absoluteFolderOf(const QString& path);
+// With forward slashes:
+
+/// The folder that `path` is in.
+inline QString absoluteFolderOf(const QString& path) {
+    return Platform::absoluteFolderOf(path);
+}
+
+inline QString absoluteFolder(const QString& folder) {
+    return Platform::absoluteFolder(folder);
+}
+
+/// `name` below `folder`, or by itself when it is a whole path.
+inline QString absoluteFilePath(const QString& folder, const QString& name) {
+    return Platform::absoluteFilePath(folder, name);
+}
 
 } // namespace Paths

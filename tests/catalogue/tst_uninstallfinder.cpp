@@ -123,7 +123,8 @@ TEST_F(UninstallFinderTest, TakesTheProgramOutOfAQuotedCommand) {
     for (const char* command :
          {"\"C:\\Games\\X\\unins000.exe\" /SILENT", "\"C:\\Games\\X\\unins000.exe\"", "\"C:\\Games\\X\\unins000.exe",
           "C:\\Games\\X\\unins000.exe", "C:/Games/X/unins000.exe", "\"C:\\Games\\X\\u.exe\" \"D:\\other\"",
-          "c:\\Games\\X\\unins000.exe -silent", "C:\\Games\\.\\Y\\..\\X\\u.exe", "C:\\Games\\X\\"}) {
+          "c:\\Games\\X\\unins000.exe -silent", "C:\\Games\\.\\Y\\..\\X\\u.exe", "C:\\Games\\X\\",
+          "\\\\?\\C:\\Games\\X\\unins000.exe", "\"\\\\?\\C:\\Games\\X\\unins000.exe\" /SILENT", "C:Games\\X\\u.exe"}) {
         const QString name = "X" + QString::number(++number);
         addProgram(pc, {name, name, {}, command});
         EXPECT_TRUE(find(name, {"game.exe"})) << command;

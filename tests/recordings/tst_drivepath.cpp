@@ -21,6 +21,8 @@ TEST(DrivePathTest, TakesPathsWithADriveOnly) {
     EXPECT_EQ(parsed("C:\\Games\\X"), "C:/Games/X");
     EXPECT_EQ(parsed("z:/Games/X"), "z:/Games/X");
     EXPECT_EQ(parsed("\\\\?\\C:\\Games"), "C:/Games");
+    EXPECT_EQ(parsed("\\\\.\\C:\\a\\..\\Games"), "C:/Games");
+    EXPECT_EQ(parsed("//./C:/Games"), "C:/Games");
     for (const char* const path : {"", "C", "/C:/x", "\\\\server\\share", "//?/C:/x", "1:/x", "ä:/x", ":/x", "Games\\X",
                                    "\\\\?\\Volume{00000000-0000-0000-0000-000000000000}\\x"}) {
         EXPECT_EQ(parsed(path), "(none)") << path;

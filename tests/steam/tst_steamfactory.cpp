@@ -116,6 +116,18 @@ TEST_F(SteamFactoryTest, FindsSteamVrByItsSteamEntry) {
     EXPECT_EQ(plugin.create()->steamVrFolder(), "D:\\SteamVR");
 }
 
+TEST_F(SteamFactoryTest, SteamVrsFolderIsAsQtCleansIt) {
+    pc.file("D:\\SteamVR\\" + server);
+    addProgram(pc, {"SteamVR", "SteamVR", "\\\\?\\D:\\SteamVR\\", {}});
+    EXPECT_EQ(plugin.create()->steamVrFolder(), "D:\\SteamVR") << "without what switches Windows' own cleaning off";
+}
+
+TEST_F(SteamFactoryTest, SteamVrsFolderKeepsTheNameOfADevice) {
+    pc.file("D:\\SteamVR\\" + server);
+    addProgram(pc, {"SteamVR", "SteamVR", "\\\\.\\D:\\SteamVR\\", {}});
+    EXPECT_EQ(plugin.create()->steamVrFolder(), "\\\\.\\D:\\SteamVR");
+}
+
 TEST_F(SteamFactoryTest, FindsSteamVrByItsUninstallEntrySecond) {
     pc.file("D:\\Uninstall\\" + server);
     addProgram(pc, {"X", "steamvr", "D:/Uninstall/./SteamVR/../", {}});

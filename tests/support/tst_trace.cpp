@@ -92,7 +92,7 @@ TEST(Trace, TellsWhichFilesAreLookedForAndListedAndRead) {
     pc.file("C:\\Luruludri Test\\a.acf", "abc");
     const TraceLog trace;
     Files::exists("C:\\Luruludri Test\\a.acf");
-    Files::folderExists(QDir("C:\\Luruludri Test\\b"));
+    Files::folderExists("C:\\Luruludri Test\\b");
     Files::names("C:\\Luruludri Test", "*.acf");
     Files::readWholeFile("C:\\Luruludri Test\\a.acf");
     const std::vector<QJsonObject> events = trace.events();

@@ -2,7 +2,9 @@
 
 #include "platform/recorded/DriveFolderIterator.h"
 #include "platform/recorded/Observer.h"
+#include "platform/recorded/PcPaths.h"
 #include "recordings/ShellLink.h"
+#include "recordings/WindowsPath.h"
 
 #include <QDateTime>
 
@@ -30,29 +32,6 @@ bool isExecutable(const QString& path) {
     });
 }
 
-// Qt asks Windows to work a path out only when it isn't clean already.
-bool isClean(const QString& path) {
-    const QStringList names = path.split(slash);
-    for (int i = 1; i < names.size(); ++i) {
-        const QString& name = names.at(i);
-        const bool isEmptyInside = name.isEmpty() && i + 1 < names.size();
-        if (isEmptyInside || name == QLatin1String(".") || name == QLatin1String("..")) {
-            return false;
-        }
-    }
-    return names.size() > 1 && names.first().size() == 2;
-}
-
-QString parentOf(const QString& path) {
-    const int last = path.lastIndexOf(slash);
-    return path.left(last < rootLength ? rootLength : last);
-}
-
-QString withUpperDrive(QString path) {
-    path[0] = path.at(0).toUpper();
-    return path;
-}
-
 } // namespace
 
 DriveFileEngine::DriveFileEngine(std::shared_ptr<const RecordedPc> pc, const QString& path)
@@ -61,7 +40,7 @@ DriveFileEngine::DriveFileEngine(std::shared_ptr<const RecordedPc> pc, const QSt
 }
 
 void DriveFileEngine::setFileName(const QString& path) {
-    m_path = Windows::withSlashes(path);
+    m_path = Windows::Path(path).text();
     m_parsed = Windows::DrivePath::parse(m_path).value_or(Windows::DrivePath{});
     m_subject.reset();
 }
@@ -92,7 +71,8 @@ const DriveFileEngine::Subject& DriveFileEngine::subject() const {
 QString DriveFileEngine::targetOf(const Drives::File& shortcut) const {
     const std::optional<QByteArray> bytes = HostFiles::readFile(shortcut.realPath, longestShortcut);
     const std::optional<ShellLink> link = bytes ? parseShellLink(*bytes) : std::nullopt;
-    return link ? Recorded::targetOf(*link, m_pc->description().environment, parentOf(m_parsed.text())) : QString();
+    return link ? Recorded::targetOf(*link, m_pc->description().environment, Windows::Path::folderOf(m_parsed.text()))
+                : QString();
 }
 
 bool DriveFileEngine::open(QIODevice::OpenMode mode) {
@@ -166,11 +146,7 @@ qint64 DriveFileEngine::read(char* data, qint64 length) {
 }
 
 QString DriveFileEngine::absoluteName() const {
-    if (isClean(m_path)) {
-        return m_path;
-    }
-    const QString text = withUpperDrive(m_parsed.text());
-    return m_parsed.isFolderOnly && !text.endsWith(slash) ? text + slash : text;
+    return Windows::Path(m_path).absolute(currentDrive(*m_pc));
 }
 
 // Qt follows a shortcut but asks nobody how the names on the way are really spelled.
@@ -179,7 +155,7 @@ QString DriveFileEngine::canonicalName() const {
     if (!s.file) {
         return {};
     }
-    QString name = withUpperDrive(s.isShortcut ? s.path.text() : absoluteName());
+    QString name = s.isShortcut ? Windows::Path(s.path.text()).absolute(s.path.letter) : absoluteName();
     if (name.size() > rootLength && name.endsWith(slash)) {
         name.chop(1);
     }
@@ -191,15 +167,15 @@ QString DriveFileEngine::fileName(FileName part) const {
     case BaseName:
         return m_path.mid(m_path.lastIndexOf(slash) + 1);
     case PathName:
-        return parentOf(m_path);
+        return Windows::Path::folderOf(m_path);
     case AbsoluteName:
         return absoluteName();
     case AbsolutePathName:
-        return withUpperDrive(parentOf(absoluteName()));
+        return Windows::Path::folderOf(absoluteName());
     case CanonicalName:
         return canonicalName();
     case CanonicalPathName:
-        return subject().file ? parentOf(canonicalName()) : QStringLiteral(".");
+        return subject().file ? Windows::Path::folderOf(canonicalName()) : QStringLiteral(".");
     case LinkName:
         return subject().shortcutTarget;
     case BundleName:

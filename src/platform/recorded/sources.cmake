@@ -12,6 +12,8 @@ target_sources(
             platform/recorded/Listing.cpp
             platform/recorded/Locks.cpp
             platform/recorded/Observer.cpp
+            platform/recorded/Paths.cpp
+            platform/recorded/PcPaths.cpp
             platform/recorded/Process.cpp
             platform/recorded/RecordedPc.cpp
             platform/recorded/Recording.cpp

@@ -1,0 +1,10 @@
+#include "platform/recorded/PcPaths.h"
+
+namespace Recorded {
+
+QChar currentDrive(const RecordedPc& pc) {
+    const std::optional<Windows::DrivePath> host = Windows::DrivePath::parse(pc.description().hostExecutable);
+    return host ? host->letter.toUpper() : QChar(u'C');
+}
+
+} // namespace Recorded
