@@ -206,7 +206,7 @@ TEST_F(EpicManifestIndexTest, HiddenManifestsAreNotListed) {
     addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Plum"});
     pc.hide(manifestFolder + "\\1.item");
     EXPECT_THAT(appNames(), ElementsAre("Plum"));
-    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine, "A:   App: Plum | Plum"));
+    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine(), "A:   App: Plum | Plum"));
 }
 
 TEST_F(EpicManifestIndexTest, ManifestsKeepTheFileSystemsOrder) {

@@ -34,12 +34,12 @@ protected:
 };
 
 TEST_F(ScriptedFoldersTest, AFolderIsThereUnlessTheResultIsNegative) {
+    const QString separator = QDir::separator();
     for (const qint32 result : {0, 1, 2}) {
         answer(result);
         EXPECT_EQ(knownFolderPath(11), "C:\\Folder") << result;
-        EXPECT_EQ(makeMakerFolderPath(0, "Logs"), "C:\\Folder\\Veltrane\\Logs") << result;
+        EXPECT_EQ(makeMakerFolderPath(0, "Logs"), "C:\\Folder" + separator + "Veltrane" + separator + "Logs") << result;
     }
-    const QString separator = QDir::separator();
     for (const qint32 result : {-1, static_cast<qint32>(0x80004005)}) {
         answer(result);
         EXPECT_EQ(knownFolderPath(11), "") << result;

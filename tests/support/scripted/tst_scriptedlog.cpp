@@ -21,7 +21,8 @@ using ::testing::ElementsAre;
 
 constexpr qint64 limit = 10'485'760;
 
-const QString folder = "C:\\Data\\Veltrane\\Logs";
+const QChar separator = QDir::separator();
+const QString folder = QString("C:\\Data") + separator + "Veltrane" + separator + "Logs";
 
 /// What became of one stream. Text is on the disk once it was flushed, and not by closing the stream.
 struct StreamRecord {
@@ -92,7 +93,7 @@ protected:
     }
 
     static QString named(const QString& path) {
-        EXPECT_TRUE(path.startsWith(folder + '\\')) << path.toStdString();
+        EXPECT_TRUE(path.startsWith(folder + separator)) << path.toStdString();
         return path.mid(folder.size() + 1);
     }
 
