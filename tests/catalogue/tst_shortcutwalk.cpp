@@ -165,11 +165,10 @@ TEST_F(SlowWalkTest, ASlowEndOfTheLastListingCostsAllShortcuts) {
         now = isThere ? now : timeOfTheEnd;
         return isThere;
     };
-    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, source), ElementsAre("C:\\Menu\\a.lnk", "C:\\Menu\\Sub\\b.lnk"));
+    EXPECT_THAT(shortcutsBelow("C:\\Menu\\Sub", limitMs, source), ElementsAre("C:\\Menu\\Sub\\b.lnk"));
     now = 0;
     timeOfTheEnd = limitMs;
-    pc.removeFile("C:\\Menu\\Sub\\b.lnk");
-    EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, source), IsEmpty());
+    EXPECT_THAT(shortcutsBelow("C:\\Menu\\Sub", limitMs, source), IsEmpty());
 }
 
 TEST_F(SlowWalkTest, AListingThatFailsSlowlyCostsAllShortcuts) {
