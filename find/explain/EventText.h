@@ -1,11 +1,11 @@
 #pragma once
 
+#include "find/explain/TraceReader.h"
+
 #include <QString>
 #include <QStringList>
 
 namespace Host {
-
-class TraceEvent;
 
 /// What an event of the trace says, for people: one line, some more where names are listed. Empty for an event that
 /// tells nothing of the PC.

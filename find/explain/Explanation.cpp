@@ -96,9 +96,9 @@ void Explainer::addSection(const TraceSection& section, const std::vector<Finder
 
 void Explainer::addInner(const TraceSection& inner, const std::vector<FinderEntry>& finders, const QString& place) {
     const auto index = static_cast<std::size_t>(inner.number) - 1;
-    if (inner.what == QLatin1String("index")) {
+    if (inner.kind == TraceSection::Kind::Index) {
         addIndented(describeIndex(inner, m_words));
-    } else if (inner.what == QLatin1String("finder") && inner.number > 0 && index < finders.size()) {
+    } else if (inner.kind == TraceSection::Kind::Finder && inner.number > 0 && index < finders.size()) {
         addFinder(inner, finders[index], place + QString::number(inner.number) + QLatin1Char('.'));
     }
 }
@@ -116,7 +116,7 @@ void Explainer::addEvent(const TraceEvent& event) {
         return;
     }
     const QStringList lines = describeEvent(event);
-    if (event.is("userLocation")) {
+    if (std::holds_alternative<Trace::UserLocation>(event)) {
         // After a finder, its multi finder asks for the user's choice as well.
         if (lines == m_userLocation) {
             return;

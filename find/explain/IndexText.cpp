@@ -21,7 +21,8 @@ struct Block {
 
 /// What the list's own log file says is told by the events themselves, but for what went wrong.
 bool isOfALog(const TraceEvent& event) {
-    return isOfLogLevel(event) || (event.is("log") && event.text("level") == QLatin1String("A"));
+    const auto* const log = std::get_if<Trace::Log>(&event);
+    return isOfLogLevel(event) || (log != nullptr && log->level == QLatin1String("A"));
 }
 
 std::vector<Block> blocksOf(const TraceSection& index) {
@@ -32,12 +33,12 @@ std::vector<Block> blocksOf(const TraceSection& index) {
             continue;
         }
         const QStringList lines = describeEvent(*event);
-        const bool belongsToKey = event->is("value") || event->is("subkeys");
-        if (belongsToKey && !blocks.empty()) {
+        const bool isValue = std::holds_alternative<Trace::Value>(*event);
+        if ((isValue || std::holds_alternative<Trace::SubKeys>(*event)) && !blocks.empty()) {
             blocks.back().lines += lines;
-            blocks.back().isWhole = event->is("value");
+            blocks.back().isWhole = isValue;
         } else if (!lines.isEmpty()) {
-            blocks.push_back({lines, event->is("read")});
+            blocks.push_back({lines, std::holds_alternative<Trace::Read>(*event)});
         }
     }
     return blocks;
@@ -91,10 +92,10 @@ QStringList similarNames(const TraceSection& section, const QStringList& words) 
             names += similarNames(**inner, words);
             continue;
         }
-        const auto& event = std::get<TraceEvent>(part);
-        if (event.is("entry") && mentions(event.text("name"), words)) {
-            names.append(QStringLiteral("%1: \"%2\", %3")
-                             .arg(section.name, oneLine(event.text("name")), oneLine(event.text("folder"))));
+        const auto* const entry = std::get_if<Trace::Entry>(&std::get<TraceEvent>(part));
+        if (entry != nullptr && mentions(entry->name, words)) {
+            names.append(
+                QStringLiteral("%1: \"%2\", %3").arg(section.name, oneLine(entry->name), oneLine(entry->folder)));
         }
     }
     names.removeDuplicates();

@@ -1,7 +1,7 @@
 #include "find/explain/PluginTrace.h"
 
 #include "find/cli/Environment.h"
-#include "support/Trace.h"
+#include "support/TraceEvents.h"
 
 #include <QFile>
 

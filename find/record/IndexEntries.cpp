@@ -13,21 +13,18 @@ void addNew(std::vector<IndexEntry>& entries, const IndexEntry& entry, IsSame is
     }
 }
 
-bool isIndex(const TraceEvent& event) {
-    return event.text("what") == QLatin1String("index");
-}
-
 } // namespace
 
 IndexEntries::IndexEntries(const TraceEvents& events) {
     QString index; // the list that is being made
     for (const TraceEvent& event : events) {
-        if (event.is("begin") && isIndex(event)) {
-            index = event.text("name");
-        } else if (event.is("end") && isIndex(event)) {
+        const auto* const entry = std::get_if<Trace::Entry>(&event);
+        if (const auto* const begin = std::get_if<Trace::IndexBegin>(&event)) {
+            index = begin->name;
+        } else if (std::holds_alternative<Trace::IndexEnd>(event)) {
             index.clear();
-        } else if (event.is("entry") && !index.isEmpty()) {
-            m_entries[index].push_back({event.text("name"), event.text("folder")});
+        } else if (entry != nullptr && !index.isEmpty()) {
+            m_entries[index].push_back({entry->name, entry->folder});
         }
     }
 }

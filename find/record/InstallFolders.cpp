@@ -80,10 +80,11 @@ bool isExecutableName(const QString& name) {
 }
 
 void InstallFolders::add(const TraceEvent& event) {
-    if (!event.is("exists")) {
+    const auto* const exists = std::get_if<Trace::Exists>(&event);
+    if (exists == nullptr) {
         return;
     }
-    const QString path = event.text("path");
+    const QString path = exists->path;
     const QString folder = folderOfProbe(path);
     std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(folder.isEmpty() ? path : folder);
     if (!folder.isEmpty() && !parsed && isSeparator(folder.at(0))) {
@@ -93,7 +94,7 @@ void InstallFolders::add(const TraceEvent& event) {
         return;
     }
     if (folder.isEmpty()) {
-        if (parsed->isRoot() || !event.flag("found") || !isExecutableName(path)) {
+        if (parsed->isRoot() || !exists->found || !isExecutableName(path)) {
             return;
         }
         parsed->names.removeLast();

@@ -46,64 +46,65 @@ QJsonArray jsonOf(const std::vector<RecordedPackage>& packages) {
 } // namespace
 
 void PcFacts::add(const TraceEvent& event) {
-    if (event.is("shellFolder")) {
-        addShellFolder(event);
-    } else if (event.is("volume") && !event.text("name").isEmpty()) {
-        m_volumes.insert(event.text("drive").left(1), event.text("name"));
-    } else if (event.is("environment") && event.has("value")) {
-        m_environment.insert(event.text("name"), event.text("value"));
-    } else if (event.is("userLocation") && !event.text("path").isEmpty()) {
-        addUserLocation(event);
-    } else if (event.is("package")) {
-        addPackage(event);
-    } else if (event.is("walk")) {
-        addAttributes(event);
+    if (const auto* const folder = std::get_if<Trace::ShellFolder>(&event)) {
+        addShellFolder(*folder);
+    } else if (const auto* const volume = std::get_if<Trace::Volume>(&event)) {
+        if (!volume->name.isEmpty()) {
+            m_volumes.insert(volume->drive.left(1), volume->name);
+        }
+    } else if (const auto* const variable = std::get_if<Trace::Environment>(&event)) {
+        if (variable->value) {
+            m_environment.insert(variable->name, *variable->value);
+        }
+    } else if (const auto* const location = std::get_if<Trace::UserLocation>(&event)) {
+        addUserLocation(*location);
+    } else if (const auto* const package = std::get_if<Trace::Package>(&event)) {
+        addPackage(*package);
+    } else if (const auto* const walk = std::get_if<Trace::Walk>(&event)) {
+        addAttributes(*walk);
     }
 }
 
-void PcFacts::addShellFolder(const TraceEvent& event) {
+void PcFacts::addShellFolder(const Trace::ShellFolder& event) {
     const auto* const folder = std::find_if(std::begin(Recording::shellFolders), std::end(Recording::shellFolders),
-                                            [&](const auto& known) { return known.csidl == event.number("csidl"); });
-    if (folder != std::end(Recording::shellFolders) && !event.text("path").isEmpty()) {
-        m_shellFolders.insert(QLatin1String(folder->name), event.text("path"));
+                                            [&](const auto& known) { return known.csidl == event.csidl; });
+    if (folder != std::end(Recording::shellFolders) && !event.path.isEmpty()) {
+        m_shellFolders.insert(QLatin1String(folder->name), event.path);
     }
 }
 
 /// The catalogue may write a key in other letter case than the settings do.
-void PcFacts::addUserLocation(const TraceEvent& event) {
-    const QString key = event.text("key");
+void PcFacts::addUserLocation(const Trace::UserLocation& event) {
     const bool isKnown = std::any_of(m_userLocations.keyBegin(), m_userLocations.keyEnd(), [&](const QString& known) {
-        return Windows::foldName(known) == Windows::foldName(key);
+        return Windows::foldName(known) == Windows::foldName(event.key);
     });
-    if (!isKnown) {
-        m_userLocations.insert(key, event.text("path"));
+    if (!event.path.isEmpty() && !isKnown) {
+        m_userLocations.insert(event.key, event.path);
     }
 }
 
-void PcFacts::addPackage(const TraceEvent& event) {
-    if (!event.flag("supported")) {
+void PcFacts::addPackage(const Trace::Package& event) {
+    if (!event.supported) {
         return;
     }
     if (!m_packages) {
         m_packages.emplace();
     }
-    const QString family = event.text("family");
     const bool isKnown = std::any_of(m_packages->begin(), m_packages->end(), [&](const RecordedPackage& known) {
-        return known.family.compare(family, Qt::CaseInsensitive) == 0;
+        return known.family.compare(event.family, Qt::CaseInsensitive) == 0;
     });
-    if (!event.text("fullName").isEmpty() && !isKnown) {
-        m_packages->push_back({family, event.text("fullName"), event.text("applicationId")});
+    if (!event.fullName.isEmpty() && !isKnown) {
+        m_packages->push_back({event.family, event.fullName, event.applicationId});
     }
 }
 
-void PcFacts::addAttributes(const TraceEvent& event) {
-    const std::optional<Windows::DrivePath> folder = Windows::DrivePath::parse(event.text("path"));
+void PcFacts::addAttributes(const Trace::Walk& event) {
+    const std::optional<Windows::DrivePath> folder = Windows::DrivePath::parse(event.path);
     if (!folder) {
         return;
     }
     const QString path = folder->isRoot() ? folder->text() : folder->text() + QLatin1Char('/');
-    const auto add = [&](const char* field, QStringList& paths) {
-        const QStringList names = event.texts(field);
+    const auto add = [&](const QStringList& names, QStringList& paths) {
         for (const QString& name : names) {
             const QString entry = QString(path + name).replace(QLatin1Char('/'), QLatin1Char('\\'));
             if (!paths.contains(entry)) {
@@ -111,8 +112,8 @@ void PcFacts::addAttributes(const TraceEvent& event) {
             }
         }
     };
-    add("hidden", m_hidden);
-    add("system", m_system);
+    add(event.hidden, m_hidden);
+    add(event.system, m_system);
 }
 
 QByteArray PcFacts::render(const NeutralNames& names) const {

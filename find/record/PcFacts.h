@@ -33,10 +33,10 @@ public:
     int userLocationCount() const { return m_userLocations.size(); }
 
 private:
-    void addShellFolder(const TraceEvent& event);
-    void addUserLocation(const TraceEvent& event);
-    void addPackage(const TraceEvent& event);
-    void addAttributes(const TraceEvent& event);
+    void addShellFolder(const Trace::ShellFolder& event);
+    void addUserLocation(const Trace::UserLocation& event);
+    void addPackage(const Trace::Package& event);
+    void addAttributes(const Trace::Walk& event);
 
     QMap<QString, QString> m_shellFolders;
     QMap<QString, QString> m_volumes;

@@ -43,20 +43,24 @@ PcRecord::PcRecord(const TraceEvents& events, Progress& progress) {
 }
 
 void PcRecord::addFiles(const TraceEvent& event) {
-    const QString path = event.text("path");
-    const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path);
-    if (event.is("exists") && event.flag("found")) {
-        addExisting(path);
-    } else if (event.is("list") || event.is("walk")) {
-        if (parsed && parsed->isValid) {
-            addListing(event, *parsed);
-        } else if (!event.texts("names").isEmpty() || !event.texts("files").isEmpty()) {
-            leaveOut(path);
+    if (const auto* const exists = std::get_if<Trace::Exists>(&event)) {
+        if (exists->found) {
+            addExisting(exists->path);
         }
-    } else if (event.is("read") && parsed && parsed->isValid && QFileInfo(path).isFile()) {
-        m_drives.addContents(*parsed, contentsOf(path));
-    } else if (event.is("shortcut") && parsed && parsed->isValid) {
-        m_drives.addShortcut(*parsed, event.text("target"));
+    } else if (const auto* const list = std::get_if<Trace::List>(&event)) {
+        addListing(list->path, {}, list->names);
+    } else if (const auto* const walk = std::get_if<Trace::Walk>(&event)) {
+        addListing(walk->path, walk->folders, walk->files);
+    } else if (const auto* const read = std::get_if<Trace::Read>(&event)) {
+        const std::optional<Windows::DrivePath> path = Windows::DrivePath::parse(read->path);
+        if (path && path->isValid && QFileInfo(read->path).isFile()) {
+            m_drives.addContents(*path, contentsOf(read->path));
+        }
+    } else if (const auto* const shortcut = std::get_if<Trace::Shortcut>(&event)) {
+        const std::optional<Windows::DrivePath> path = Windows::DrivePath::parse(shortcut->path);
+        if (path && path->isValid) {
+            m_drives.addShortcut(*path, shortcut->target);
+        }
     }
 }
 
@@ -73,20 +77,25 @@ void PcRecord::addExisting(const QString& path) {
     }
 }
 
-void PcRecord::addListing(const TraceEvent& event, const Windows::DrivePath& folder) {
-    if (!QFileInfo(folder.text()).isDir()) {
+void PcRecord::addListing(const QString& path, const QStringList& folders, const QStringList& files) {
+    const std::optional<Windows::DrivePath> folder = Windows::DrivePath::parse(path);
+    if (!folder || !folder->isValid) {
+        if (!files.isEmpty()) {
+            leaveOut(path);
+        }
         return;
     }
-    m_drives.addFolder(folder);
-    const QStringList folders = event.texts("folders");
-    for (const QString& name : folders) {
-        m_drives.addFolder(pathIn(folder, name));
-        m_drives.spell(pathIn(folder, name));
+    if (!QFileInfo(folder->text()).isDir()) {
+        return;
     }
-    const QStringList files = event.texts("files") + event.texts("names");
+    m_drives.addFolder(*folder);
+    for (const QString& name : folders) {
+        m_drives.addFolder(pathIn(*folder, name));
+        m_drives.spell(pathIn(*folder, name));
+    }
     for (const QString& name : files) {
-        m_drives.addFile(pathIn(folder, name));
-        m_drives.spell(pathIn(folder, name));
+        m_drives.addFile(pathIn(*folder, name));
+        m_drives.spell(pathIn(*folder, name));
     }
 }
 

@@ -33,7 +33,7 @@ public:
 private:
     void addFiles(const TraceEvent& event);
     void addExisting(const QString& path);
-    void addListing(const TraceEvent& event, const Windows::DrivePath& folder);
+    void addListing(const QString& path, const QStringList& folders, const QStringList& files);
     void leaveOut(const QString& path);
 
     RegistryRecord m_registry;

@@ -13,10 +13,9 @@ namespace {
 QSet<QString> listedKeys(const TraceEvents& events) {
     QSet<QString> keys;
     for (const TraceEvent& event : events) {
-        if (event.is("subkeys")) {
-            const QStringList names = event.texts("names");
-            for (const QString& name : names) {
-                keys.insert(Windows::foldName(event.text("key") + QLatin1Char('\\') + name));
+        if (const auto* const subKeys = std::get_if<Trace::SubKeys>(&event)) {
+            for (const QString& name : subKeys->names) {
+                keys.insert(Windows::foldName(subKeys->place.key + QLatin1Char('\\') + name));
             }
         }
     }
@@ -26,12 +25,16 @@ QSet<QString> listedKeys(const TraceEvents& events) {
 void addAskedNames(const TraceEvents& events, QStringList& places) {
     const QSet<QString> listed = listedKeys(events);
     for (const TraceEvent& event : events) {
-        if (event.is("key") && !listed.contains(Windows::foldName(event.text("key")))) {
-            places.append(event.text("key"));
-        } else if (event.is("value") || event.is("environment")) {
-            places.append(event.text("name"));
-        } else if (event.is("list")) {
-            places.append(event.text("pattern"));
+        if (const auto* const key = std::get_if<Trace::Key>(&event)) {
+            if (!listed.contains(Windows::foldName(key->place.key))) {
+                places.append(key->place.key);
+            }
+        } else if (const auto* const value = std::get_if<Trace::Value>(&event)) {
+            places.append(value->name);
+        } else if (const auto* const variable = std::get_if<Trace::Environment>(&event)) {
+            places.append(variable->name);
+        } else if (const auto* const list = std::get_if<Trace::List>(&event)) {
+            places.append(list->pattern);
         }
     }
 }

@@ -19,36 +19,37 @@ QStringList storedPath(const QString& root, const QStringList& path, Windows::Re
     return root == QLatin1String("HKEY_CLASSES_ROOT") ? Windows::storedClassesPath(path, view) : path;
 }
 
-bool is32Bit(const TraceEvent& event) {
-    return event.number("view") == 32;
+bool is32Bit(const Trace::KeyPlace& place) {
+    return place.view == 32;
 }
 
 } // namespace
 
 void RegistryRecord::add(const TraceEvent& event) {
-    if (event.is("subkeys")) {
-        makeKey(event);
-        const QStringList names = event.texts("names");
-        for (const QString& name : names) {
-            makeKey(event, name);
+    if (const auto* const subKeys = std::get_if<Trace::SubKeys>(&event)) {
+        makeKey(subKeys->place);
+        for (const QString& name : subKeys->names) {
+            makeKey(subKeys->place, name);
         }
-        return;
+    } else if (const auto* const key = std::get_if<Trace::Key>(&event)) {
+        if (key->error == 0) {
+            makeKey(key->place);
+        }
+    } else if (const auto* const value = std::get_if<Trace::Value>(&event)) {
+        if (value->error == 0) {
+            addValue(*value);
+        }
     }
-    if ((!event.is("key") && !event.is("value")) || event.number("error") != 0) {
-        return;
-    }
-    RecordedKey& key = makeKey(event);
-    if (!event.is("value")) {
-        return;
-    }
-    const QString name = event.text("name");
-    RecordedValue value = {name, static_cast<quint32>(event.number("type")),
-                           QByteArray::fromHex(event.text("data").toLatin1())};
+}
+
+void RegistryRecord::addValue(const Trace::Value& event) {
+    RecordedKey& key = makeKey(event.place);
+    RecordedValue value = {event.name, event.type, event.data};
     // Where both views share a key, as HKEY_CLASSES_ROOT does, finders ask the 32-bit one first.
-    if (is32Bit(event)) {
-        key.values[Windows::foldName(name)] = std::move(value);
+    if (is32Bit(event.place)) {
+        key.values[Windows::foldName(event.name)] = std::move(value);
     } else {
-        key.values.try_emplace(Windows::foldName(name), std::move(value));
+        key.values.try_emplace(Windows::foldName(event.name), std::move(value));
     }
 }
 
@@ -60,17 +61,16 @@ int RegistryRecord::valueCount() const {
     return count;
 }
 
-RecordedKey& RegistryRecord::makeKey(const TraceEvent& event, const QString& below) {
-    const QString root = event.text("root");
-    QStringList path = event.text("key").split(backslash, Qt::SkipEmptyParts);
+RecordedKey& RegistryRecord::makeKey(const Trace::KeyPlace& place, const QString& below) {
+    QStringList path = place.key.split(backslash, Qt::SkipEmptyParts);
     if (!below.isEmpty()) {
         path.append(below);
     }
-    const auto view = is32Bit(event) ? Windows::RegistryView::Bits32 : Windows::RegistryView::Bits64;
-    path = storedPath(root, path, view);
-    RecordedKey& key = m_keys[Windows::foldName((QStringList{root} + path).join(backslash))];
+    const auto view = is32Bit(place) ? Windows::RegistryView::Bits32 : Windows::RegistryView::Bits64;
+    path = storedPath(place.root, path, view);
+    RecordedKey& key = m_keys[Windows::foldName((QStringList{place.root} + path).join(backslash))];
     if (key.root.isEmpty()) {
-        key.root = root;
+        key.root = place.root;
         key.path = path;
     }
     return key;

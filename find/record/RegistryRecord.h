@@ -35,7 +35,8 @@ public:
     int valueCount() const;
 
 private:
-    RecordedKey& makeKey(const TraceEvent& event, const QString& below = {});
+    void addValue(const Trace::Value& event);
+    RecordedKey& makeKey(const Trace::KeyPlace& place, const QString& below = {});
 
     std::map<QString, RecordedKey> m_keys;
 };

@@ -3,8 +3,6 @@
 #include "support/Paths.h"
 #include "support/Trace.h"
 
-#include <QJsonArray>
-
 #include <algorithm>
 #include <vector>
 
@@ -29,43 +27,40 @@ bool namesItself(const Platform::FolderEntry& entry) {
 /// Tells the trace what a folder holds, when the folder has been gone through.
 class WalkTrace {
 public:
-    explicit WalkTrace(const QString& folder)
-        : m_folder(folder) {}
+    explicit WalkTrace(const QString& folder) { m_walk.path = folder; }
 
     ~WalkTrace();
 
-    void add(const Platform::FolderEntry& entry);
+    void add(const Platform::FolderEntry& entry) noexcept;
 
 private:
     Q_DISABLE_COPY_MOVE(WalkTrace)
 
-    QString m_folder;
-    QJsonArray m_folders;
-    QJsonArray m_files;
-    QJsonArray m_hidden;
-    QJsonArray m_system;
+    void keep(const Platform::FolderEntry& entry);
+
+    Trace::Walk m_walk;
+    bool m_isWhole = true; ///< a listing that lacks entries would be worse than none
 };
 
-void WalkTrace::add(const Platform::FolderEntry& entry) {
-    if (!Trace::isOn() || namesItself(entry)) {
-        return;
+void WalkTrace::add(const Platform::FolderEntry& entry) noexcept {
+    if (Trace::isOn() && m_isWhole && !namesItself(entry)) {
+        m_isWhole = Trace::attempt([&] { keep(entry); });
     }
-    ((entry.attributes & Platform::attributeFolder) != 0 ? m_folders : m_files).append(entry.name);
+}
+
+void WalkTrace::keep(const Platform::FolderEntry& entry) {
+    ((entry.attributes & Platform::attributeFolder) != 0 ? m_walk.folders : m_walk.files).append(entry.name);
     if ((entry.attributes & Platform::attributeHidden) != 0) {
-        m_hidden.append(entry.name);
+        m_walk.hidden.append(entry.name);
     }
     if ((entry.attributes & Platform::attributeSystem) != 0) {
-        m_system.append(entry.name);
+        m_walk.system.append(entry.name);
     }
 }
 
 WalkTrace::~WalkTrace() {
-    if (Trace::isOn()) {
-        Trace::tell("walk", {{QStringLiteral("path"), m_folder},
-                             {QStringLiteral("folders"), m_folders},
-                             {QStringLiteral("files"), m_files},
-                             {QStringLiteral("hidden"), m_hidden},
-                             {QStringLiteral("system"), m_system}});
+    if (m_isWhole) {
+        Trace::tell([this] { return m_walk; });
     }
 }
 

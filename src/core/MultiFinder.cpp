@@ -12,19 +12,10 @@ void takeOver(std::vector<std::unique_ptr<IGameFinder>>& finders, std::unique_pt
     }
 }
 
-QJsonObject tracedNumber(std::size_t number) {
-    return {{QStringLiteral("what"), QStringLiteral("finder")}, {QStringLiteral("number"), static_cast<int>(number)}};
-}
-
 bool tracedFind(IGameFinder& finder, std::size_t number, GameLocation& location) {
-    if (!Trace::isOn()) {
-        return finder.find(location);
-    }
-    QJsonObject fields = tracedNumber(number);
-    Trace::tell("begin", fields);
+    Trace::FinderSection section(number);
     const bool found = finder.find(location);
-    fields.insert(QStringLiteral("found"), found);
-    Trace::tell("end", fields);
+    section.setFound(found);
     return found;
 }
 

@@ -59,9 +59,7 @@ QString UserProvidedLocationFinder::userLocation() {
         return Choices::emptyText();
     }
     const QString folder = Choices().value(m_key).trimmed();
-    if (Trace::isOn()) {
-        Trace::tell("userLocation", {{QStringLiteral("key"), m_key}, {QStringLiteral("path"), folder}});
-    }
+    Trace::tell([&] { return Trace::UserLocation{m_key, folder}; });
     return folder;
 }
 

@@ -18,9 +18,7 @@ namespace {
 using VolumeMap = QMap<QString, QString>;
 
 void tellVolume(const QString& drive, const QString& name) {
-    if (Trace::isOn()) {
-        Trace::tell("volume", {{QStringLiteral("drive"), drive}, {QStringLiteral("name"), name}});
-    }
+    Trace::tell([&] { return Trace::Volume{drive, name}; });
 }
 
 VolumeMap mountedVolumes() {

@@ -10,12 +10,7 @@ namespace Finders {
 namespace {
 
 void tellPackage(const QString& family, bool isSupported, const QString& fullName, const QString& applicationId) {
-    if (Trace::isOn()) {
-        Trace::tell("package", {{QStringLiteral("family"), family},
-                                {QStringLiteral("supported"), isSupported},
-                                {QStringLiteral("fullName"), fullName},
-                                {QStringLiteral("applicationId"), applicationId}});
-    }
+    Trace::tell([&] { return Trace::Package{family, isSupported, fullName, applicationId}; });
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -24,12 +25,8 @@ QString environmentVariable(const QString& name) {
     const QProcessEnvironment environment = Platform::systemEnvironment();
     const QString spelled = spelledName(environment.keys(), name);
     const QString value = spelled.isEmpty() ? QString() : environment.value(spelled);
-    if (Trace::isOn()) {
-        QJsonObject fields{{QStringLiteral("name"), name}};
-        if (!spelled.isEmpty()) {
-            fields.insert(QStringLiteral("value"), value);
-        }
-        Trace::tell("environment", fields);
-    }
+    Trace::tell([&] {
+        return Trace::Environment{name, spelled.isEmpty() ? std::nullopt : std::optional<QString>(value)};
+    });
     return value;
 }

@@ -6,20 +6,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 
 namespace Files {
 
 namespace {
 
-QPair<QString, QJsonValue> tracedPath(const QString& path) {
-    return {QStringLiteral("path"), Paths::toNative(path)};
-}
-
 bool told(const QString& path, bool found) {
-    if (Trace::isOn()) {
-        Trace::tell("exists", {tracedPath(path), {QStringLiteral("found"), found}});
-    }
+    Trace::tell([&] { return Trace::Exists{Paths::toNative(path), found}; });
     return found;
 }
 
@@ -40,28 +33,20 @@ bool enter(QString& folder, const QString& name) {
 QStringList names(const QString& folder, const QString& pattern) {
     // Unsorted, as QDir::NoSort means "as the QDir is told to sort by itself".
     const QStringList names = QDir(folder).entryList({pattern}, QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
-    if (Trace::isOn()) {
-        Trace::tell("list", {tracedPath(folder),
-                             {QStringLiteral("pattern"), pattern},
-                             {QStringLiteral("names"), QJsonArray::fromStringList(names)}});
-    }
+    Trace::tell([&] { return Trace::List{Paths::toNative(folder), pattern, names}; });
     return names;
 }
 
 QByteArray readWholeFile(const QString& path) {
     QFile file(path);
     const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    if (Trace::isOn()) {
-        Trace::tell("read", {tracedPath(path), {QStringLiteral("bytes"), bytes.size()}});
-    }
+    Trace::tell([&] { return Trace::Read{Paths::toNative(path), bytes.size()}; });
     return bytes;
 }
 
 QString shortcutTarget(const QString& path) {
     const QString target = QFileInfo(path).symLinkTarget();
-    if (Trace::isOn()) {
-        Trace::tell("shortcut", {tracedPath(path), {QStringLiteral("target"), Paths::toNative(target)}});
-    }
+    Trace::tell([&] { return Trace::Shortcut{Paths::toNative(path), Paths::toNative(target)}; });
     return target;
 }
 

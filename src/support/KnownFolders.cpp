@@ -36,9 +36,7 @@ int csidlOf(int kind) {
 
 QString knownFolderPath(int csidl) {
     const QString path = ask(Platform::folderPath, csidl);
-    if (Trace::isOn()) {
-        Trace::tell("shellFolder", {{QStringLiteral("csidl"), csidl}, {QStringLiteral("path"), path}});
-    }
+    Trace::tell([&] { return Trace::ShellFolder{csidl, path}; });
     return path;
 }
 

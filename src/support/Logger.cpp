@@ -62,9 +62,5 @@ void Logger::logWarning(const char* format, ...) {
 void Logger::write(char letter, const char* format, va_list arguments) {
     const QString text = QString::vasprintf(format, arguments);
     m_file->writeLine(letter, text.toUtf8());
-    if (Trace::isOn()) {
-        Trace::tell("log", {{QStringLiteral("logger"), QString::fromLatin1(m_name)},
-                            {QStringLiteral("level"), QString(QLatin1Char(letter))},
-                            {QStringLiteral("text"), text}});
-    }
+    Trace::tell([&] { return Trace::Log{QString::fromLatin1(m_name), QString(QLatin1Char(letter)), text}; });
 }

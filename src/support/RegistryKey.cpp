@@ -45,7 +45,7 @@ RegistryKey RegistryKey::open(const QString& subKey, quint32 hive, quint32 view)
 RegistryKey RegistryKey::open(const char* subKey, quint32 hive, quint32 view) {
     RegistryKey key;
     key.m_status = Platform::openKeyNarrow(rootOf(hive), subKey, accessOf(view), key.m_handle);
-    key.m_traced = TracedKey(QString::fromLatin1(subKey), hive, view, key.m_status);
+    key.m_traced = TracedKey(subKey, hive, view, key.m_status);
     return key;
 }
 
@@ -57,7 +57,7 @@ bool RegistryKey::readDword(const char* valueName, quint32& value) {
     quint32 number = value; // not the caller's own, of which a query that fails may leave anything
     quint32 size = sizeof number;
     m_status = Platform::queryValueNarrow(m_handle, valueName, type, &number, size);
-    m_traced.tellValue(QString::fromLatin1(valueName), m_status, type, &number, size);
+    m_traced.tellValue(valueName, m_status, type, &number, size);
     if (m_status != Platform::errorSuccess) {
         return false;
     }

@@ -1,8 +1,6 @@
 #include "support/Trace.h"
 
 #include <QFile>
-#include <QJsonDocument>
-#include <QString>
 
 #include <atomic>
 #include <cstdarg>
@@ -12,7 +10,7 @@ namespace Trace {
 
 namespace {
 
-/// Apart from the file, as it is asked for everywhere and needs no memory.
+/// Apart from the target, as it is asked for everywhere and needs no memory.
 std::atomic<bool>& flag() noexcept {
     static std::atomic<bool> isOn{false};
     return isOn;
@@ -48,58 +46,47 @@ TraceFile& traceFile() {
     return file;
 }
 
-QJsonObject ofIndex(const char* name) {
-    return {{QStringLiteral("what"), QStringLiteral("index")}, {QStringLiteral("name"), QLatin1String(name)}};
-}
-
 } // namespace
 
-void begin() {
-    traceFile().follow(qEnvironmentVariable(environmentVariable));
+void begin() noexcept {
+    attempt([] { traceFile().follow(qEnvironmentVariable(environmentVariable)); });
 }
 
 bool isOn() noexcept {
     return flag();
 }
 
-void tell(const char* event, QJsonObject fields) {
-    if (!isOn()) {
-        return;
-    }
-    fields.insert(QStringLiteral("event"), QLatin1String(event));
-    traceFile().write(QJsonDocument(fields).toJson(QJsonDocument::Compact) + '\n');
+void write(const Event& event) {
+    traceFile().write(toLine(event));
 }
 
-void note(const char* format, ...) {
-    if (!isOn()) {
-        return;
-    }
+void note(const char* format, ...) noexcept {
     va_list arguments;
     va_start(arguments, format);
-    const QString text = QString::vasprintf(format, arguments);
+    tell([format, &arguments] { return Note{QString::vasprintf(format, arguments)}; });
     va_end(arguments);
-    tell("note", {{QStringLiteral("text"), text}});
 }
 
-void entry(const QString& name, const QString& folder) {
-    if (isOn()) {
-        tell("entry", {{QStringLiteral("name"), name}, {QStringLiteral("folder"), folder}});
-    }
+void entry(const QString& name, const QString& folder) noexcept {
+    tell([&] { return Entry{name, folder}; });
 }
 
-IndexSection::IndexSection(const char* name)
+IndexSection::IndexSection(const char* name) noexcept
     : m_name(name) {
-    if (isOn()) {
-        tell("begin", ofIndex(name));
-    }
+    tell([name] { return IndexBegin{QString::fromLatin1(name)}; });
 }
 
 IndexSection::~IndexSection() {
-    if (isOn()) {
-        QJsonObject fields = ofIndex(m_name);
-        fields.insert(QStringLiteral("entries"), static_cast<qint64>(m_entries));
-        tell("end", fields);
-    }
+    tell([this] { return IndexEnd{QString::fromLatin1(m_name), static_cast<int>(m_entries)}; });
+}
+
+FinderSection::FinderSection(std::size_t number) noexcept
+    : m_number(static_cast<int>(number)) {
+    tell([this] { return FinderBegin{m_number}; });
+}
+
+FinderSection::~FinderSection() {
+    tell([this] { return FinderEnd{m_number, m_found}; });
 }
 
 } // namespace Trace

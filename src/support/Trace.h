@@ -1,44 +1,77 @@
 #pragma once
 
-#include <QJsonObject>
+#include "support/TraceEvents.h"
+
 #include <QString>
 #include <QtGlobal>
 
-/// What the library asks of the PC, and why a finder goes on, told to a file (docs/trace.md) for whoever wants to know
-/// why a game was not found. Off unless the environment variable names a file; costs one look at a flag then.
+/// What the library asks of the PC, and why a finder goes on, told event by event (docs/trace.md) for whoever wants to
+/// know why a game was not found. Off unless the environment variable names a file; costs one look at a flag then.
 ///
-/// Any thread may tell. Nothing fails: what can't be written is lost.
+/// Any thread may tell. Nothing fails: what can't be told, for want of memory too, is lost, and nothing else is.
 namespace Trace {
 
-constexpr const char* environmentVariable = "LURULUDRI_TRACE";
-
 /// Follows the environment variable as it is now: opens the file that it names, to add to it, or ends the trace.
-void begin();
+void begin() noexcept;
 
 bool isOn() noexcept;
 
-/// Tells one event with its fields, when the trace is on. Who would have to work for the fields asks isOn() first.
-void tell(const char* event, QJsonObject fields);
+/// Does what only the trace needs, for which memory may run out. False when it did.
+template <class Work>
+bool attempt(const Work& work) noexcept {
+    try {
+        work();
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+/// Writes an event down, which takes memory: for tell().
+void write(const Event& event);
+
+/// Tells the event that `makeEvent` returns, when the trace is on; it is not even made otherwise.
+template <class MakeEvent>
+void tell(const MakeEvent& makeEvent) noexcept {
+    if (isOn()) {
+        attempt([&makeEvent] { write(makeEvent()); });
+    }
+}
 
 /// Tells in words why a finder goes on. The format is printf's, as Logger's.
-void note(const char* format, ...) Q_ATTRIBUTE_FORMAT_PRINTF(1, 2);
+void note(const char* format, ...) noexcept Q_ATTRIBUTE_FORMAT_PRINTF(1, 2);
 
 /// An entry that an index took: by which name finders look it up, and the folder that it tells.
-void entry(const QString& name, const QString& folder);
+void entry(const QString& name, const QString& folder) noexcept;
 
 /// The making of an index: told when it begins and when it ends, with the number of its entries.
 class IndexSection {
 public:
-    explicit IndexSection(const char* name);
+    explicit IndexSection(const char* name) noexcept;
     ~IndexSection();
 
-    void setEntries(std::size_t entries) { m_entries = entries; }
+    void setEntries(std::size_t entries) noexcept { m_entries = entries; }
 
 private:
     Q_DISABLE_COPY_MOVE(IndexSection)
 
     const char* m_name;
     std::size_t m_entries = 0;
+};
+
+/// The asking of one member of a multi finder, counted from 1: told when it begins and when it ends.
+class FinderSection {
+public:
+    explicit FinderSection(std::size_t number) noexcept;
+    ~FinderSection();
+
+    void setFound(bool found) noexcept { m_found = found; }
+
+private:
+    Q_DISABLE_COPY_MOVE(FinderSection)
+
+    int m_number;
+    bool m_found = false;
 };
 
 } // namespace Trace

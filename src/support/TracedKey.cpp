@@ -3,9 +3,6 @@
 #include "support/RegistryKey.h"
 #include "support/Trace.h"
 
-#include <QByteArray>
-#include <QJsonArray>
-
 namespace {
 
 QString nameOf(quint32 hive) {
@@ -23,39 +20,43 @@ QString nameOf(quint32 hive) {
 
 } // namespace
 
-TracedKey::TracedKey(const QString& subKey, quint32 hive, quint32 view, Platform::ErrorCode error) {
+TracedKey::TracedKey(const QString& subKey, quint32 hive, quint32 view, Platform::ErrorCode error) noexcept {
     if (!Trace::isOn()) {
         return;
     }
-    m_place = {{QStringLiteral("root"), nameOf(hive)},
-               {QStringLiteral("view"), view == View::view64 ? 64 : 32},
-               {QStringLiteral("key"), subKey}};
-    QJsonObject fields = m_place;
-    fields.insert(QStringLiteral("error"), static_cast<qint64>(error));
-    Trace::tell("key", fields);
+    m_place = {nameOf(hive), view == View::view64 ? 64 : 32, subKey};
+    m_isKnown = true;
+    Trace::tell([&] { return Trace::Key{m_place, error}; });
+}
+
+TracedKey::TracedKey(const char* subKey, quint32 hive, quint32 view, Platform::ErrorCode error) noexcept {
+    if (Trace::isOn()) {
+        Trace::attempt([&] { *this = TracedKey(QString::fromLatin1(subKey), hive, view, error); });
+    }
 }
 
 void TracedKey::tellValue(const QString& name, Platform::ErrorCode error, quint32 type, const void* data,
-                          quint32 size) const {
-    if (!Trace::isOn()) {
+                          quint32 size) const noexcept {
+    if (!m_isKnown) {
         return;
     }
-    QJsonObject fields = m_place;
-    fields.insert(QStringLiteral("name"), name);
-    fields.insert(QStringLiteral("error"), static_cast<qint64>(error));
-    if (error == Platform::errorSuccess) {
-        const QByteArray bytes(static_cast<const char*>(data), static_cast<int>(size));
-        fields.insert(QStringLiteral("type"), static_cast<qint64>(type));
-        fields.insert(QStringLiteral("data"), QString::fromLatin1(bytes.toHex()));
-    }
-    Trace::tell("value", fields);
+    Trace::tell([&] {
+        const QByteArray bytes = error == Platform::errorSuccess
+                                     ? QByteArray(static_cast<const char*>(data), static_cast<int>(size))
+                                     : QByteArray();
+        return Trace::Value{m_place, name, error, type, bytes};
+    });
 }
 
-void TracedKey::tellSubKeys(const QStringList& names) const {
-    if (!Trace::isOn()) {
-        return;
+void TracedKey::tellValue(const char* name, Platform::ErrorCode error, quint32 type, const void* data,
+                          quint32 size) const noexcept {
+    if (m_isKnown) {
+        Trace::attempt([&] { tellValue(QString::fromLatin1(name), error, type, data, size); });
     }
-    QJsonObject fields = m_place;
-    fields.insert(QStringLiteral("names"), QJsonArray::fromStringList(names));
-    Trace::tell("subkeys", fields);
+}
+
+void TracedKey::tellSubKeys(const QStringList& names) const noexcept {
+    if (m_isKnown) {
+        Trace::tell([&] { return Trace::SubKeys{m_place, names}; });
+    }
 }

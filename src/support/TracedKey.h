@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Registry.h"
+#include "support/TraceEvents.h"
 
-#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
@@ -12,13 +12,18 @@ public:
     TracedKey() = default;
 
     /// The key was opened, or not: `error` says.
-    TracedKey(const QString& subKey, quint32 hive, quint32 view, Platform::ErrorCode error);
+    TracedKey(const QString& subKey, quint32 hive, quint32 view, Platform::ErrorCode error) noexcept;
+    TracedKey(const char* subKey, quint32 hive, quint32 view, Platform::ErrorCode error) noexcept;
 
     /// A value was asked for. `size` bytes of `data` came, if there was no error.
-    void tellValue(const QString& name, Platform::ErrorCode error, quint32 type, const void* data, quint32 size) const;
+    void tellValue(const QString& name, Platform::ErrorCode error, quint32 type, const void* data,
+                   quint32 size) const noexcept;
+    void tellValue(const char* name, Platform::ErrorCode error, quint32 type, const void* data,
+                   quint32 size) const noexcept;
 
-    void tellSubKeys(const QStringList& names) const;
+    void tellSubKeys(const QStringList& names) const noexcept;
 
 private:
-    QJsonObject m_place; ///< the fields that name the key
+    Trace::KeyPlace m_place;
+    bool m_isKnown = false;
 };

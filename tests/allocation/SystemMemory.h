@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 /// What the failing of allocations needs of the build that it runs in.
 namespace SystemMemory {
@@ -10,6 +11,9 @@ bool mayAllocate() noexcept;
 
 /// malloc, unless the allocation is to fail.
 void* allocate(std::size_t size) noexcept;
+
+/// Does the work so that an allocation of Qt's own that fails does not stop the process later.
+void run(const std::function<void()>& work);
 
 /// What the build's leak checker says so far; true without one.
 bool nothingLeaked();

@@ -13,6 +13,7 @@
 
 #include <QDir>
 
+#include <new>
 #include <thread>
 
 namespace {
@@ -153,6 +154,34 @@ TEST(Trace, TellsNotesAndLists) {
     EXPECT_EQ(events[1], QJsonObject({{"event", "entry"}, {"name", "Käfer"}, {"folder", "D:\\Käfer"}}));
     EXPECT_EQ(events[2], QJsonObject({{"event", "note"}, {"text", "No Käfer."}}));
     EXPECT_EQ(events[3], QJsonObject({{"event", "end"}, {"what", "index"}, {"name", "Test"}, {"entries", 1}}));
+}
+
+TEST(Trace, TellsTheAskingOfAFinder) {
+    const TraceLog trace;
+    {
+        Trace::FinderSection section(3);
+        section.setFound(true);
+    }
+    const std::vector<QJsonObject> events = trace.events();
+    ASSERT_EQ(events.size(), 2U);
+    EXPECT_EQ(events[0], QJsonObject({{"event", "begin"}, {"what", "finder"}, {"number", 3}}));
+    EXPECT_EQ(events[1], QJsonObject({{"event", "end"}, {"what", "finder"}, {"number", 3}, {"found", true}}));
+}
+
+TEST(Trace, MakesNoEventWhileItIsOff) {
+    bool isMade = false;
+    Trace::tell([&isMade] {
+        isMade = true;
+        return Trace::Note();
+    });
+    EXPECT_FALSE(isMade);
+}
+
+TEST(Trace, LosesWhatThereIsNoMemoryForAndNothingElse) {
+    const TraceLog trace;
+    Trace::tell([]() -> Trace::Note { throw std::bad_alloc(); });
+    Trace::note("second");
+    EXPECT_EQ(trace.notes(), QStringList("second"));
 }
 
 TEST(Trace, AddsToAFileThatIsThere) {

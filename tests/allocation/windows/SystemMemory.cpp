@@ -8,6 +8,10 @@ void* SystemMemory::allocate(std::size_t size) noexcept {
     return mayAllocate() ? std::malloc(size) : nullptr;
 }
 
+void SystemMemory::run(const std::function<void()>& work) {
+    work();
+}
+
 bool SystemMemory::nothingLeaked() {
     return true;
 }

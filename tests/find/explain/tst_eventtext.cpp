@@ -59,8 +59,13 @@ TEST(EventText, TellsVolumesVariablesAndFolders) {
     EXPECT_EQ(describe(R"({"event":"read","path":"a","bytes":1})"), QStringList({"file a: 1 byte"}));
 }
 
-TEST(EventText, PassesOverWhatItDoesNotKnow) {
-    EXPECT_EQ(describe(R"({"event":"from the future","path":"a"})"), QStringList());
+TEST(EventText, SaysNothingOfWhatTellsOfTheSearch) {
+    for (const char* const line :
+         {R"({"event":"entry","name":"N","folder":"F"})", R"({"event":"begin","what":"finder","number":1})",
+          R"({"event":"end","what":"finder","number":1})", R"({"event":"begin","what":"index","name":"N"})",
+          R"({"event":"end","what":"index","name":"N"})"}) {
+        EXPECT_EQ(describe(line), QStringList()) << line;
+    }
 }
 
 } // namespace

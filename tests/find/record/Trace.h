@@ -2,32 +2,20 @@
 
 #include "find/explain/TraceReader.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QByteArray>
+#include <QString>
 
 /// Events as the library tells them, for tests to describe what was read.
 namespace TestTrace {
 
-inline Host::TraceEvent event(const char* name, QJsonObject fields) {
-    fields.insert("event", name);
-    return Host::TraceEvent(fields);
+inline Host::TraceEvent key(const char* root, int view, const QString& path, quint32 error = 0) {
+    return Trace::Key{{root, view, path}, error};
 }
 
-inline Host::TraceEvent key(const char* root, int view, const QString& path, int error = 0) {
-    return event("key", {{"root", root}, {"view", view}, {"key", path}, {"error", error}});
-}
-
-/// A value that was read, its data in hexadecimal digits.
-inline Host::TraceEvent value(const char* root, int view, const QString& path, const QString& name, int type,
+/// A value that was read.
+inline Host::TraceEvent value(const char* root, int view, const QString& path, const QString& name, quint32 type,
                               const QByteArray& data) {
-    return event("value", {{"root", root},
-                           {"view", view},
-                           {"key", path},
-                           {"name", name},
-                           {"error", 0},
-                           {"type", type},
-                           {"data", QString::fromLatin1(data.toHex())}});
+    return Trace::Value{{root, view, path}, name, 0, type, data};
 }
 
 /// The bytes of a string as the registry stores it.
@@ -41,7 +29,7 @@ inline Host::TraceEvent text(const char* root, int view, const QString& path, co
 }
 
 inline Host::TraceEvent exists(const QString& path, bool found) {
-    return event("exists", {{"path", path}, {"found", found}});
+    return Trace::Exists{path, found};
 }
 
 } // namespace TestTrace

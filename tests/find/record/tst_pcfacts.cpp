@@ -6,6 +6,10 @@
 
 #include "common/QtPrinters.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <gtest/gtest.h>
 
 #include <initializer_list>
@@ -14,7 +18,6 @@ namespace {
 
 using Host::NeutralNames;
 using Host::PcFacts;
-using TestTrace::event;
 
 QJsonObject render(std::initializer_list<Host::TraceEvent> events, const NeutralNames& names = {}) {
     PcFacts facts;
@@ -26,15 +29,15 @@ QJsonObject render(std::initializer_list<Host::TraceEvent> events, const Neutral
 
 TEST(PcFacts, HaveWhatTheTraceTells) {
     const QJsonObject json = render({
-        event("shellFolder", {{"csidl", 11}, {"path", "C:\\Users\\anna\\Start Menu"}}),
-        event("shellFolder", {{"csidl", 35}, {"path", ""}}),
-        event("shellFolder", {{"csidl", 99}, {"path", "C:\\x"}}),
-        event("volume", {{"drive", "D:\\"}, {"name", "\\\\?\\Volume{1}\\"}}),
-        event("environment", {{"name", "OculusBase"}, {"value", ""}}),
-        event("environment", {{"name", "missing"}}),
-        event("userLocation", {{"key", "wal"}, {"path", "D:\\Wal"}}),
-        event("userLocation", {{"key", "WAL"}, {"path", "D:\\Wal"}}),
-        event("userLocation", {{"key", "kein"}, {"path", ""}}),
+        Trace::ShellFolder{11, "C:\\Users\\anna\\Start Menu"},
+        Trace::ShellFolder{35, ""},
+        Trace::ShellFolder{99, "C:\\x"},
+        Trace::Volume{"D:\\", "\\\\?\\Volume{1}\\"},
+        Trace::Environment{"OculusBase", QString("")},
+        Trace::Environment{"missing", std::nullopt},
+        Trace::UserLocation{"wal", "D:\\Wal"},
+        Trace::UserLocation{"WAL", "D:\\Wal"},
+        Trace::UserLocation{"kein", ""},
     });
     EXPECT_EQ(json, (QJsonObject{
                         {"shellFolders", QJsonObject{{"startMenu", "C:\\Users\\anna\\Start Menu"}}},
@@ -45,21 +48,15 @@ TEST(PcFacts, HaveWhatTheTraceTells) {
 }
 
 TEST(PcFacts, HaveNoPackagesWhereTheSystemKnowsNone) {
-    const auto none = event("package", {{"family", "a_b"}, {"supported", false}});
-    const auto missing = event("package", {{"family", "a_b"}, {"supported", true}, {"fullName", ""}});
+    const Trace::Package none{"a_b", false, "", ""};
+    const Trace::Package missing{"a_b", true, "", ""};
     EXPECT_FALSE(render({none}).contains("packages"));
     EXPECT_EQ(render({missing})["packages"], QJsonArray());
 }
 
 TEST(PcFacts, HavePackagesOnce) {
-    const auto package = event("package", {{"family", "Maker.Game_abc"},
-                                           {"supported", true},
-                                           {"fullName", "Maker.Game_1_x64__abc"},
-                                           {"applicationId", "Maker.Game_abc!App"}});
-    const auto library = event("package", {{"family", "Maker.Lib_abc"},
-                                           {"supported", true},
-                                           {"fullName", "Maker.Lib_1_x64__abc"},
-                                           {"applicationId", ""}});
+    const Trace::Package package{"Maker.Game_abc", true, "Maker.Game_1_x64__abc", "Maker.Game_abc!App"};
+    const Trace::Package library{"Maker.Lib_abc", true, "Maker.Lib_1_x64__abc", ""};
     const QJsonArray packages = render({package, library, package})["packages"].toArray();
     ASSERT_EQ(packages.size(), 2);
     EXPECT_EQ(packages[0].toObject(), (QJsonObject{{"family", "Maker.Game_abc"},
@@ -69,37 +66,30 @@ TEST(PcFacts, HavePackagesOnce) {
 }
 
 TEST(PcFacts, HaveTheAttributesOfWhatIsInTheStartMenu) {
-    const QJsonObject json = render({event("walk", {{"path", "C:\\Menu"},
-                                                    {"files", QJsonArray{"desktop.ini"}},
-                                                    {"hidden", QJsonArray{"desktop.ini", "folder"}},
-                                                    {"system", QJsonArray{"desktop.ini"}}}),
-                                     event("walk", {{"path", "\\\\server\\Menu"}, {"hidden", QJsonArray{"x"}}})});
+    const QJsonObject json =
+        render({Trace::Walk{"C:\\Menu", {}, {"desktop.ini"}, {"desktop.ini", "folder"}, {"desktop.ini"}},
+                Trace::Walk{"\\\\server\\Menu", {}, {}, {"x"}, {}}});
     EXPECT_EQ(json["hidden"], (QJsonArray{"C:\\Menu\\desktop.ini", "C:\\Menu\\folder"}));
     EXPECT_EQ(json["system"], QJsonArray{"C:\\Menu\\desktop.ini"});
 }
 
 TEST(PcFacts, HaveNeutralNames) {
     const NeutralNames names({{"anna", "user"}}, "Users");
-    const QJsonObject json = render({event("shellFolder", {{"csidl", 11}, {"path", "C:\\Users\\anna\\Menu"}}),
-                                     event("userLocation", {{"key", "anna"}, {"path", "D:\\anna\\x"}}),
-                                     event("walk", {{"path", "C:\\Users\\anna"}, {"hidden", QJsonArray{"x"}}})},
-                                    names);
+    const QJsonObject json =
+        render({Trace::ShellFolder{11, "C:\\Users\\anna\\Menu"}, Trace::UserLocation{"anna", "D:\\anna\\x"},
+                Trace::Walk{"C:\\Users\\anna", {}, {}, {"x"}, {}}},
+               names);
     EXPECT_EQ(json["shellFolders"]["startMenu"], "C:\\Users\\user\\Menu");
     EXPECT_EQ(json["userLocations"].toObject(), (QJsonObject{{"anna", "D:\\user\\x"}})) << "the key is a game's";
     EXPECT_EQ(json["hidden"], QJsonArray{"C:\\Users\\user\\x"});
 }
 
 TEST(IndexEntries, AreThoseOfTheirList) {
-    const auto entry = [](const char* name, const char* folder) {
-        return event("entry", {{"name", name}, {"folder", folder}});
-    };
-    const auto edge = [](const char* which, const char* name) {
-        return event(which, {{"what", "index"}, {"name", name}});
-    };
+    using Trace::Entry;
     const Host::IndexEntries entries(
-        {entry("lost", "0"), edge("begin", "SteamLibraries"), event("begin", {{"what", "finder"}, {"number", 1}}),
-         entry("1", "D:/a"), entry("2", "D:/a"), entry("1", "D:/b"), edge("end", "SteamLibraries"), entry("lost", "0"),
-         edge("begin", "EpicManifests"), entry("epic", "E:/"), edge("end", "EpicManifests")});
+        {Entry{"lost", "0"}, Trace::IndexBegin{"SteamLibraries"}, Trace::FinderBegin{1}, Entry{"1", "D:/a"},
+         Entry{"2", "D:/a"}, Entry{"1", "D:/b"}, Trace::IndexEnd{"SteamLibraries", 3}, Entry{"lost", "0"},
+         Trace::IndexBegin{"EpicManifests"}, Entry{"epic", "E:/"}, Trace::IndexEnd{"EpicManifests", 1}});
     const auto texts = [](const std::vector<Host::IndexEntry>& list) {
         QStringList lines;
         for (const Host::IndexEntry& one : list) {

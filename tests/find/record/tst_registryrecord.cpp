@@ -39,18 +39,17 @@ QStringList linesOf(const RegistryRecord& record, const NeutralNames& names = {}
 }
 
 TEST(RegistryRecord, HasTheKeysThatWereOpenedAndTheirListedOnes) {
-    const RegistryRecord record = recordOf(
-        {key(user, 64, "Software\\X"), key(user, 64, "Software\\missing", 2),
-         event("subkeys", {{"root", user}, {"view", 64}, {"key", "Software\\X"}, {"names", QJsonArray{"b", "a"}}}),
-         event("exists", {{"path", "C:\\x"}, {"found", true}})});
+    const RegistryRecord record =
+        recordOf({key(user, 64, "Software\\X"), key(user, 64, "Software\\missing", 2),
+                  Trace::SubKeys{{user, 64, "Software\\X"}, {"b", "a"}}, exists("C:\\x", true)});
     EXPECT_EQ(linesOf(record), (QStringList{"[HKEY_CURRENT_USER\\Software\\X]", "[HKEY_CURRENT_USER\\Software\\X\\a]",
                                             "[HKEY_CURRENT_USER\\Software\\X\\b]"}));
 }
 
 TEST(RegistryRecord, HasTheValuesThatWereRead) {
-    const RegistryRecord record = recordOf(
-        {text(user, 64, "Software\\X", "Title", "say \"hello\" to C:\\x"), text(user, 64, "software\\x", "", "Käfer"),
-         event("value", {{"root", user}, {"view", 64}, {"key", "Software\\X"}, {"name", "none"}, {"error", 2}})});
+    const RegistryRecord record = recordOf({text(user, 64, "Software\\X", "Title", "say \"hello\" to C:\\x"),
+                                            text(user, 64, "software\\x", "", "Käfer"),
+                                            Trace::Value{{user, 64, "Software\\X"}, "none", 2, 0, {}}});
     EXPECT_EQ(linesOf(record), (QStringList{"[HKEY_CURRENT_USER\\Software\\X]", "@=\"Käfer\"",
                                             "\"Title\"=\"say \\\"hello\\\" to C:\\\\x\""}));
     EXPECT_EQ(record.valueCount(), 2);
