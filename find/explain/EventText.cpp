@@ -159,6 +159,10 @@ QStringList linesOf(const Trace::Note& event) {
 
 // These tell of the search, not of the PC.
 
+QStringList linesOf(const Trace::Format&) {
+    return {};
+}
+
 QStringList linesOf(const Trace::Entry&) {
     return {};
 }

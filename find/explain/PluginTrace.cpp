@@ -1,28 +1,21 @@
 #include "find/explain/PluginTrace.h"
 
-#include "find/cli/Environment.h"
-#include "support/TraceEvents.h"
-
-#include <QFile>
+#include <QCoreApplication>
+#include <QVariant>
 
 namespace Host {
 
-PluginTrace::PluginTrace()
-    : m_before(qEnvironmentVariable(Trace::environmentVariable)) {
-    m_isOn = m_folder.isValid() && setEnvironmentVariable(Trace::environmentVariable, file());
+PluginTrace::PluginTrace() {
+    m_lines.open(QIODevice::WriteOnly);
+    QCoreApplication::instance()->setProperty(Trace::deviceProperty, QVariant::fromValue<QObject*>(&m_lines));
 }
 
 PluginTrace::~PluginTrace() {
-    setEnvironmentVariable(Trace::environmentVariable, m_before);
+    QCoreApplication::instance()->setProperty(Trace::deviceProperty, QVariant());
 }
 
 TraceEvents PluginTrace::events() const {
-    QFile trace(file());
-    return trace.open(QIODevice::ReadOnly) ? parseTrace(trace.readAll()) : TraceEvents();
-}
-
-QString PluginTrace::file() const {
-    return m_folder.filePath(QStringLiteral("trace"));
+    return parseTrace(m_lines.data());
 }
 
 } // namespace Host

@@ -2,21 +2,18 @@
 
 #include "find/explain/TraceReader.h"
 
-#include <QString>
-#include <QTemporaryDir>
+#include <QBuffer>
 #include <QtGlobal>
 
 namespace Host {
 
-/// Has the plug-in tell a trace of what it asks of the PC, into a file that goes with this object. To be made before
-/// the factory, and to outlive the plug-in, which keeps the file open.
+/// Has the plug-in tell a trace of what it asks of the PC, to the memory of this process: also in a process that runs
+/// as administrator, where the plug-in does not go by the environment, and without a file that would hold private
+/// names. To be made in the thread of the QCoreApplication, before the factory.
 class PluginTrace {
 public:
     PluginTrace();
     ~PluginTrace();
-
-    /// False when the file could not be made; nothing is traced then.
-    bool isOn() const { return m_isOn; }
 
     /// What was told so far.
     TraceEvents events() const;
@@ -24,11 +21,7 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(PluginTrace)
 
-    QString file() const;
-
-    QTemporaryDir m_folder;
-    QString m_before; ///< where the user has the trace told
-    bool m_isOn = false;
+    QBuffer m_lines;
 };
 
 } // namespace Host

@@ -73,9 +73,6 @@ ExitStatus recordPc(const Options& options, const Catalogue& games) {
         return fail(fault);
     }
     const PluginTrace trace;
-    if (!trace.isOn()) {
-        return fail(QStringLiteral("a temporary file could not be made"));
-    }
     fault = askPlugin(options.plugin, games, trace);
     if (!fault.isEmpty()) {
         return fail(fault);

@@ -15,4 +15,9 @@ quint32 currentProcessId(); // GetCurrentProcessId
 /// The environment in which the finders look up variables (QProcessEnvironment::systemEnvironment on Windows).
 QProcessEnvironment systemEnvironment();
 
+/// Whether the process has more rights than its user has without being asked: one that an administrator of Windows
+/// allowed to change the PC ("Run as administrator"), one of another user's or group's rights elsewhere. What its
+/// environment says may then come from somebody who has fewer.
+bool isElevated();
+
 } // namespace Platform

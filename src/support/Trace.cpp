@@ -1,9 +1,17 @@
 #include "support/Trace.h"
 
-#include <QFile>
+#include "platform/PlainFile.h"
+#include "platform/Process.h"
+
+#include <QCoreApplication>
+#include <QIODevice>
+#include <QPointer>
+#include <QThread>
+#include <QVariant>
 
 #include <atomic>
 #include <cstdarg>
+#include <memory>
 #include <mutex>
 
 namespace Trace {
@@ -16,40 +24,80 @@ std::atomic<bool>& flag() noexcept {
     return isOn;
 }
 
-class TraceFile {
+/// The file at `path` when it is new, empty or a trace, as its first line tells; null for any other.
+std::unique_ptr<Platform::PlainFile> openTrace(const QString& path) {
+    std::unique_ptr<Platform::PlainFile> file = Platform::openPlainFile(path);
+    if (!file) {
+        return nullptr;
+    }
+    const QByteArray first = toLine(Format());
+    QByteArray start(first.size(), '\0');
+    const int size = file->readStart(start.data(), start.size());
+    if (size == 0) {
+        file->append(first.constData(), first.size());
+    } else if (size != first.size() || start != first) {
+        return nullptr;
+    }
+    return file;
+}
+
+class Target {
 public:
-    void follow(const QString& path) {
+    void follow(const Origin& origin) {
         const std::lock_guard<std::mutex> guard(m_lock);
-        if (path == m_file.fileName() && m_file.isOpen() == !path.isEmpty()) {
-            return;
+        flag() = false;
+        m_file.reset();
+        m_device.clear();
+        if (origin.device != nullptr && origin.device->isWritable()) {
+            m_device = origin.device;
+        } else if (!origin.file.isEmpty() && !origin.isElevated) {
+            m_file = openTrace(origin.file);
         }
-        m_file.close();
-        m_file.setFileName(path);
-        flag() = !path.isEmpty() && m_file.open(QIODevice::Append | QIODevice::Unbuffered);
+        flag() = m_device || m_file;
     }
 
     void write(const QByteArray& line) {
         const std::lock_guard<std::mutex> guard(m_lock);
-        if (m_file.isOpen()) {
-            m_file.write(line);
+        if (m_device) {
+            m_device->write(line);
+        } else if (m_file) {
+            m_file->append(line.constData(), line.size());
         }
     }
 
 private:
     std::mutex m_lock;
-    QFile m_file;
+    QPointer<QIODevice> m_device;
+    std::unique_ptr<Platform::PlainFile> m_file;
 };
 
 /// The process's one: what the finders ask, they ask of one PC.
-TraceFile& traceFile() {
-    static TraceFile file;
-    return file;
+Target& target() {
+    static Target target;
+    return target;
+}
+
+QIODevice* applicationDevice() {
+    const QCoreApplication* const application = QCoreApplication::instance();
+    // What belongs to another thread may be changing there.
+    if (application == nullptr || application->thread() != QThread::currentThread()) {
+        return nullptr;
+    }
+    return qobject_cast<QIODevice*>(application->property(deviceProperty).value<QObject*>());
 }
 
 } // namespace
 
 void begin() noexcept {
-    attempt([] { traceFile().follow(qEnvironmentVariable(environmentVariable)); });
+    attempt([] {
+        Origin origin{applicationDevice(), qEnvironmentVariable(environmentVariable)};
+        origin.isElevated = !origin.file.isEmpty() && Platform::isElevated();
+        begin(origin);
+    });
+}
+
+void begin(const Origin& origin) noexcept {
+    attempt([&origin] { target().follow(origin); });
 }
 
 bool isOn() noexcept {
@@ -57,7 +105,7 @@ bool isOn() noexcept {
 }
 
 void write(const Event& event) {
-    traceFile().write(toLine(event));
+    target().write(toLine(event));
 }
 
 void note(const char* format, ...) noexcept {

@@ -5,14 +5,24 @@
 #include <QString>
 #include <QtGlobal>
 
+class QIODevice;
+
 /// What the library asks of the PC, and why a finder goes on, told event by event (docs/trace.md) for whoever wants to
-/// know why a game was not found. Off unless the environment variable names a file; costs one look at a flag then.
+/// know why a game was not found. Off unless the host or the environment says where to; costs one look at a flag then.
 ///
 /// Any thread may tell. Nothing fails: what can't be told, for want of memory too, is lost, and nothing else is.
 namespace Trace {
 
-/// Follows the environment variable as it is now: opens the file that it names, to add to it, or ends the trace.
+/// What a process says about where its trace goes.
+struct Origin {
+    QIODevice* device = nullptr; ///< the host's, which goes before any file; borrowed, and given up when it goes
+    QString file;                ///< what the environment names, which counts only …
+    bool isElevated = false;     ///< … in a process without more rights than its user's own
+};
+
+/// Goes by what this process says now: opens the file, to add to it, or ends the trace.
 void begin() noexcept;
+void begin(const Origin& origin) noexcept;
 
 bool isOn() noexcept;
 

@@ -14,6 +14,12 @@ namespace {
 // The fields of each event by their names in a trace: for telling and for reading.
 
 template <class Fields>
+void list(Format& event, Fields& fields) {
+    fields("library", event.library);
+    fields("version", event.version);
+}
+
+template <class Fields>
 void list(KeyPlace& place, Fields& fields) {
     fields("root", place.root);
     fields("view", place.view);

@@ -15,10 +15,20 @@ namespace Trace {
 /// The environment variable that names the file of the trace.
 constexpr const char* environmentVariable = "LURULUDRI_TRACE";
 
+/// The property of the host's QCoreApplication that holds a QIODevice for the trace to go to.
+constexpr const char* deviceProperty = "luruludriTrace";
+
 /// What an event is called in a trace: by the field "event", and by "what" where one word serves several.
 struct EventName {
     const char* event;
     const char* what = nullptr;
+};
+
+/// What every trace in a file begins with.
+struct Format {
+    static constexpr EventName inTrace{"trace"};
+    QString library = QStringLiteral("Luruludri");
+    int version = 1;
 };
 
 struct KeyPlace {
@@ -154,8 +164,9 @@ struct IndexEnd {
     int entries = 0;
 };
 
-using Event = std::variant<Key, Value, SubKeys, Exists, List, Walk, Read, Shortcut, ShellFolder, Volume, Environment,
-                           Package, UserLocation, Entry, Log, Note, FinderBegin, FinderEnd, IndexBegin, IndexEnd>;
+using Event =
+    std::variant<Format, Key, Value, SubKeys, Exists, List, Walk, Read, Shortcut, ShellFolder, Volume, Environment,
+                 Package, UserLocation, Entry, Log, Note, FinderBegin, FinderEnd, IndexBegin, IndexEnd>;
 
 /// The event as a trace has it: one line, its end included.
 QByteArray toLine(const Event& event);

@@ -4,13 +4,14 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
+#include <QBuffer>
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
+#include <QVariant>
 
 #include <vector>
 
@@ -18,22 +19,18 @@
 class TraceLog {
 public:
     TraceLog() {
-        qputenv(Trace::environmentVariable, path().toUtf8());
+        m_lines.open(QIODevice::WriteOnly);
+        QCoreApplication::instance()->setProperty(Trace::deviceProperty, QVariant::fromValue<QObject*>(&m_lines));
         Trace::begin();
         EXPECT_TRUE(Trace::isOn());
     }
 
     ~TraceLog() {
-        qunsetenv(Trace::environmentVariable);
+        QCoreApplication::instance()->setProperty(Trace::deviceProperty, QVariant());
         Trace::begin();
     }
 
-    QString path() const { return m_folder.filePath("trace"); }
-
-    QByteArray bytes() const {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray bytes() const { return m_lines.data(); }
 
     /// All events of this name, or all when it is empty.
     std::vector<QJsonObject> events(const QString& name = {}) const {
@@ -62,5 +59,5 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(TraceLog)
 
-    QTemporaryDir m_folder;
+    QBuffer m_lines;
 };

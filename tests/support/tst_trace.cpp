@@ -184,29 +184,6 @@ TEST(Trace, LosesWhatThereIsNoMemoryForAndNothingElse) {
     EXPECT_EQ(trace.notes(), QStringList("second"));
 }
 
-TEST(Trace, AddsToAFileThatIsThere) {
-    const TraceLog trace;
-    Trace::note("first");
-    qunsetenv(Trace::environmentVariable);
-    Trace::begin();
-    Trace::note("untold");
-    qputenv(Trace::environmentVariable, trace.path().toUtf8());
-    Trace::begin();
-    Trace::note("second");
-    EXPECT_EQ(trace.notes(), QStringList({"first", "second"}));
-}
-
-TEST(Trace, IsOffWhenItsFileCannotBeOpened) {
-    const QTemporaryDir folder;
-    qputenv(Trace::environmentVariable, folder.filePath("missing/trace").toUtf8());
-    Trace::begin();
-    EXPECT_FALSE(Trace::isOn());
-    Trace::note("lost");
-    qunsetenv(Trace::environmentVariable);
-    Trace::begin();
-    EXPECT_FALSE(Trace::isOn());
-}
-
 TEST(Trace, KeepsTheLinesOfThreadsApart) {
     const TraceLog trace;
     std::vector<std::thread> threads;

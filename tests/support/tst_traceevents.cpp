@@ -36,6 +36,7 @@ bool operator==(const KeyPlace& one, const KeyPlace& other) {
 
 namespace {
 
+COMPARE_ALL(Format, library, version)
 COMPARE_ALL(Key, place, error)
 COMPARE_ALL(Value, place, name, error, type, data)
 COMPARE_ALL(SubKeys, place, names)
@@ -65,6 +66,7 @@ struct Case {
 };
 
 const Case cases[] = {
+    {Trace::Format{}, R"({"event":"trace","library":"Luruludri","version":1})"},
     {Trace::Key{place, 4294967295},
      R"({"error":4294967295,"event":"key","key":"Software\\Käfer","root":"HKEY_USERS","view":32})"},
     {Trace::Value{place, "N", 0, 7, QByteArray("\0\xFE", 2)},

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include <sys/auxv.h>
 #include <unistd.h>
 
 namespace Platform {
@@ -40,6 +41,10 @@ quint32 currentProcessId() {
 QProcessEnvironment systemEnvironment() {
     const auto pc = Recorded::currentPc();
     return pc->isActive() ? pc->description().environment : QProcessEnvironment::systemEnvironment();
+}
+
+bool isElevated() {
+    return ::getauxval(AT_SECURE) != 0 || ::geteuid() != ::getuid() || ::getegid() != ::getgid();
 }
 
 } // namespace Platform

@@ -14,6 +14,7 @@ target_sources(
             platform/recorded/Observer.cpp
             platform/recorded/Paths.cpp
             platform/recorded/PcPaths.cpp
+            platform/recorded/PlainFile.cpp
             platform/recorded/Process.cpp
             platform/recorded/RecordedPc.cpp
             platform/recorded/Recording.cpp

@@ -61,9 +61,9 @@ TEST(EventText, TellsVolumesVariablesAndFolders) {
 
 TEST(EventText, SaysNothingOfWhatTellsOfTheSearch) {
     for (const char* const line :
-         {R"({"event":"entry","name":"N","folder":"F"})", R"({"event":"begin","what":"finder","number":1})",
-          R"({"event":"end","what":"finder","number":1})", R"({"event":"begin","what":"index","name":"N"})",
-          R"({"event":"end","what":"index","name":"N"})"}) {
+         {R"({"event":"trace","version":1})", R"({"event":"entry","name":"N","folder":"F"})",
+          R"({"event":"begin","what":"finder","number":1})", R"({"event":"end","what":"finder","number":1})",
+          R"({"event":"begin","what":"index","name":"N"})", R"({"event":"end","what":"index","name":"N"})"}) {
         EXPECT_EQ(describe(line), QStringList()) << line;
     }
 }

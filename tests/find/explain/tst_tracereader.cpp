@@ -12,10 +12,10 @@ using Host::TraceEvents;
 using Host::TraceSection;
 
 TEST(TraceReader, ReadsOneEventALine) {
-    const TraceEvents events = parseTrace("{\"event\":\"note\",\"text\":\"No\"}\n"
+    const TraceEvents events = parseTrace("{\"event\":\"trace\",\"library\":\"Luruludri\",\"version\":1}\n"
                                           "{\"event\":\"exists\",\"path\":\"D:\\\\Käfer\",\"found\":true}\n");
     ASSERT_EQ(events.size(), 2U);
-    EXPECT_EQ(std::get<Trace::Note>(events[0]).text, "No");
+    EXPECT_EQ(std::get<Trace::Format>(events[0]).version, 1);
     EXPECT_EQ(std::get<Trace::Exists>(events[1]).path, "D:\\Käfer");
     EXPECT_TRUE(std::get<Trace::Exists>(events[1]).found);
 }

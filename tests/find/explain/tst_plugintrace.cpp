@@ -1,0 +1,33 @@
+#include "find/explain/PluginTrace.h"
+
+#include "common/QtPrinters.h"
+
+#include <QCoreApplication>
+#include <QIODevice>
+#include <QVariant>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QObject* deviceOfApplication() {
+    return QCoreApplication::instance()->property("luruludriTrace").value<QObject*>();
+}
+
+TEST(PluginTrace, TakesWhatIsToldToTheApplicationsDevice) {
+    const Host::PluginTrace trace;
+    EXPECT_TRUE(trace.events().empty()) << "nothing was told yet";
+    auto* const device = qobject_cast<QIODevice*>(deviceOfApplication());
+    ASSERT_NE(device, nullptr);
+    device->write("{\"event\":\"note\",\"text\":\"1\"}\n");
+    const Host::TraceEvents events = trace.events();
+    ASSERT_EQ(events.size(), 1U);
+    EXPECT_EQ(std::get<Trace::Note>(events.front()).text, "1");
+}
+
+TEST(PluginTrace, EndsWithItself) {
+    { const Host::PluginTrace trace; }
+    EXPECT_EQ(deviceOfApplication(), nullptr);
+}
+
+} // namespace
