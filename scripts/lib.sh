@@ -51,10 +51,11 @@ need_packages() {
 # shellcheck disable=SC2034
 {
     native_packages=(cmake ninja-build g++ ccache qtbase5-dev qtbase5-private-dev googletest)
-    test_packages=(clang)
+    test_packages=(clang python3)
     windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make perl python3 patch xz-utils qt5-qmake
         qtbase5-dev-tools ca-certificates nsis wixl)
     lint_packages=(git clang-format clang-tidy shellcheck)
+    mutation_packages=(git lld python3)
 }
 
 # Configures the preset $1 where that is still to be done, and builds the targets $2….
