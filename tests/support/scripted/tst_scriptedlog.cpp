@@ -256,7 +256,6 @@ TEST_F(ScriptedLogTest, WithoutALocalFolderItLiesAtTheRootOfTheDrive) {
         std::memcpy(buffer, u"C:\\No", sizeof u"C:\\No"); // of no account, as the call fails
         return -1;
     };
-    const QChar separator = QDir::separator();
     const QString expected = separator + QString("Veltrane") + separator + "Logs";
     QString opened;
     asked.clear();
