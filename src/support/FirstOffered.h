@@ -20,10 +20,8 @@ public:
     /// offered were.
     T* offer(std::unique_ptr<T> object) noexcept {
         T* kept = nullptr;
-        if (!object || !m_object.compare_exchange_strong(kept, object.get(), std::memory_order_acq_rel)) {
-            return get();
-        }
-        return object.release();
+        const bool isFirst = m_object.compare_exchange_strong(kept, object.get(), std::memory_order_acq_rel);
+        return isFirst ? object.release() : kept;
     }
 
 private:
