@@ -1,8 +1,4 @@
-#include "support/LogFile.h"
-#include "support/Logger.h"
-
-#include "common/QtPrinters.h"
-#include "support/scripted/ScriptedSystem.h"
+#include "support/scripted/ScriptedLog.h"
 
 #include <QDir>
 
@@ -13,113 +9,12 @@
 #include <future>
 #include <thread>
 #include <utility>
-#include <vector>
 
 namespace {
 
 using ::testing::ElementsAre;
 
 constexpr qint64 limit = 10'485'760;
-
-const QChar separator = QDir::separator();
-const QString folder = QString("C:\\Data") + separator + "Veltrane" + separator + "Logs";
-
-/// What became of one stream. Text is on the disk once it was flushed, and not by closing the stream.
-struct StreamRecord {
-    QByteArray given;
-    QByteArray onDisk;
-    bool isClosed = false;
-    std::function<void()> whileWriting;
-
-    /// The lines on the disk without their times.
-    QStringList lines() const {
-        constexpr int timeLength = 24;
-        QStringList lines = QString::fromUtf8(onDisk).split('\n', Qt::SkipEmptyParts);
-        for (QString& line : lines) {
-            line.remove(0, timeLength);
-        }
-        return lines;
-    }
-};
-
-class ScriptedStream final : public Platform::TextStream {
-public:
-    explicit ScriptedStream(std::shared_ptr<StreamRecord> record)
-        : m_record(std::move(record)) {}
-
-    ~ScriptedStream() override { m_record->isClosed = true; }
-
-    void write(std::string_view utf8) noexcept override {
-        const std::shared_ptr<StreamRecord> record = m_record; // which outlives this object, should that be destroyed
-        record->given.append(utf8.data(), static_cast<int>(utf8.size()));
-        if (record->whileWriting) {
-            record->whileWriting();
-        }
-    }
-
-    void flush() noexcept override { m_record->onDisk = m_record->given; }
-
-private:
-    Q_DISABLE_COPY_MOVE(ScriptedStream)
-
-    std::shared_ptr<StreamRecord> m_record;
-};
-
-class ScriptedLogTest : public ::testing::Test {
-protected:
-    ScriptedLogTest() {
-        system.ownFolderPath = [](int, char16_t* buffer) {
-            std::memcpy(buffer, u"C:\\Data", sizeof u"C:\\Data");
-            return 0;
-        };
-        system.createFolder = [this](const QString& path) { return told("create " + path); };
-        system.deleteFile = [this](const QString& path) { return told("delete " + named(path)); };
-        system.moveFile = [this](const QString& from, const QString& to) {
-            return told("move " + named(from) + " to " + named(to)) && canMove;
-        };
-        system.fileSize = [this](const QString& path) {
-            told("size " + named(path));
-            return size;
-        };
-        system.openShared = [this](const QString& path, const char* mode) {
-            told("open " + named(path) + ' ' + mode);
-            return stream();
-        };
-    }
-
-    bool told(const QString& question) {
-        asked.append(question);
-        return true;
-    }
-
-    static QString named(const QString& path) {
-        EXPECT_TRUE(path.startsWith(folder + separator)) << path.toStdString();
-        return path.mid(folder.size() + 1);
-    }
-
-    std::unique_ptr<Platform::TextStream> stream() {
-        if (!canOpen) {
-            return nullptr;
-        }
-        streams.push_back(std::make_shared<StreamRecord>());
-        return std::make_unique<ScriptedStream>(streams.back());
-    }
-
-    static LogFileOptions options(LogFileOptions::BannerMode bannerMode) {
-        LogFileOptions options;
-        options.bannerMode = bannerMode;
-        return options;
-    }
-
-    ScriptedSystem system;
-    QStringList asked;
-    bool canMove = true;
-    bool canOpen = true;
-    qint64 size = -1;
-    std::vector<std::shared_ptr<StreamRecord>> streams;
-    const QString created = "A: =============== LOG CREATED ===============";
-    const QString destroyed = "A: ============== LOG DESTROYED ==============";
-};
 
 TEST_F(ScriptedLogTest, IsMadeInThisOrder) {
     const LogFile file("Test", 2, {});
@@ -256,6 +151,7 @@ TEST_F(ScriptedLogTest, WithoutALocalFolderItLiesAtTheRootOfTheDrive) {
         std::memcpy(buffer, u"C:\\No", sizeof u"C:\\No"); // of no account, as the call fails
         return -1;
     };
+    const QChar separator = QDir::separator();
     const QString expected = separator + QString("Veltrane") + separator + "Logs";
     QString opened;
     asked.clear();
@@ -312,102 +208,6 @@ TEST_F(ScriptedLogTest, TheThreadThatOpensAFileSecondLeavesTheFirstOnesStreamAlo
     EXPECT_TRUE(streams.at(0)->onDisk.endsWith("A: second\nfirst\n")) << "between the pieces of the first one's line";
     EXPECT_TRUE(streams.at(1)->isClosed);
     EXPECT_EQ(streams.at(1)->given, "");
-}
-
-class ScriptedLoggerTest : public ScriptedLogTest {
-protected:
-    using Bytes = std::vector<unsigned char>;
-
-    /// What is in "LogLevel" under one root: a result and the bytes that the buffer holds after it, which Windows
-    /// leaves undefined when the value is longer.
-    struct Level {
-        Platform::ErrorCode result = Platform::errorFileNotFound;
-        Bytes bytes;
-    };
-
-    void have(const Level& user, const Level& machine) {
-        system.openKeyNarrow = [this](Platform::RootKey root, const QString& subKey, quint32 access) {
-            EXPECT_EQ(subKey, "Software\\Veltrane\\Test");
-            EXPECT_EQ(access, 0x20219U);
-            opened.push_back(root);
-            return Platform::errorSuccess;
-        };
-        system.queryValueNarrow = [this, user, machine](const QString& name, quint32&, void* data, quint32& length) {
-            EXPECT_EQ(name, "LogLevel");
-            EXPECT_EQ(length, 4U);
-            const Level& level = opened.back() == Platform::RootKey::CurrentUser ? user : machine;
-            std::memcpy(data, level.bytes.data(), level.bytes.size());
-            return level.result;
-        };
-    }
-
-    /// The letters of the lines that a logger writes.
-    QString letters() {
-        opened.clear();
-        streams.clear();
-        {
-            Logger logger = Logger::create("Test");
-            logger.logAlways("text");
-            logger.logError("text");
-            logger.logWarning("text");
-        }
-        QString letters;
-        for (const QString& line : streams.at(0)->lines().filter(": text")) {
-            letters += line.at(0);
-        }
-        return letters;
-    }
-
-    std::vector<Platform::RootKey> opened;
-    const Level tooLong{Platform::errorMoreData, {0, 0, 0, 0}};
-    const Level missing{};
-};
-
-TEST_F(ScriptedLoggerTest, ALevelThatIsTooLongLeavesTheDefaultWhateverItLeavesInTheBuffer) {
-    have(tooLong, missing);
-    EXPECT_EQ(letters(), "AEW");
-    EXPECT_THAT(opened, ElementsAre(Platform::RootKey::CurrentUser, Platform::RootKey::LocalMachine));
-    have(missing, tooLong);
-    EXPECT_EQ(letters(), "AEW");
-    have(tooLong, tooLong);
-    EXPECT_EQ(letters(), "AEW");
-}
-
-TEST_F(ScriptedLoggerTest, AUsersLevelThatIsTooLongHasNoPartInTheMachines) {
-    have({Platform::errorMoreData, {0xFF, 0xFF, 0xFF, 0xFF}}, {Platform::errorSuccess, {1}});
-    EXPECT_EQ(letters(), "AE") << "one byte, over those of the default";
-}
-
-TEST_F(ScriptedLoggerTest, TheMachineIsNotAskedWhereTheUserHasALevel) {
-    have({Platform::errorSuccess, {1, 0, 0, 0}}, {Platform::errorSuccess, {0, 0, 0, 0}});
-    EXPECT_EQ(letters(), "AE");
-    EXPECT_THAT(opened, ElementsAre(Platform::RootKey::CurrentUser));
-    EXPECT_EQ(system.openKeys, 0);
-}
-
-TEST_F(ScriptedLoggerTest, ALineThatTheLevelKeepsOutDoesNotOpenTheFile) {
-    have({Platform::errorSuccess, {1, 0, 0, 0}}, {});
-    canOpen = false;
-    Logger logger = Logger::create("Test");
-    asked.clear();
-    logger.logWarning("text");
-    EXPECT_TRUE(asked.isEmpty());
-    logger.logError("text");
-    EXPECT_THAT(asked, ElementsAre("open Test.log at"));
-}
-
-TEST_F(ScriptedLoggerTest, EachLevelHasItsLines) {
-    const std::vector<std::pair<Bytes, QString>> levels{{{0, 0, 0, 0x80}, "A"},
-                                                        {{0xFF, 0xFF, 0xFF, 0xFF}, "A"},
-                                                        {{0, 0, 0, 0}, "A"},
-                                                        {{1, 0, 0, 0}, "AE"},
-                                                        {{2, 0, 0, 0}, "AEW"},
-                                                        {{3, 0, 0, 0}, "AEW"},
-                                                        {{0xFF, 0xFF, 0xFF, 0x7F}, "AEW"}};
-    for (const auto& [bytes, expected] : levels) {
-        have({Platform::errorSuccess, bytes}, {});
-        EXPECT_EQ(letters(), expected);
-    }
 }
 
 } // namespace
