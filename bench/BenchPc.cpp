@@ -31,7 +31,7 @@ BenchPc::BenchPc() {
 }
 
 BenchPc::~BenchPc() {
-    qunsetenv(Recording::environmentVariable);
+    qunsetenv(Recordings::environmentVariable);
 }
 
 void BenchPc::file(const QString& path, const QByteArray& contents) {
@@ -55,5 +55,5 @@ void BenchPc::steam(const QString& executable) {
 void BenchPc::use() {
     write(m_folder.filePath(QStringLiteral("registry/bench.reg")),
           "Windows Registry Editor Version 5.00\n\n" + m_registry.toUtf8());
-    qputenv(Recording::environmentVariable, m_folder.path().toUtf8());
+    qputenv(Recordings::environmentVariable, m_folder.path().toUtf8());
 }

@@ -5,7 +5,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
-    std::vector<Recording::Problem> problems;
-    Recorded::parsePcDescription(bytes, QStringLiteral("pc.json"), problems);
+    std::vector<Recordings::Problem> problems;
+    Recordings::parsePcDescription(bytes, QStringLiteral("pc.json"), problems);
     return 0;
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
@@ -45,4 +45,4 @@ QString fromAnsi(const QByteArray& bytes) {
     return text;
 }
 
-} // namespace Recorded
+} // namespace Recordings

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-namespace Recorded {
+namespace Recordings {
 
 /// Text in Windows-1252, the ANSI code page of a recorded PC; "?" for what it lacks.
 QByteArray toAnsi(const QString& text);
@@ -11,4 +11,4 @@ QByteArray toAnsi(const QString& text);
 /// The text of bytes in Windows-1252.
 QString fromAnsi(const QByteArray& bytes);
 
-} // namespace Recorded
+} // namespace Recordings

@@ -4,7 +4,7 @@
 
 #include <QtEndian>
 
-namespace Recorded {
+namespace Recordings {
 
 bool ByteView::holds(qint64 offset, qint64 size) const {
     return offset >= 0 && size >= 0 && offset <= m_bytes.size() && size <= m_bytes.size() - offset;
@@ -63,4 +63,4 @@ QString ByteView::asWide() const {
     return text;
 }
 
-} // namespace Recorded
+} // namespace Recordings

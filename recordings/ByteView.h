@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace Recorded {
+namespace Recordings {
 
 /// Reads numbers and texts, all little-endian, at offsets that a file states and that may be wrong: empty when
 /// anything would lie outside.
@@ -36,4 +36,4 @@ private:
     QByteArray m_bytes;
 };
 
-} // namespace Recorded
+} // namespace Recordings

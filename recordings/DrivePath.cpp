@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace Windows {
+namespace Recordings {
 
 namespace {
 
@@ -84,4 +84,4 @@ QString DrivePath::text() const {
     return letter + QLatin1String(":/") + names.join(slash);
 }
 
-} // namespace Windows
+} // namespace Recordings

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace Windows {
+namespace Recordings {
 
 /// A path with a drive letter, taken apart as Windows and Qt 5.15 do it there.
 struct DrivePath {
@@ -31,4 +31,4 @@ struct DrivePath {
 /// `path` as Qt writes it on Windows: with slashes, and without a "\\?\" before it.
 QString withSlashes(const QString& path);
 
-} // namespace Windows
+} // namespace Recordings

@@ -2,7 +2,7 @@
 
 #include "recordings/Utf8Text.h"
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
@@ -209,4 +209,4 @@ std::optional<JsonValue> parseJson(const QByteArray& json, JsonFault& fault) {
     return value;
 }
 
-} // namespace Recorded
+} // namespace Recordings

@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-namespace Recorded {
+namespace Recordings {
 
 /// One value of a JSON text and the line in which it begins. QJsonDocument has no lines, ends the process when memory
 /// runs out and reads "C:\Games" without its backslash, and without a word.
@@ -28,4 +28,4 @@ struct JsonFault {
 /// Empty when `json` is no JSON in UTF-8; `fault` then says why.
 std::optional<JsonValue> parseJson(const QByteArray& json, JsonFault& fault);
 
-} // namespace Recorded
+} // namespace Recordings

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
@@ -25,7 +25,7 @@ QString placeOfItem(const QString& array, size_t index) {
 
 class Reader {
 public:
-    Reader(const QString& file, std::vector<Recording::Problem>& problems)
+    Reader(const QString& file, std::vector<Problem>& problems)
         : m_file(file)
         , m_problems(problems) {}
 
@@ -53,7 +53,7 @@ private:
     void report(const JsonValue& value, const QString& place, const QString& message);
 
     const QString& m_file;
-    std::vector<Recording::Problem>& m_problems;
+    std::vector<Problem>& m_problems;
     PcDescription m_pc;
 };
 
@@ -92,9 +92,9 @@ void Reader::readMember(const JsonValue& value, const QString& place) {
 
 void Reader::readShellFolder(const JsonValue& value, const QString& place) {
     const auto* const folder =
-        std::find_if(std::begin(Recording::shellFolders), std::end(Recording::shellFolders),
+        std::find_if(std::begin(shellFolders), std::end(shellFolders),
                      [&value](const auto& known) { return value.name == QLatin1String(known.name); });
-    if (folder == std::end(Recording::shellFolders)) {
+    if (folder == std::end(shellFolders)) {
         report(value, place, unknownName());
     } else {
         m_pc.shellFolders.insert(folder->csidl, text(value, place));
@@ -102,7 +102,7 @@ void Reader::readShellFolder(const JsonValue& value, const QString& place) {
 }
 
 void Reader::readVolume(const JsonValue& value, const QString& place) {
-    if (value.name.size() != 1 || !Windows::DrivePath::parse(value.name + QLatin1Char(':'))) {
+    if (value.name.size() != 1 || !DrivePath::parse(value.name + QLatin1Char(':'))) {
         report(value, place, QStringLiteral("a drive letter is expected"));
         return;
     }
@@ -212,7 +212,7 @@ QStringList Reader::texts(const JsonValue& array, const QString& place) {
 QStringList Reader::paths(const JsonValue& array, const QString& place) {
     QStringList list = texts(array, place);
     const auto isBad = [this, &array, &place](const QString& path) {
-        const bool bad = !Windows::DrivePath::parse(path);
+        const bool bad = !DrivePath::parse(path);
         if (bad) {
             report(array, place, QStringLiteral("“%1” has no drive letter").arg(path));
         }
@@ -252,9 +252,8 @@ void Reader::report(const JsonValue& value, const QString& place, const QString&
 
 } // namespace
 
-PcDescription parsePcDescription(const QByteArray& json, const QString& file,
-                                 std::vector<Recording::Problem>& problems) {
+PcDescription parsePcDescription(const QByteArray& json, const QString& file, std::vector<Problem>& problems) {
     return Reader(file, problems).read(json);
 }
 
-} // namespace Recorded
+} // namespace Recordings

@@ -11,7 +11,7 @@
 #include <optional>
 #include <vector>
 
-namespace Recorded {
+namespace Recordings {
 
 /// An app package that is installed for the user.
 struct AppPackage {
@@ -36,7 +36,6 @@ struct PcDescription {
 };
 
 /// Reads the text of a pc.json. A fault costs only the entry that has it and is added to `problems` under `file`.
-PcDescription parsePcDescription(const QByteArray& json, const QString& file,
-                                 std::vector<Recording::Problem>& problems);
+PcDescription parsePcDescription(const QByteArray& json, const QString& file, std::vector<Problem>& problems);
 
-} // namespace Recorded
+} // namespace Recordings

@@ -1,6 +1,6 @@
 #include "recordings/RecordedRegistry.h"
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
@@ -28,7 +28,7 @@ void RecordedRegistry::apply(const std::vector<RegKey>& keys) {
 RegistryNode& RecordedRegistry::nodeToChange(const RegKey& key, QStringList& path) {
     switch (key.root) {
     case RegKey::Root::LocalMachine:
-        path = Windows::storedMachinePath(path, Windows::RegistryView::Bits64);
+        path = storedMachinePath(path, RegistryView::Bits64);
         return m_machine;
     case RegKey::Root::CurrentUser:
         return m_user;
@@ -43,8 +43,7 @@ RegistryNode& RecordedRegistry::nodeToChange(const RegKey& key, QStringList& pat
     return m_users;
 }
 
-RecordedRegistry::Layers RecordedRegistry::open(RegKey::Root root, const QStringList& path,
-                                                Windows::RegistryView view) const {
+RecordedRegistry::Layers RecordedRegistry::open(RegKey::Root root, const QStringList& path, RegistryView view) const {
     Layers layers;
     const auto add = [&layers](const RegistryNode* node) {
         if (node) {
@@ -53,14 +52,14 @@ RecordedRegistry::Layers RecordedRegistry::open(RegKey::Root root, const QString
     };
     switch (root) {
     case RegKey::Root::LocalMachine:
-        add(m_machine.find(Windows::storedMachinePath(path, view)));
+        add(m_machine.find(storedMachinePath(path, view)));
         break;
     case RegKey::Root::CurrentUser:
-        add(m_user.find(Windows::storedUserPath(path, view)));
+        add(m_user.find(storedUserPath(path, view)));
         break;
     case RegKey::Root::ClassesRoot:
-        add(m_user.find(classesPath(Windows::storedClassesPath(path, view))));
-        add(m_machine.find(classesPath(Windows::storedClassesPath(path, view))));
+        add(m_user.find(classesPath(storedClassesPath(path, view))));
+        add(m_machine.find(classesPath(storedClassesPath(path, view))));
         break;
     case RegKey::Root::Users:
         add(m_users.find(path));
@@ -95,4 +94,4 @@ std::vector<QString> RecordedRegistry::subKeys(const Layers& key) {
     return list;
 }
 
-} // namespace Recorded
+} // namespace Recordings

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace Recorded {
+namespace Recordings {
 
 /// The registry of a recorded PC. Nothing changes it once the files are applied, so that any thread may read it.
 class RecordedRegistry {
@@ -16,7 +16,7 @@ public:
 
     void apply(const std::vector<RegKey>& keys);
 
-    Layers open(RegKey::Root root, const QStringList& path, Windows::RegistryView view) const;
+    Layers open(RegKey::Root root, const QStringList& path, RegistryView view) const;
 
     static const RegistryNode::Value* value(const Layers& key, const QString& name);
 
@@ -31,4 +31,4 @@ private:
     RegistryNode m_users;
 };
 
-} // namespace Recorded
+} // namespace Recordings

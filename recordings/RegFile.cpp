@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
@@ -226,4 +226,4 @@ RegFile parseRegFile(const QByteArray& bytes, const QString& file) {
     return result;
 }
 
-} // namespace Recorded
+} // namespace Recordings

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace Recorded {
+namespace Recordings {
 
 /// What one line of a .reg file does to a value.
 struct RegValue {
@@ -29,11 +29,11 @@ struct RegKey {
 
 struct RegFile {
     std::vector<RegKey> keys;
-    std::vector<Recording::Problem> problems;
+    std::vector<Problem> problems;
 };
 
 /// Reads a registry file of version 5.00, as regedit and `reg export` write it. A fault costs only the line or the
 /// value that has it and is listed in `problems` under `file`; a file without the header of that version is not read.
 RegFile parseRegFile(const QByteArray& bytes, const QString& file);
 
-} // namespace Recorded
+} // namespace Recordings

@@ -5,11 +5,11 @@
 #include <QList>
 #include <QtEndian>
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
-using Problems = std::vector<Recording::Problem>;
+using Problems = std::vector<Problem>;
 
 int lastLine(const QString& text) {
     return static_cast<int>(text.count(QLatin1Char('\n'))) + 1;
@@ -68,4 +68,4 @@ QString decodeRegText(const QByteArray& bytes, const QString& file, Problems& pr
     return decodeUtf8(bytes, file, problems);
 }
 
-} // namespace Recorded
+} // namespace Recordings

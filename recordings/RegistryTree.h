@@ -5,7 +5,7 @@
 #include <map>
 #include <memory>
 
-namespace Recorded {
+namespace Recordings {
 
 /// A key of a recorded registry with its values and all that is below it. Names are found ignoring case and keep the
 /// spelling in which they came first.
@@ -45,4 +45,4 @@ private:
     std::map<QString, Value> m_values; // by folded name
 };
 
-} // namespace Recorded
+} // namespace Recordings

@@ -6,7 +6,7 @@
 
 #include <QHash>
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
@@ -177,11 +177,11 @@ QString expanded(const QString& text, const QProcessEnvironment& environment) {
     }
     QHash<QString, QString> values; // by folded name
     for (const QString& name : environment.keys()) {
-        values.insert(Windows::foldName(name), environment.value(name));
+        values.insert(foldName(name), environment.value(name));
     }
     QString result = parts.first();
     for (int i = 1; i < parts.size(); i += 2) {
-        const auto value = values.constFind(Windows::foldName(parts.at(i)));
+        const auto value = values.constFind(foldName(parts.at(i)));
         if (value == values.constEnd()) {
             return {};
         }
@@ -208,10 +208,10 @@ QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, 
         }
     }
     if (target.isEmpty() && !link.relativePath.isEmpty()) {
-        const auto path = Windows::DrivePath::parse(folder + QLatin1Char('/') + link.relativePath);
+        const auto path = DrivePath::parse(folder + QLatin1Char('/') + link.relativePath);
         target = path ? path->text() : QString();
     }
-    return target.size() > longestTarget ? QString() : Windows::withSlashes(target);
+    return target.size() > longestTarget ? QString() : withSlashes(target);
 }
 
-} // namespace Recorded
+} // namespace Recordings

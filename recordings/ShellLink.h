@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace Recorded {
+namespace Recordings {
 
 /// What a shortcut file (.lnk) says about its target. What it doesn't say is empty.
 struct ShellLink {
@@ -24,4 +24,4 @@ std::optional<ShellLink> parseShellLink(const QByteArray& bytes);
 /// Empty when it leads nowhere.
 QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, const QString& folder);
 
-} // namespace Recorded
+} // namespace Recordings

@@ -17,7 +17,7 @@ QString describeFile(const QString& folder, const QString& file) {
     return isWithin ? QDir(folder).filePath(relative) : file;
 }
 
-QString describe(const QString& folder, const Recording::Problem& problem) {
+QString describe(const QString& folder, const Recordings::Problem& problem) {
     QString place = describeFile(folder, problem.file);
     if (problem.line > 0) {
         place += QLatin1Char(':') + QString::number(problem.line);
@@ -27,8 +27,8 @@ QString describe(const QString& folder, const Recording::Problem& problem) {
 
 /// Looks through the recording. No value on a system without recordings.
 std::optional<RecordedPc> check(const QString& folder) {
-    const std::optional<std::vector<Recording::Problem>> problems =
-        Recording::problems(QFileInfo(folder).absoluteFilePath());
+    const std::optional<std::vector<Recordings::Problem>> problems =
+        Recordings::problems(QFileInfo(folder).absoluteFilePath());
     if (!problems) {
         return std::nullopt;
     }
@@ -40,9 +40,9 @@ std::optional<RecordedPc> check(const QString& folder) {
 
 } // namespace
 
-QStringList describeProblems(const QString& folder, const std::vector<Recording::Problem>& problems) {
+QStringList describeProblems(const QString& folder, const std::vector<Recordings::Problem>& problems) {
     QStringList lines;
-    for (const Recording::Problem& problem : problems) {
+    for (const Recordings::Problem& problem : problems) {
         lines.append(describe(folder, problem));
     }
     return lines;
@@ -50,11 +50,11 @@ QStringList describeProblems(const QString& folder, const std::vector<Recording:
 
 RecordedPc chooseRecordedPc(const std::optional<QString>& folder) {
     if (!folder) {
-        const QString chosenBefore = qEnvironmentVariable(Recording::environmentVariable);
+        const QString chosenBefore = qEnvironmentVariable(Recordings::environmentVariable);
         return chosenBefore.isEmpty() ? RecordedPc() : check(chosenBefore).value_or(RecordedPc());
     }
     const QString absolute = QFileInfo(*folder).absoluteFilePath();
-    qputenv(Recording::environmentVariable, QFile::encodeName(absolute));
+    qputenv(Recordings::environmentVariable, QFile::encodeName(absolute));
     return check(*folder).value_or(RecordedPc{QStringLiteral("--pc: this build answers from the PC it runs on"), {}});
 }
 

@@ -21,6 +21,6 @@ struct RecordedPc {
 RecordedPc chooseRecordedPc(const std::optional<QString>& folder);
 
 /// The problems as "FILE:LINE: message", the files named as the user named the folder.
-QStringList describeProblems(const QString& folder, const std::vector<Recording::Problem>& problems);
+QStringList describeProblems(const QString& folder, const std::vector<Recordings::Problem>& problems);
 
 } // namespace Host

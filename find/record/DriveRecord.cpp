@@ -11,51 +11,51 @@ namespace {
 constexpr QLatin1Char slash('/');
 
 /// The way to a path, from the drive's root ("C:") on; the path itself is the last.
-QStringList wayTo(const Windows::DrivePath& path) {
+QStringList wayTo(const Recordings::DrivePath& path) {
     return QStringList{QString(path.letter.toUpper()) + QLatin1Char(':')} + path.names;
 }
 
 } // namespace
 
-QString foldedPath(const Windows::DrivePath& path) {
-    return Windows::foldName(wayTo(path).join(slash));
+QString foldedPath(const Recordings::DrivePath& path) {
+    return Recordings::foldName(wayTo(path).join(slash));
 }
 
-Windows::DrivePath pathIn(const Windows::DrivePath& folder, const QString& name) {
-    Windows::DrivePath path = folder;
+Recordings::DrivePath pathIn(const Recordings::DrivePath& folder, const QString& name) {
+    Recordings::DrivePath path = folder;
     path.names.append(name);
     path.isFolderOnly = false;
     return path;
 }
 
-void DriveRecord::addFolder(const Windows::DrivePath& path) {
+void DriveRecord::addFolder(const Recordings::DrivePath& path) {
     make(path, Kind::Folder);
 }
 
-void DriveRecord::addFile(const Windows::DrivePath& path) {
+void DriveRecord::addFile(const Recordings::DrivePath& path) {
     make(path, Kind::File);
 }
 
-void DriveRecord::addContents(const Windows::DrivePath& path, const QByteArray& contents) {
+void DriveRecord::addContents(const Recordings::DrivePath& path, const QByteArray& contents) {
     make(path, Kind::ReadFile).contents = contents;
 }
 
-void DriveRecord::addShortcut(const Windows::DrivePath& path, const QString& target) {
+void DriveRecord::addShortcut(const Recordings::DrivePath& path, const QString& target) {
     make(path, Kind::Shortcut).target = target;
 }
 
-void DriveRecord::spell(const Windows::DrivePath& path) {
+void DriveRecord::spell(const Recordings::DrivePath& path) {
     const auto entry = m_entries.find(foldedPath(path));
     if (entry != m_entries.end() && !path.isRoot()) {
         entry->second.name = path.names.last();
     }
 }
 
-DriveRecord::Entry& DriveRecord::make(const Windows::DrivePath& path, Kind kind) {
+DriveRecord::Entry& DriveRecord::make(const Recordings::DrivePath& path, Kind kind) {
     const QStringList way = wayTo(path);
     QString folded;
     for (int i = 0; i + 1 < way.size(); ++i) {
-        folded += Windows::foldName(way.at(i));
+        folded += Recordings::foldName(way.at(i));
         Entry& folder = m_entries[folded];
         folder.kind = Kind::Folder;
         if (folder.name.isEmpty()) {
@@ -63,7 +63,7 @@ DriveRecord::Entry& DriveRecord::make(const Windows::DrivePath& path, Kind kind)
         }
         folded += slash;
     }
-    const auto [place, isNew] = m_entries.try_emplace(folded + Windows::foldName(way.last()));
+    const auto [place, isNew] = m_entries.try_emplace(folded + Recordings::foldName(way.last()));
     Entry& entry = place->second;
     if (isNew) {
         entry.name = path.isRoot() ? way.at(0).left(1) : way.last();

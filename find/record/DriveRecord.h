@@ -23,14 +23,14 @@ public:
         QString target;      ///< of a shortcut that leads somewhere
     };
 
-    void addFolder(const Windows::DrivePath& path);
-    void addFile(const Windows::DrivePath& path);
-    void addContents(const Windows::DrivePath& path, const QByteArray& contents);
-    void addShortcut(const Windows::DrivePath& path, const QString& target);
+    void addFolder(const Recordings::DrivePath& path);
+    void addFile(const Recordings::DrivePath& path);
+    void addContents(const Recordings::DrivePath& path, const QByteArray& contents);
+    void addShortcut(const Recordings::DrivePath& path, const QString& target);
 
     /// Gives the file or folder the name by which its folder lists it. (A path that somebody wrote down can have other
     /// letter case.)
-    void spell(const Windows::DrivePath& path);
+    void spell(const Recordings::DrivePath& path);
 
     /// By folded path ("C:/GAMES"), so that folders come before what is in them.
     const std::map<QString, Entry>& entries() const { return m_entries; }
@@ -41,15 +41,15 @@ public:
     int count(Kind kind) const;
 
 private:
-    Entry& make(const Windows::DrivePath& path, Kind kind);
+    Entry& make(const Recordings::DrivePath& path, Kind kind);
 
     std::map<QString, Entry> m_entries;
 };
 
 /// The same file has the same folded path, however a finder writes it.
-QString foldedPath(const Windows::DrivePath& path);
+QString foldedPath(const Recordings::DrivePath& path);
 
 /// The path of the file of this name in the folder.
-Windows::DrivePath pathIn(const Windows::DrivePath& folder, const QString& name);
+Recordings::DrivePath pathIn(const Recordings::DrivePath& folder, const QString& name);
 
 } // namespace Host

@@ -32,30 +32,30 @@ public:
         : m_drives(drives)
         , m_progress(progress) {}
 
-    void walk(const Windows::DrivePath& folder, bool isDeep);
+    void walk(const Recordings::DrivePath& folder, bool isDeep);
 
 private:
-    void visit(const Windows::DrivePath& folder, bool isDeep);
+    void visit(const Recordings::DrivePath& folder, bool isDeep);
 
     DriveRecord& m_drives;
     Progress& m_progress;
-    std::vector<Windows::DrivePath> m_pending;
+    std::vector<Recordings::DrivePath> m_pending;
     int m_visited = 0;
 };
 
-void ExecutableWalk::walk(const Windows::DrivePath& folder, bool isDeep) {
+void ExecutableWalk::walk(const Recordings::DrivePath& folder, bool isDeep) {
     m_pending.push_back(folder);
     while (!m_pending.empty()) {
-        const Windows::DrivePath next = m_pending.back();
+        const Recordings::DrivePath next = m_pending.back();
         m_pending.pop_back();
         visit(next, isDeep);
     }
 }
 
-void ExecutableWalk::visit(const Windows::DrivePath& folder, bool isDeep) {
+void ExecutableWalk::visit(const Recordings::DrivePath& folder, bool isDeep) {
     m_progress.step(++m_visited, 0, folder.text());
     for (const Platform::FolderEntry& entry : listFolder(folder.text())) {
-        const Windows::DrivePath path = pathIn(folder, entry.name);
+        const Recordings::DrivePath path = pathIn(folder, entry.name);
         if (isDeep && isRealFolder(entry)) {
             m_pending.push_back(path);
         }
@@ -85,7 +85,7 @@ void InstallFolders::add(const TraceEvent& event) {
     }
     const QString path = event.text("path");
     const QString folder = folderOfProbe(path);
-    std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(folder.isEmpty() ? path : folder);
+    std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(folder.isEmpty() ? path : folder);
     if (!folder.isEmpty() && !parsed && isSeparator(folder.at(0))) {
         m_networkFolders.append(folder);
     }

@@ -28,7 +28,7 @@ public:
     const QStringList& networkFolders() const { return m_networkFolders; }
 
 private:
-    std::map<QString, Windows::DrivePath> m_folders; // by folded path, so that folders come before those below them
+    std::map<QString, Recordings::DrivePath> m_folders; // by folded path, so that folders come before those below them
     QStringList m_networkFolders;
 };
 

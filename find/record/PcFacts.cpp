@@ -62,9 +62,9 @@ void PcFacts::add(const TraceEvent& event) {
 }
 
 void PcFacts::addShellFolder(const TraceEvent& event) {
-    const auto* const folder = std::find_if(std::begin(Recording::shellFolders), std::end(Recording::shellFolders),
+    const auto* const folder = std::find_if(std::begin(Recordings::shellFolders), std::end(Recordings::shellFolders),
                                             [&](const auto& known) { return known.csidl == event.number("csidl"); });
-    if (folder != std::end(Recording::shellFolders) && !event.text("path").isEmpty()) {
+    if (folder != std::end(Recordings::shellFolders) && !event.text("path").isEmpty()) {
         m_shellFolders.insert(QLatin1String(folder->name), event.text("path"));
     }
 }
@@ -73,7 +73,7 @@ void PcFacts::addShellFolder(const TraceEvent& event) {
 void PcFacts::addUserLocation(const TraceEvent& event) {
     const QString key = event.text("key");
     const bool isKnown = std::any_of(m_userLocations.keyBegin(), m_userLocations.keyEnd(), [&](const QString& known) {
-        return Windows::foldName(known) == Windows::foldName(key);
+        return Recordings::foldName(known) == Recordings::foldName(key);
     });
     if (!isKnown) {
         m_userLocations.insert(key, event.text("path"));
@@ -97,7 +97,7 @@ void PcFacts::addPackage(const TraceEvent& event) {
 }
 
 void PcFacts::addAttributes(const TraceEvent& event) {
-    const std::optional<Windows::DrivePath> folder = Windows::DrivePath::parse(event.text("path"));
+    const std::optional<Recordings::DrivePath> folder = Recordings::DrivePath::parse(event.text("path"));
     if (!folder) {
         return;
     }

@@ -44,7 +44,7 @@ PcRecord::PcRecord(const TraceEvents& events, Progress& progress) {
 
 void PcRecord::addFiles(const TraceEvent& event) {
     const QString path = event.text("path");
-    const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path);
+    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
     if (event.is("exists") && event.flag("found")) {
         addExisting(path);
     } else if (event.is("list") || event.is("walk")) {
@@ -61,7 +61,7 @@ void PcRecord::addFiles(const TraceEvent& event) {
 }
 
 void PcRecord::addExisting(const QString& path) {
-    const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path);
+    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
     if (!parsed || !parsed->isValid) {
         leaveOut(path);
     } else if (m_drives.entries().count(foldedPath(*parsed)) == 0) {
@@ -73,7 +73,7 @@ void PcRecord::addExisting(const QString& path) {
     }
 }
 
-void PcRecord::addListing(const TraceEvent& event, const Windows::DrivePath& folder) {
+void PcRecord::addListing(const TraceEvent& event, const Recordings::DrivePath& folder) {
     if (!QFileInfo(folder.text()).isDir()) {
         return;
     }

@@ -33,7 +33,7 @@ public:
 private:
     void addFiles(const TraceEvent& event);
     void addExisting(const QString& path);
-    void addListing(const TraceEvent& event, const Windows::DrivePath& folder);
+    void addListing(const TraceEvent& event, const Recordings::DrivePath& folder);
     void leaveOut(const QString& path);
 
     RegistryRecord m_registry;

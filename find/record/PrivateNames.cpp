@@ -92,7 +92,7 @@ constexpr const char* placeWords[] = {"Program Files",
                                       "null"};
 
 QString lastNameOf(const QString& path) {
-    const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path);
+    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
     return parsed ? parsed->names.value(parsed->names.size() - 1) : QString();
 }
 
@@ -117,8 +117,8 @@ bool mergesPaths(const std::vector<PrivateName>& names, const QString& profilesF
     const NeutralNames longForms(kept, profilesFolder);
     QHash<QString, QString> pathsByNeutral;
     for (const QString& path : paths) {
-        const QString before = Windows::foldName(longForms.text(path));
-        const QString after = Windows::foldName(neutral.text(path));
+        const QString before = Recordings::foldName(longForms.text(path));
+        const QString after = Recordings::foldName(neutral.text(path));
         const auto known = pathsByNeutral.constFind(after);
         if (known == pathsByNeutral.constEnd()) {
             pathsByNeutral.insert(after, before);
@@ -157,7 +157,7 @@ NameSources nameSources() {
     NameSources sources = {environment.value(QStringLiteral("USERNAME")),
                            environment.value(QStringLiteral("USERPROFILE")),
                            {environment.value(QStringLiteral("COMPUTERNAME"))}};
-    const bool isPcItself = !Recording::problems(QString());
+    const bool isPcItself = !Recordings::problems(QString());
     if (isPcItself) {
         sources.machine.append(QSysInfo::machineHostName());
     }
@@ -178,7 +178,7 @@ std::vector<PrivateName> choosePrivateNames(const NameSources& sources, const Re
 }
 
 QString profilesFolderName(const NameSources& sources) {
-    const std::optional<Windows::DrivePath> profile = Windows::DrivePath::parse(sources.profile);
+    const std::optional<Recordings::DrivePath> profile = Recordings::DrivePath::parse(sources.profile);
     return profile && profile->names.size() > 1 ? profile->names.at(profile->names.size() - 2)
                                                 : QStringLiteral("Users");
 }

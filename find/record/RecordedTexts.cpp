@@ -16,7 +16,7 @@ QSet<QString> listedKeys(const TraceEvents& events) {
         if (event.is("subkeys")) {
             const QStringList names = event.texts("names");
             for (const QString& name : names) {
-                keys.insert(Windows::foldName(event.text("key") + QLatin1Char('\\') + name));
+                keys.insert(Recordings::foldName(event.text("key") + QLatin1Char('\\') + name));
             }
         }
     }
@@ -26,7 +26,7 @@ QSet<QString> listedKeys(const TraceEvents& events) {
 void addAskedNames(const TraceEvents& events, QStringList& places) {
     const QSet<QString> listed = listedKeys(events);
     for (const TraceEvent& event : events) {
-        if (event.is("key") && !listed.contains(Windows::foldName(event.text("key")))) {
+        if (event.is("key") && !listed.contains(Recordings::foldName(event.text("key")))) {
             places.append(event.text("key"));
         } else if (event.is("value") || event.is("environment")) {
             places.append(event.text("name"));

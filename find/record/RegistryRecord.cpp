@@ -9,14 +9,14 @@ namespace {
 
 constexpr QLatin1Char backslash('\\');
 
-QStringList storedPath(const QString& root, const QStringList& path, Windows::RegistryView view) {
+QStringList storedPath(const QString& root, const QStringList& path, Recordings::RegistryView view) {
     if (root == QLatin1String("HKEY_LOCAL_MACHINE")) {
-        return Windows::storedMachinePath(path, view);
+        return Recordings::storedMachinePath(path, view);
     }
     if (root == QLatin1String("HKEY_CURRENT_USER")) {
-        return Windows::storedUserPath(path, view);
+        return Recordings::storedUserPath(path, view);
     }
-    return root == QLatin1String("HKEY_CLASSES_ROOT") ? Windows::storedClassesPath(path, view) : path;
+    return root == QLatin1String("HKEY_CLASSES_ROOT") ? Recordings::storedClassesPath(path, view) : path;
 }
 
 bool is32Bit(const TraceEvent& event) {
@@ -46,9 +46,9 @@ void RegistryRecord::add(const TraceEvent& event) {
                            QByteArray::fromHex(event.text("data").toLatin1())};
     // Where both views share a key, as HKEY_CLASSES_ROOT does, finders ask the 32-bit one first.
     if (is32Bit(event)) {
-        key.values[Windows::foldName(name)] = std::move(value);
+        key.values[Recordings::foldName(name)] = std::move(value);
     } else {
-        key.values.try_emplace(Windows::foldName(name), std::move(value));
+        key.values.try_emplace(Recordings::foldName(name), std::move(value));
     }
 }
 
@@ -66,9 +66,9 @@ RecordedKey& RegistryRecord::makeKey(const TraceEvent& event, const QString& bel
     if (!below.isEmpty()) {
         path.append(below);
     }
-    const auto view = is32Bit(event) ? Windows::RegistryView::Bits32 : Windows::RegistryView::Bits64;
+    const auto view = is32Bit(event) ? Recordings::RegistryView::Bits32 : Recordings::RegistryView::Bits64;
     path = storedPath(root, path, view);
-    RecordedKey& key = m_keys[Windows::foldName((QStringList{root} + path).join(backslash))];
+    RecordedKey& key = m_keys[Recordings::foldName((QStringList{root} + path).join(backslash))];
     if (key.root.isEmpty()) {
         key.root = root;
         key.path = path;

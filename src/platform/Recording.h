@@ -9,7 +9,7 @@
 
 /// Recorded PCs as a host sees them: which one the library answers from, and what is wrong with it. The format is
 /// docs/recorded-pc.md.
-namespace Recording {
+namespace Recordings {
 
 /// The environment variable that names the recorded PC's folder. Read whenever the platform is asked, so a host sets
 /// it before it makes a factory.
@@ -19,4 +19,4 @@ constexpr const char* environmentVariable = "LURULUDRI_PC";
 /// No value on a system that answers from the PC it runs on and knows no recordings.
 std::optional<std::vector<Problem>> problems(const QString& folder);
 
-} // namespace Recording
+} // namespace Recordings

@@ -47,7 +47,7 @@ QStringList shapeOf(const QJsonObject& object) {
 }
 
 TEST(JsonDoc, ItsExamplesAreWhatTheProgramPrintsOfTheSamplePc) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
         GTEST_SKIP() << "no recordings here";
     }
     ASSERT_EQ(examples().size(), 2);

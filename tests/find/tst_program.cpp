@@ -31,7 +31,7 @@ void expectRefusal(const FindRun& run, const QString& complaint) {
 }
 
 bool worldKnowsRecordings() {
-    return Recording::problems(QDir::tempPath()).has_value();
+    return Recordings::problems(QDir::tempPath()).has_value();
 }
 
 TEST(Program, TheExitStatusTellsWhetherAllWereFound) {
@@ -180,7 +180,7 @@ TEST(Program, ARecordedPcWithProblemsStillAnswers) {
     EXPECT_EQ(chosen.output, program.run({catalogue}).output);
     EXPECT_TRUE(chosen.errors.startsWith("luruludri-find: " + folder + "/pc.json:")) << chosen.errors.toStdString();
 
-    program.setVariable(Recording::environmentVariable, folder);
+    program.setVariable(Recordings::environmentVariable, folder);
     EXPECT_EQ(program.run({catalogue}).errors, chosen.errors);
     EXPECT_EQ(program.run({catalogue}).exitStatus, 2);
 }
@@ -195,9 +195,9 @@ TEST(Program, ARecordedPcThatIsMissingIsTold) {
     expectComplaint(program.run({"--pc", missing, catalogue}), missing + ": no such folder");
     expectComplaint(program.run({"--pc", catalogue, catalogue}), catalogue + ": no such folder");
 
-    program.setVariable(Recording::environmentVariable, missing);
+    program.setVariable(Recordings::environmentVariable, missing);
     expectComplaint(program.run({catalogue}), missing + ": no such folder");
-    program.setVariable(Recording::environmentVariable, "");
+    program.setVariable(Recordings::environmentVariable, "");
     EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
 }
 
@@ -210,7 +210,7 @@ TEST(Program, WithoutRecordingsAskingForOneIsRefused) {
     expectComplaint(program.run({"--pc", program.folder(), catalogue}),
                     "luruludri-find: --pc: this build answers from the PC it runs on");
 
-    program.setVariable(Recording::environmentVariable, program.folder());
+    program.setVariable(Recordings::environmentVariable, program.folder());
     EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
 }
 

@@ -28,21 +28,21 @@ void expectShown(const QStringList& arguments) {
 }
 
 TEST(Readme, ShowsWhatTheProgramPrintsOfTheSamples) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
         GTEST_SKIP() << "no recordings here";
     }
     expectShown({LURULUDRI_SAMPLES "/catalogue.json"});
 }
 
 TEST(Readme, ShowsWhatIsExplainedOfAGameOfTheSamples) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
         GTEST_SKIP() << "no recordings here";
     }
     expectShown({"explain", "Tiefseelicht", LURULUDRI_SAMPLES "/catalogue.json"});
 }
 
 TEST(Readme, ShowsWhatIsSaidOfARecordingOfTheSamples) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
         GTEST_SKIP() << "no recordings here";
     }
     expectShown({"record", "my-pc", LURULUDRI_SAMPLES "/catalogue.json"});

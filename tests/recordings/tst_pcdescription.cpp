@@ -8,17 +8,17 @@
 
 namespace {
 
-using Recorded::PcDescription;
+using Recordings::PcDescription;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 class PcDescriptionTest : public ::testing::Test {
 protected:
     PcDescription read(const QByteArray& json) {
-        std::vector<Recording::Problem> found;
-        PcDescription pc = Recorded::parsePcDescription(json, "pc.json", found);
+        std::vector<Recordings::Problem> found;
+        PcDescription pc = Recordings::parsePcDescription(json, "pc.json", found);
         problems.clear();
-        for (const Recording::Problem& problem : found) {
+        for (const Recordings::Problem& problem : found) {
             EXPECT_EQ(problem.file, "pc.json");
             problems.push_back(QString("%1: %2").arg(problem.line).arg(problem.message));
         }

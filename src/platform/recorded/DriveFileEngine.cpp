@@ -61,8 +61,8 @@ DriveFileEngine::DriveFileEngine(std::shared_ptr<const RecordedPc> pc, const QSt
 }
 
 void DriveFileEngine::setFileName(const QString& path) {
-    m_path = Windows::withSlashes(path);
-    m_parsed = Windows::DrivePath::parse(m_path).value_or(Windows::DrivePath{});
+    m_path = Recordings::withSlashes(path);
+    m_parsed = Recordings::DrivePath::parse(m_path).value_or(Recordings::DrivePath{});
     m_subject.reset();
 }
 
@@ -82,7 +82,8 @@ const DriveFileEngine::Subject& DriveFileEngine::subject() const {
         if (subject.file) {
             subject.shortcutTarget = targetOf(*subject.file);
         }
-        subject.path = Windows::DrivePath::parse(subject.shortcutTarget).value_or(Windows::DrivePath{{}, {}, false});
+        subject.path =
+            Recordings::DrivePath::parse(subject.shortcutTarget).value_or(Recordings::DrivePath{{}, {}, false});
         subject.file = m_pc->drives().find(subject.path);
     }
     m_subject = std::move(subject);
@@ -91,8 +92,8 @@ const DriveFileEngine::Subject& DriveFileEngine::subject() const {
 
 QString DriveFileEngine::targetOf(const Drives::File& shortcut) const {
     const std::optional<QByteArray> bytes = HostFiles::readFile(shortcut.realPath, longestShortcut);
-    const std::optional<ShellLink> link = bytes ? parseShellLink(*bytes) : std::nullopt;
-    return link ? Recorded::targetOf(*link, m_pc->description().environment, parentOf(m_parsed.text())) : QString();
+    const std::optional<Recordings::ShellLink> link = bytes ? Recordings::parseShellLink(*bytes) : std::nullopt;
+    return link ? Recordings::targetOf(*link, m_pc->description().environment, parentOf(m_parsed.text())) : QString();
 }
 
 bool DriveFileEngine::open(QIODevice::OpenMode mode) {
@@ -118,7 +119,7 @@ bool DriveFileEngine::open(QIODevice::OpenMode mode) {
     return false;
 }
 
-bool DriveFileEngine::isInFolder(Windows::DrivePath path) const {
+bool DriveFileEngine::isInFolder(Recordings::DrivePath path) const {
     if (!path.isRoot()) {
         path.names.removeLast();
         path.isFolderOnly = true;

@@ -38,19 +38,19 @@ private:
     struct Subject {
         bool isShortcut = false;
         QString shortcutTarget;
-        Windows::DrivePath path;
+        Recordings::DrivePath path;
         std::optional<Drives::File> file;
     };
 
     const Subject& subject() const;
-    bool isInFolder(Windows::DrivePath path) const;
+    bool isInFolder(Recordings::DrivePath path) const;
     QString targetOf(const Drives::File& shortcut) const;
     QString absoluteName() const;
     QString canonicalName() const;
 
     std::shared_ptr<const RecordedPc> m_pc;
     QString m_path; ///< with slashes
-    Windows::DrivePath m_parsed;
+    Recordings::DrivePath m_parsed;
     mutable std::optional<Subject> m_subject;
     HostFiles::Descriptor m_file;
 };

@@ -23,7 +23,7 @@ std::vector<Entry> entriesOf(const QByteArray& folder) {
 std::vector<std::pair<QString, Entry>> sortedEntries(const QByteArray& folder) {
     std::vector<std::pair<QString, Entry>> sorted; // by folded name
     for (Entry& entry : entriesOf(folder)) {
-        QString folded = Windows::foldName(entry.name);
+        QString folded = Recordings::foldName(entry.name);
         sorted.emplace_back(std::move(folded), std::move(entry));
     }
     std::sort(sorted.begin(), sorted.end(), [](const auto& a, const auto& b) {
@@ -38,10 +38,10 @@ std::vector<std::pair<QString, Entry>> sortedEntries(const QByteArray& folder) {
 
 // The entry of `folder` that Windows would find under `name`; empty when there is none.
 QByteArray nameIgnoringCase(const QByteArray& folder, const QString& name) {
-    const QString folded = Windows::foldName(name);
+    const QString folded = Recordings::foldName(name);
     QString best;
     for (const Entry& entry : entriesOf(folder)) {
-        if (Windows::foldName(entry.name) == folded && (best.isEmpty() || entry.name < best)) {
+        if (Recordings::foldName(entry.name) == folded && (best.isEmpty() || entry.name < best)) {
             best = entry.name;
         }
     }
@@ -75,8 +75,8 @@ bool leadsElsewhere(const QByteArray& link, const std::vector<struct stat>& way)
 QSet<QString> foldedPaths(const QStringList& paths) {
     QSet<QString> folded;
     for (const QString& path : paths) {
-        if (const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path)) {
-            folded.insert(Windows::foldName(parsed->text()));
+        if (const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path)) {
+            folded.insert(Recordings::foldName(parsed->text()));
         }
     }
     return folded;
@@ -89,7 +89,7 @@ Drives::Drives(QByteArray folder, const QStringList& hidden, const QStringList& 
     , m_hidden(foldedPaths(hidden))
     , m_system(foldedPaths(system)) {}
 
-std::optional<Drives::File> Drives::find(const Windows::DrivePath& path) const {
+std::optional<Drives::File> Drives::find(const Recordings::DrivePath& path) const {
     if (m_folder.isEmpty() || !path.isValid) {
         return std::nullopt;
     }
@@ -107,7 +107,7 @@ std::optional<Drives::File> Drives::find(const Windows::DrivePath& path) const {
     return file && path.isFolderOnly && !file->isFolder() ? std::nullopt : file;
 }
 
-std::vector<QString> Drives::list(const Windows::DrivePath& path) const {
+std::vector<QString> Drives::list(const Recordings::DrivePath& path) const {
     const std::optional<File> folder = find(path);
     if (!folder) {
         return {};
@@ -115,7 +115,7 @@ std::vector<QString> Drives::list(const Windows::DrivePath& path) const {
     std::vector<struct stat> way;
     std::vector<QString> names;
     for (const auto& [folded, entry] : sortedEntries(folder->realPath)) {
-        if (!Windows::DrivePath::canName(entry.name)) {
+        if (!Recordings::DrivePath::canName(entry.name)) {
             continue;
         }
         if (entry.isLink && way.empty()) {
@@ -128,7 +128,7 @@ std::vector<QString> Drives::list(const Windows::DrivePath& path) const {
     return names;
 }
 
-std::vector<struct stat> Drives::foldersOnTheWay(Windows::DrivePath path) const {
+std::vector<struct stat> Drives::foldersOnTheWay(Recordings::DrivePath path) const {
     std::vector<struct stat> way;
     while (true) {
         if (const std::optional<File> folder = find(path)) {
@@ -141,12 +141,12 @@ std::vector<struct stat> Drives::foldersOnTheWay(Windows::DrivePath path) const 
     }
 }
 
-bool Drives::isHidden(const Windows::DrivePath& path) const {
-    return m_hidden.contains(Windows::foldName(path.text()));
+bool Drives::isHidden(const Recordings::DrivePath& path) const {
+    return m_hidden.contains(Recordings::foldName(path.text()));
 }
 
-bool Drives::isSystem(const Windows::DrivePath& path) const {
-    return m_system.contains(Windows::foldName(path.text()));
+bool Drives::isSystem(const Recordings::DrivePath& path) const {
+    return m_system.contains(Recordings::foldName(path.text()));
 }
 
 } // namespace Recorded

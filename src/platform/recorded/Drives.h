@@ -32,17 +32,17 @@ public:
 
     /// The file or folder at `path`; empty when there is none or it can't be examined. Links count as what they lead
     /// to.
-    std::optional<File> find(const Windows::DrivePath& path) const;
+    std::optional<File> find(const Recordings::DrivePath& path) const;
 
     /// The names in a folder in NTFS's order, without "." and "..". A link back to a folder on the way is left out, so
     /// that every walk ends. Empty when `path` is no folder or can't be read.
-    std::vector<QString> list(const Windows::DrivePath& path) const;
+    std::vector<QString> list(const Recordings::DrivePath& path) const;
 
-    bool isHidden(const Windows::DrivePath& path) const;
-    bool isSystem(const Windows::DrivePath& path) const;
+    bool isHidden(const Recordings::DrivePath& path) const;
+    bool isSystem(const Recordings::DrivePath& path) const;
 
 private:
-    std::vector<struct stat> foldersOnTheWay(Windows::DrivePath path) const;
+    std::vector<struct stat> foldersOnTheWay(Recordings::DrivePath path) const;
 
     QByteArray m_folder;
     QSet<QString> m_hidden; // by folded path, as below

@@ -16,13 +16,13 @@ namespace {
 
 // A recorded PC is never written to, and without one there is no drive.
 bool isOnDrive(const QString& path) {
-    return Windows::DrivePath::parse(path).has_value();
+    return Recordings::DrivePath::parse(path).has_value();
 }
 
 } // namespace
 
 qint64 fileSize(const QString& path) {
-    if (const auto drivePath = Windows::DrivePath::parse(path)) {
+    if (const auto drivePath = Recordings::DrivePath::parse(path)) {
         const auto file = Recorded::currentPc()->drives().find(*drivePath);
         return file ? (file->isFolder() ? 0 : file->info.st_size) : -1;
     }

@@ -112,7 +112,7 @@ std::optional<std::vector<Entry>> list(const QByteArray& folder) {
         if (bytes == "." || bytes == "..") {
             continue;
         }
-        if (std::optional<QString> name = Recorded::decoded(bytes)) {
+        if (std::optional<QString> name = Recordings::decoded(bytes)) {
             entries.push_back({std::move(*name), entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN});
         }
     }
@@ -121,7 +121,7 @@ std::optional<std::vector<Entry>> list(const QByteArray& folder) {
 
 QByteArray encodedName(const QString& name) {
     const QByteArray utf8 = name.toUtf8();
-    return Recorded::decoded(utf8) == name ? utf8 : QByteArray();
+    return Recordings::decoded(utf8) == name ? utf8 : QByteArray();
 }
 
 } // namespace Recorded::HostFiles

@@ -15,19 +15,19 @@ struct Listing {
 };
 
 // A link of the system that holds the recording counts as what it leads to.
-quint32 attributesOf(const Recorded::Drives& drives, const Windows::DrivePath& path) {
+quint32 attributesOf(const Recorded::Drives& drives, const Recordings::DrivePath& path) {
     const std::optional<Recorded::Drives::File> file = drives.find(path);
     return (file && file->isFolder() ? attributeFolder : 0U) | (drives.isHidden(path) ? attributeHidden : 0U) |
            (drives.isSystem(path) ? attributeSystem : 0U);
 }
 
-Entries entriesOf(const Recorded::Drives& drives, const Windows::DrivePath& folder) {
+Entries entriesOf(const Recorded::Drives& drives, const Recordings::DrivePath& folder) {
     Entries entries;
     if (!folder.isRoot()) {
         entries = {{QStringLiteral("."), attributeFolder}, {QStringLiteral(".."), attributeFolder}};
     }
     for (QString& name : drives.list(folder)) {
-        Windows::DrivePath path = folder;
+        Recordings::DrivePath path = folder;
         path.names.append(name);
         path.isFolderOnly = false;
         entries.push_back({std::move(name), attributesOf(drives, path)});
@@ -42,7 +42,7 @@ void ListingCloser::operator()(void* listing) const noexcept {
 }
 
 ListingHandle firstEntry(const QString& folder, FolderEntry& entry) {
-    const std::optional<Windows::DrivePath> path = Windows::DrivePath::parse(folder);
+    const std::optional<Recordings::DrivePath> path = Recordings::DrivePath::parse(folder);
     const std::shared_ptr<const Recorded::RecordedPc> pc = Recorded::currentPc();
     const std::optional<Recorded::Drives::File> file = path ? pc->drives().find(*path) : std::nullopt;
     if (!file || !file->isFolder()) {
@@ -66,7 +66,7 @@ bool nextEntry(const ListingHandle& listing, FolderEntry& entry) {
 }
 
 bool fileIdentity(const QString& path, FileIdentity& identity) {
-    const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path);
+    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
     const std::optional<Recorded::Drives::File> file =
         parsed ? Recorded::currentPc()->drives().find(*parsed) : std::nullopt;
     if (!file) {

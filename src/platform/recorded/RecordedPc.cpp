@@ -45,7 +45,7 @@ void RecordedPc::readRegistry(const QByteArray& folder) {
             report(path, QStringLiteral("the file cannot be read"));
             continue;
         }
-        const RegFile file = parseRegFile(*bytes, displayed(path));
+        const Recordings::RegFile file = Recordings::parseRegFile(*bytes, displayed(path));
         m_registry.apply(file.keys);
         m_problems.insert(m_problems.end(), file.problems.begin(), file.problems.end());
     }
@@ -57,7 +57,7 @@ void RecordedPc::readDescription(const QByteArray& file) {
     }
     const std::optional<QByteArray> json = HostFiles::readFile(file, longestFile);
     if (json) {
-        m_description = parsePcDescription(*json, displayed(file), m_problems);
+        m_description = Recordings::parsePcDescription(*json, displayed(file), m_problems);
     } else {
         report(file, QStringLiteral("the file cannot be read"));
     }

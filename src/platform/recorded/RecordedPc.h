@@ -22,13 +22,13 @@ public:
     /// Whether there is a PC to answer from.
     bool isActive() const { return m_isActive; }
 
-    const RecordedRegistry& registry() const { return m_registry; }
+    const Recordings::RecordedRegistry& registry() const { return m_registry; }
 
-    const PcDescription& description() const { return m_description; }
+    const Recordings::PcDescription& description() const { return m_description; }
 
     const Drives& drives() const { return m_drives; }
 
-    const std::vector<Recording::Problem>& problems() const { return m_problems; }
+    const std::vector<Recordings::Problem>& problems() const { return m_problems; }
 
 private:
     void readRegistry(const QByteArray& folder);
@@ -36,13 +36,13 @@ private:
     void report(const QByteArray& path, const QString& message);
 
     bool m_isActive = false;
-    RecordedRegistry m_registry;
-    PcDescription m_description;
+    Recordings::RecordedRegistry m_registry;
+    Recordings::PcDescription m_description;
     Drives m_drives;
-    std::vector<Recording::Problem> m_problems;
+    std::vector<Recordings::Problem> m_problems;
 };
 
-/// The PC that the process answers from now, as the environment variable Recording::environmentVariable says. Read
+/// The PC that the process answers from now, as the environment variable Recordings::environmentVariable says. Read
 /// when the variable has a value for the first time and each time the value changes; whoever holds a PC keeps it. Also
 /// makes Qt's file classes ask it for paths with a drive letter, from the first call on.
 std::shared_ptr<const RecordedPc> currentPc();

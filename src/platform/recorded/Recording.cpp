@@ -4,10 +4,10 @@
 
 #include <QFile>
 
-namespace Recording {
+namespace Recordings {
 
 std::optional<std::vector<Problem>> problems(const QString& folder) {
     return Recorded::RecordedPc(QFile::encodeName(folder)).problems();
 }
 
-} // namespace Recording
+} // namespace Recordings

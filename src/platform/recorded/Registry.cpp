@@ -20,7 +20,7 @@ constexpr quint32 regMultiSz = 7;
 
 struct OpenKey {
     std::shared_ptr<const Recorded::RecordedPc> pc; // owns what the layers point to
-    Recorded::RecordedRegistry::Layers layers;
+    Recordings::RecordedRegistry::Layers layers;
     std::once_flag listed;
     std::vector<QString> subKeys;
 };
@@ -52,8 +52,8 @@ const char* rootName(RootKey root) {
     return "HKU";
 }
 
-Recorded::RegKey::Root rootOf(RootKey root) {
-    using Root = Recorded::RegKey::Root;
+Recordings::RegKey::Root rootOf(RootKey root) {
+    using Root = Recordings::RegKey::Root;
     switch (root) {
     case RootKey::LocalMachine:
         return Root::LocalMachine;
@@ -67,11 +67,11 @@ Recorded::RegKey::Root rootOf(RootKey root) {
     return Root::CurrentUser;
 }
 
-void observeKey(RootKey root, const QString& subKey, Windows::RegistryView view) {
+void observeKey(RootKey root, const QString& subKey, Recordings::RegistryView view) {
     if (!Recorded::isObserved()) {
         return;
     }
-    const QString bits = view == Windows::RegistryView::Bits32 ? QStringLiteral("32") : QString();
+    const QString bits = view == Recordings::RegistryView::Bits32 ? QStringLiteral("32") : QString();
     Recorded::observe(QLatin1String("key ") + QLatin1String(rootName(root)) + bits + QLatin1Char('\\') + subKey);
 }
 
@@ -105,14 +105,14 @@ void endText(const QByteArray& bytes, int unit, void* data, quint32 capacity) {
 QByteArray ansiText(const QByteArray& data) {
     QString text(data.size() / 2, Qt::Uninitialized);
     qFromLittleEndian<char16_t>(data.constData(), text.size(), text.data());
-    return Recorded::toAnsi(text);
+    return Recordings::toAnsi(text);
 }
 
-const Recorded::RegistryNode::Value* find(const KeyHandle& key, const QString& name) {
+const Recordings::RegistryNode::Value* find(const KeyHandle& key, const QString& name) {
     if (Recorded::isObserved()) {
         Recorded::observe(QLatin1String("value ") + name);
     }
-    return Recorded::RecordedRegistry::value(opened(key).layers, name);
+    return Recordings::RecordedRegistry::value(opened(key).layers, name);
 }
 
 } // namespace
@@ -124,7 +124,7 @@ void KeyCloser::operator()(void* key) const noexcept {
 ErrorCode openKey(RootKey root, const QString& subKey, quint32 access, KeyHandle& key) {
     key.reset();
     const QString path = terminated(subKey);
-    const auto view = (access & keyWow64_32Key) ? Windows::RegistryView::Bits32 : Windows::RegistryView::Bits64;
+    const auto view = (access & keyWow64_32Key) ? Recordings::RegistryView::Bits32 : Recordings::RegistryView::Bits64;
     observeKey(root, path, view);
     // Windows takes a backslash before the names in the one root that its kernel doesn't know.
     if (path.startsWith(QLatin1Char('\\')) && root != RootKey::ClassesRoot) {
@@ -149,7 +149,7 @@ ErrorCode queryValue(const KeyHandle& key, const QString& valueName, quint32& ty
     if (!key) {
         return errorInvalidHandle;
     }
-    const Recorded::RegistryNode::Value* const value = find(key, terminated(valueName));
+    const Recordings::RegistryNode::Value* const value = find(key, terminated(valueName));
     if (!value) {
         return errorFileNotFound;
     }
@@ -166,7 +166,7 @@ ErrorCode queryValueNarrow(const KeyHandle& key, const char* valueName, quint32&
     if (!key) {
         return errorInvalidHandle;
     }
-    const Recorded::RegistryNode::Value* const value = find(key, QString::fromLatin1(valueName));
+    const Recordings::RegistryNode::Value* const value = find(key, QString::fromLatin1(valueName));
     if (!value) {
         return errorFileNotFound;
     }
@@ -185,7 +185,7 @@ ErrorCode enumKey(const KeyHandle& key, quint32 index, char16_t* name, quint32& 
         return errorInvalidHandle;
     }
     OpenKey& open = opened(key);
-    std::call_once(open.listed, [&open] { open.subKeys = Recorded::RecordedRegistry::subKeys(open.layers); });
+    std::call_once(open.listed, [&open] { open.subKeys = Recordings::RecordedRegistry::subKeys(open.layers); });
     if (index >= open.subKeys.size()) {
         return errorNoMoreItems;
     }

@@ -1,9 +1,9 @@
 #include "platform/Recording.h"
 
-namespace Recording {
+namespace Recordings {
 
 std::optional<std::vector<Problem>> problems(const QString&) {
     return std::nullopt;
 }
 
-} // namespace Recording
+} // namespace Recordings

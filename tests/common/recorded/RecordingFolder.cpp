@@ -16,7 +16,7 @@ RecordingFolder::RecordingFolder() {
 }
 
 RecordingFolder::~RecordingFolder() {
-    qunsetenv(Recording::environmentVariable);
+    qunsetenv(Recordings::environmentVariable);
     // Qt could not remove a file whose name is no text.
     std::error_code ignored;
     std::filesystem::remove_all(pathOf(path({})), ignored);
@@ -43,7 +43,7 @@ void RecordingFolder::registry(const QByteArray& lines) {
 }
 
 std::shared_ptr<const Recorded::RecordedPc> RecordingFolder::choose() {
-    qputenv(Recording::environmentVariable, path({}));
+    qputenv(Recordings::environmentVariable, path({}));
     Recorded::forgetPc();
     return Recorded::currentPc();
 }

@@ -33,7 +33,7 @@ public:
         record();
     }
 
-    ~World() { qunsetenv(Recording::environmentVariable); }
+    ~World() { qunsetenv(Recordings::environmentVariable); }
 
     void addToRegistry(const TestKey& key, const QString& line) {
         m_registry += '[' + nameOf(key) + "]\r\n" + line + "\r\n";
@@ -98,7 +98,7 @@ private:
         stream << "Windows Registry Editor Version 5.00\r\n\r\n" << m_registry;
         stream.flush();
         writeDescription(recording + "/pc.json");
-        qputenv(Recording::environmentVariable, recording.toUtf8());
+        qputenv(Recordings::environmentVariable, recording.toUtf8());
     }
 
     /// The rest of the PC. The version is the one that the test programs have on Windows.

@@ -9,8 +9,8 @@ namespace {
 using Host::DriveRecord;
 using Kind = DriveRecord::Kind;
 
-Windows::DrivePath path(const QString& text) {
-    return *Windows::DrivePath::parse(text);
+Recordings::DrivePath path(const QString& text) {
+    return *Recordings::DrivePath::parse(text);
 }
 
 TEST(DriveRecord, HasTheFoldersOnTheWay) {

@@ -22,7 +22,7 @@ QProcessEnvironment environmentOf(std::initializer_list<std::pair<const char*, c
 }
 
 bool isGeneral(const GeneralFolders& folders, const QString& path) {
-    return folders.contains(*Windows::DrivePath::parse(path));
+    return folders.contains(*Recordings::DrivePath::parse(path));
 }
 
 TEST(GeneralFolders, AreThoseOfEveryWindows) {

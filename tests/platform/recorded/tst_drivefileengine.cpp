@@ -81,7 +81,7 @@ TEST_F(DriveFileEngineTest, SeesChangesAtOnce) {
 }
 
 TEST_F(DriveFileEngineTest, FindsNoDriveWithoutARecording) {
-    qunsetenv(Recording::environmentVariable);
+    qunsetenv(Recordings::environmentVariable);
     EXPECT_FALSE(QFileInfo::exists("C:/Games"));
     EXPECT_FALSE(QDir("C:/").exists());
 }

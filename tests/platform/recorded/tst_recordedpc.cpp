@@ -52,7 +52,7 @@ TEST_F(RecordedPcTest, IsEmptyUntilOneIsChosen) {
     EXPECT_FALSE(hasKey("A"));
     pc.choose();
     EXPECT_TRUE(hasKey("A"));
-    qunsetenv(Recording::environmentVariable);
+    qunsetenv(Recordings::environmentVariable);
     EXPECT_FALSE(hasKey("A"));
 }
 
@@ -61,7 +61,7 @@ TEST_F(RecordedPcTest, FollowsTheVariable) {
     pc.choose();
     RecordingFolder other;
     other.registry("[HKEY_CURRENT_USER\\B]\r\n");
-    qputenv(Recording::environmentVariable, other.path({}));
+    qputenv(Recordings::environmentVariable, other.path({}));
     EXPECT_TRUE(hasKey("B"));
     EXPECT_FALSE(hasKey("A"));
 }
@@ -76,7 +76,7 @@ TEST_F(RecordedPcTest, IsReadOnce) {
 
 TEST_F(RecordedPcTest, CanBeAskedByManyThreads) {
     pc.registry("[HKEY_CURRENT_USER\\A\\1]\r\n[HKEY_CURRENT_USER\\A\\2]\r\n");
-    qputenv(Recording::environmentVariable, pc.path({}));
+    qputenv(Recordings::environmentVariable, pc.path({}));
     Recorded::forgetPc();
     Platform::KeyHandle key;
     ASSERT_EQ(Platform::openKey(RootKey::CurrentUser, "A", Platform::keyRead, key), 0U);
@@ -117,8 +117,8 @@ TEST_F(RecordedPcTest, TellsWhatTheRegistryIsAsked) {
 
 std::vector<QString> problems(const QByteArray& path) {
     std::vector<QString> texts;
-    const auto found = Recording::problems(path);
-    for (const Recording::Problem& problem : found.value()) {
+    const auto found = Recordings::problems(path);
+    for (const Recordings::Problem& problem : found.value()) {
         texts.push_back(QString("%1:%2: %3").arg(problem.file.mid(path.size())).arg(problem.line).arg(problem.message));
     }
     return texts;
@@ -136,7 +136,7 @@ TEST_F(RecordedPcTest, MayLackEverything) {
 
 TEST_F(RecordedPcTest, ReportsAFolderThatIsNotThere) {
     EXPECT_THAT(problems(pc.path("none")), ElementsAre(":0: there is no such folder"));
-    qputenv(Recording::environmentVariable, pc.path("none"));
+    qputenv(Recordings::environmentVariable, pc.path("none"));
     EXPECT_FALSE(hasKey("A"));
     EXPECT_FALSE(QFile::exists("C:/"));
 }

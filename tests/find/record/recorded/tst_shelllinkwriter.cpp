@@ -8,8 +8,8 @@
 namespace {
 
 QString targetOf(const QByteArray& bytes) {
-    const std::optional<Recorded::ShellLink> link = Recorded::parseShellLink(bytes);
-    return link ? Recorded::targetOf(*link, {}, "C:/") : QString("no shortcut");
+    const std::optional<Recordings::ShellLink> link = Recordings::parseShellLink(bytes);
+    return link ? Recordings::targetOf(*link, {}, "C:/") : QString("no shortcut");
 }
 
 TEST(ShellLinkWriter, WritesWhatIsReadAgain) {
