@@ -1,5 +1,7 @@
 #pragma once
 
+#include "recordings/AnsiText.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -11,8 +13,9 @@ namespace Recordings {
 /// anything would lie outside.
 class ByteView {
 public:
-    explicit ByteView(QByteArray bytes)
-        : m_bytes(std::move(bytes)) {}
+    explicit ByteView(QByteArray bytes, int codePage = westernCodePage)
+        : m_bytes(std::move(bytes))
+        , m_codePage(codePage) {}
 
     qint64 size() const { return m_bytes.size(); }
 
@@ -34,6 +37,7 @@ private:
     bool holds(qint64 offset, qint64 size) const;
 
     QByteArray m_bytes;
+    int m_codePage;
 };
 
 } // namespace Recordings

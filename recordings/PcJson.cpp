@@ -1,7 +1,5 @@
-#include "recordings/PcDescription.h"
+#include "recordings/PcJson.h"
 
-#include "recordings/DrivePath.h"
-#include "recordings/Json.h"
 #include "recordings/ShellFolderNames.h"
 
 #include <algorithm>
@@ -25,11 +23,12 @@ QString placeOfItem(const QString& array, size_t index) {
 
 class Reader {
 public:
-    Reader(const QString& file, std::vector<Problem>& problems)
+    Reader(const QString& file, Pc& pc, std::vector<Problem>& problems)
         : m_file(file)
+        , m_pc(pc)
         , m_problems(problems) {}
 
-    PcDescription read(const QByteArray& json);
+    void read(const JsonValue& json) { eachMember(json, {}, &Reader::readMember); }
 
 private:
     using Kind = JsonValue::Kind;
@@ -46,26 +45,17 @@ private:
 
     void eachMember(const JsonValue& object, const QString& place, Read readOne);
     void eachItem(const JsonValue& array, const QString& place, Read readOne);
-    QStringList paths(const JsonValue& array, const QString& place);
+    void readCodePage(const JsonValue& value, const QString& place);
+    void mark(const JsonValue& array, const QString& place, bool File::*attribute);
     QStringList texts(const JsonValue& array, const QString& place);
     QString text(const JsonValue& value, const QString& place);
     bool isOf(Kind kind, const JsonValue& value, const QString& place);
     void report(const JsonValue& value, const QString& place, const QString& message);
 
     const QString& m_file;
+    Pc& m_pc;
     std::vector<Problem>& m_problems;
-    PcDescription m_pc;
 };
-
-PcDescription Reader::read(const QByteArray& json) {
-    JsonFault fault;
-    if (const std::optional<JsonValue> value = parseJson(json, fault)) {
-        eachMember(*value, {}, &Reader::readMember);
-    } else {
-        m_problems.push_back({m_file, fault.line, fault.message});
-    }
-    return std::move(m_pc);
-}
 
 void Reader::readMember(const JsonValue& value, const QString& place) {
     if (value.name == QLatin1String("shellFolders")) {
@@ -82,9 +72,11 @@ void Reader::readMember(const JsonValue& value, const QString& place) {
     } else if (value.name == QLatin1String("host")) {
         eachMember(value, place, &Reader::readHost);
     } else if (value.name == QLatin1String("hidden")) {
-        m_pc.hidden = paths(value, place);
+        mark(value, place, &File::isHidden);
     } else if (value.name == QLatin1String("system")) {
-        m_pc.system = paths(value, place);
+        mark(value, place, &File::isSystem);
+    } else if (value.name == QLatin1String("codePage")) {
+        readCodePage(value, place);
     } else {
         report(value, place, unknownName());
     }
@@ -209,17 +201,27 @@ QStringList Reader::texts(const JsonValue& array, const QString& place) {
     return list;
 }
 
-QStringList Reader::paths(const JsonValue& array, const QString& place) {
-    QStringList list = texts(array, place);
-    const auto isBad = [this, &array, &place](const QString& path) {
-        const bool bad = !DrivePath::parse(path);
-        if (bad) {
-            report(array, place, QStringLiteral("“%1” has no drive letter").arg(path));
+void Reader::readCodePage(const JsonValue& value, const QString& place) {
+    const int codePage = value.kind == Kind::Number ? value.text.toInt() : 0;
+    if (isKnownCodePage(codePage)) {
+        m_pc.codePage = codePage;
+    } else {
+        report(value, place, QStringLiteral("the number of an ANSI code page is expected, as 1252"));
+    }
+}
+
+/// Gives the files and folders at these paths an attribute.
+void Reader::mark(const JsonValue& array, const QString& place, bool File::*attribute) {
+    const QStringList paths = texts(array, place);
+    for (const QString& text : paths) {
+        const std::optional<DrivePath> path = DrivePath::parse(text);
+        File* const file = path ? m_pc.drives.find(*path) : nullptr;
+        if (!path) {
+            report(array, place, QStringLiteral("“%1” has no drive letter").arg(text));
+        } else if (file) {
+            file->*attribute = true;
         }
-        return bad;
-    };
-    list.erase(std::remove_if(list.begin(), list.end(), isBad), list.end());
-    return list;
+    }
 }
 
 // Empty when it is no text, or none that could be a name or a path.
@@ -252,8 +254,8 @@ void Reader::report(const JsonValue& value, const QString& place, const QString&
 
 } // namespace
 
-PcDescription parsePcDescription(const QByteArray& json, const QString& file, std::vector<Problem>& problems) {
-    return Reader(file, problems).read(json);
+void readPcJson(const JsonValue& json, const QString& file, Pc& pc, std::vector<Problem>& problems) {
+    Reader(file, pc, problems).read(json);
 }
 
 } // namespace Recordings

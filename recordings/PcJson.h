@@ -1,41 +1,20 @@
 #pragma once
 
+#include "recordings/Json.h"
+#include "recordings/Pc.h"
 #include "recordings/Problem.h"
 
 #include <QByteArray>
-#include <QHash>
-#include <QMap>
-#include <QProcessEnvironment>
-#include <QStringList>
 
-#include <optional>
 #include <vector>
 
 namespace Recordings {
 
-/// An app package that is installed for the user.
-struct AppPackage {
-    QString family;
-    QString fullName;
-    QStringList applicationIds;
-};
+/// Reads the members of `json`, the value of a pc.json, into `pc`, whose drives are there already: the paths that are
+/// hidden or the system's are theirs. A fault costs only the entry that has it and is added to `problems` under `file`.
+void readPcJson(const JsonValue& json, const QString& file, Pc& pc, std::vector<Problem>& problems);
 
-using AppPackages = std::vector<AppPackage>;
-
-/// What pc.json tells of a PC. Everything is optional; what isn't there is empty.
-struct PcDescription {
-    QHash<int, QString> shellFolders; ///< by CSIDL number
-    QMap<QChar, QString> volumes;     ///< by drive letter in upper case: \\?\Volume{…}\ .
-    QProcessEnvironment environment;
-    std::optional<AppPackages> packages; ///< empty on a system without app packages
-    QString hostExecutable;
-    quint64 hostVersion = 0;              ///< four numbers of 16 bits; 0 when not known
-    QMap<QString, QString> userLocations; ///< the folders that the user chose, by the keys of the games
-    QStringList hidden;
-    QStringList system;
-};
-
-/// Reads the text of a pc.json. A fault costs only the entry that has it and is added to `problems` under `file`.
-PcDescription parsePcDescription(const QByteArray& json, const QString& file, std::vector<Problem>& problems);
+/// All that is neither in the registry nor a file, and the paths that are hidden or the system's.
+JsonValue pcJson(const Pc& pc);
 
 } // namespace Recordings

@@ -27,6 +27,8 @@ struct RegKey {
     std::vector<RegValue> values;
 };
 
+constexpr int deepestKey = 512; ///< levels of the registry of Windows
+
 struct RegFile {
     std::vector<RegKey> keys;
     std::vector<Problem> problems;
@@ -35,5 +37,10 @@ struct RegFile {
 /// Reads a registry file of version 5.00, as regedit and `reg export` write it. A fault costs only the line or the
 /// value that has it and is listed in `problems` under `file`; a file without the header of that version is not read.
 RegFile parseRegFile(const QByteArray& bytes, const QString& file);
+
+/// "HKEY_LOCAL_MACHINE" and its like, in any letter case; Other for the roots that a recording has nothing of, and for
+/// what is none.
+RegKey::Root rootNamed(const QString& name);
+QString rootName(RegKey::Root root);
 
 } // namespace Recordings

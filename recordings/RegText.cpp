@@ -1,9 +1,9 @@
 #include "recordings/RegText.h"
 
+#include "recordings/Utf16Text.h"
 #include "recordings/Utf8Text.h"
 
 #include <QList>
-#include <QtEndian>
 
 namespace Recordings {
 
@@ -16,8 +16,7 @@ int lastLine(const QString& text) {
 }
 
 QString decodeUtf16(const QByteArray& bytes, const QString& file, Problems& problems) {
-    QString text(bytes.size() / 2, Qt::Uninitialized);
-    qFromLittleEndian<char16_t>(bytes.constData(), text.size(), text.data());
+    QString text = fromUtf16(bytes);
     const bool cutUnit = bytes.size() % 2 != 0;
     const bool cutPair = !text.isEmpty() && text.at(text.size() - 1).isHighSurrogate();
     if (cutPair) {

@@ -1,4 +1,4 @@
-#include "recordings/RecordedRegistry.h"
+#include "recordings/Registry.h"
 
 namespace Recordings {
 
@@ -10,10 +10,10 @@ QStringList classesPath(const QStringList& stored) {
 
 } // namespace
 
-void RecordedRegistry::apply(const std::vector<RegKey>& keys) {
+void Registry::apply(const std::vector<RegKey>& keys) {
     for (const RegKey& key : keys) {
         QStringList path = key.path.split(QLatin1Char('\\'), Qt::SkipEmptyParts);
-        RegistryNode& root = nodeToChange(key, path);
+        RegistryNode& root = nodeToChange(key.root, path, RegistryView::Bits64);
         if (key.isErased) {
             root.erase(path);
             continue;
@@ -25,16 +25,22 @@ void RecordedRegistry::apply(const std::vector<RegKey>& keys) {
     }
 }
 
-RegistryNode& RecordedRegistry::nodeToChange(const RegKey& key, QStringList& path) {
-    switch (key.root) {
+RegistryNode& Registry::make(RegKey::Root root, QStringList path, RegistryView view) {
+    RegistryNode& hive = nodeToChange(root, path, view);
+    return hive.make(path);
+}
+
+RegistryNode& Registry::nodeToChange(RegKey::Root root, QStringList& path, RegistryView view) {
+    switch (root) {
     case RegKey::Root::LocalMachine:
-        path = storedMachinePath(path, RegistryView::Bits64);
+        path = storedMachinePath(path, view);
         return m_machine;
     case RegKey::Root::CurrentUser:
+        path = storedUserPath(path, view);
         return m_user;
     case RegKey::Root::ClassesRoot:
         // Windows writes to the machine's classes, unless the user has a key of that name.
-        path = classesPath(path);
+        path = classesPath(storedClassesPath(path, view));
         return m_user.find(path) ? m_user : m_machine;
     case RegKey::Root::Users:
     case RegKey::Root::Other:
@@ -43,7 +49,7 @@ RegistryNode& RecordedRegistry::nodeToChange(const RegKey& key, QStringList& pat
     return m_users;
 }
 
-RecordedRegistry::Layers RecordedRegistry::open(RegKey::Root root, const QStringList& path, RegistryView view) const {
+Registry::Layers Registry::open(RegKey::Root root, const QStringList& path, RegistryView view) const {
     Layers layers;
     const auto add = [&layers](const RegistryNode* node) {
         if (node) {
@@ -70,7 +76,7 @@ RecordedRegistry::Layers RecordedRegistry::open(RegKey::Root root, const QString
     return layers;
 }
 
-const RegistryNode::Value* RecordedRegistry::value(const Layers& key, const QString& name) {
+const RegistryNode::Value* Registry::value(const Layers& key, const QString& name) {
     for (const RegistryNode* node : key) {
         if (const RegistryNode::Value* value = node->value(name)) {
             return value;
@@ -79,7 +85,7 @@ const RegistryNode::Value* RecordedRegistry::value(const Layers& key, const QStr
     return nullptr;
 }
 
-std::vector<QString> RecordedRegistry::subKeys(const Layers& key) {
+std::vector<QString> Registry::subKeys(const Layers& key) {
     std::map<QString, QString> names; // by folded name
     for (const RegistryNode* node : key) {
         for (const auto& [folded, child] : node->children()) {
@@ -92,6 +98,16 @@ std::vector<QString> RecordedRegistry::subKeys(const Layers& key) {
         list.push_back(std::move(name));
     }
     return list;
+}
+
+void Registry::visit(
+    const std::function<void(RegKey::Root root, const QStringList& path, const RegistryNode& key)>& visit) const {
+    const auto visitHive = [&visit](RegKey::Root root, const RegistryNode& hive) {
+        hive.visit([&](const QStringList& path, const RegistryNode& key) { visit(root, path, key); });
+    };
+    visitHive(RegKey::Root::CurrentUser, m_user);
+    visitHive(RegKey::Root::LocalMachine, m_machine);
+    visitHive(RegKey::Root::Users, m_users);
 }
 
 } // namespace Recordings

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 namespace Recordings {
 
 const RegistryNode* RegistryNode::find(const QStringList& path) const {
@@ -56,8 +58,22 @@ void RegistryNode::apply(const RegValue& value) {
     if (value.isErased) {
         m_values.erase(foldName(value.name));
     } else {
-        m_values[foldName(value.name)] = {value.type, value.data};
+        m_values[foldName(value.name)] = {value.name, value.type, value.data};
     }
+}
+
+void RegistryNode::visit(const std::function<void(const QStringList& path, const RegistryNode& key)>& visit) const {
+    for (const auto& [folded, child] : m_children) {
+        const QStringList path{child->name()};
+        visit(path, *child);
+        child->visit([&](const QStringList& below, const RegistryNode& key) { visit(path + below, key); });
+    }
+}
+
+bool operator==(const RegistryNode& a, const RegistryNode& b) {
+    return a.m_name == b.m_name && a.m_values == b.m_values &&
+           std::equal(a.m_children.begin(), a.m_children.end(), b.m_children.begin(), b.m_children.end(),
+                      [](const auto& x, const auto& y) { return *x.second == *y.second; });
 }
 
 } // namespace Recordings

@@ -36,8 +36,8 @@ constexpr int longestTarget = 259; // what fits into a buffer of MAX_PATH charac
 // The parts of a shortcut follow one another, each with a size that it states itself.
 class Reader {
 public:
-    explicit Reader(const QByteArray& bytes)
-        : m_bytes(bytes) {}
+    Reader(const QByteArray& bytes, int codePage)
+        : m_bytes(bytes, codePage) {}
 
     bool read(ShellLink& link);
 
@@ -192,9 +192,9 @@ QString expanded(const QString& text, const QProcessEnvironment& environment) {
 
 } // namespace
 
-std::optional<ShellLink> parseShellLink(const QByteArray& bytes) {
+std::optional<ShellLink> parseShellLink(const QByteArray& bytes, int codePage) {
     ShellLink link;
-    if (!Reader(bytes).read(link)) {
+    if (!Reader(bytes, codePage).read(link)) {
         return std::nullopt;
     }
     return link;

@@ -1,8 +1,10 @@
-#include "find/record/ShellLinkWriter.h"
+#include "recordings/ShellLink.h"
+
+#include "recordings/Utf16Text.h"
 
 #include <QDataStream>
 
-namespace Host {
+namespace Recordings {
 
 namespace {
 
@@ -26,9 +28,9 @@ void writeHeader(QDataStream& stream) {
 
 } // namespace
 
-QByteArray shellLinkTo(const QString& target) {
-    const QByteArray ansi = target.toLatin1() + '\0';
-    const QByteArray unicode(reinterpret_cast<const char*>(target.utf16()), (target.size() + 1) * 2);
+QByteArray renderShellLink(const QString& target) {
+    const QByteArray ansi = toAnsi(target) + '\0';
+    const QByteArray unicode = toUtf16(target + QChar(u'\0'));
 
     const quint32 volumeId = linkInfoHeaderSize;
     const quint32 ansiPath = volumeId + volumeIdSize;
@@ -52,4 +54,4 @@ QByteArray shellLinkTo(const QString& target) {
     return link;
 }
 
-} // namespace Host
+} // namespace Recordings

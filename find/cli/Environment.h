@@ -8,4 +8,7 @@ namespace Host {
 /// be any text: Qt's own function would lose, on Windows, what is outside the ANSI code page. False when it failed.
 bool setEnvironmentVariable(const char* name, const QString& value);
 
+/// Whether the library answers from the PC it runs on, and knows no recorded ones.
+bool isPcItself();
+
 } // namespace Host

@@ -149,16 +149,19 @@ ExitStatus run(const Options& options) {
     if (!games) {
         return failed;
     }
-    const RecordedPc pc = chooseRecordedPc(options.pc);
-    if (!pc.fault.isEmpty()) {
-        return fail(pc.fault);
+    QString fault;
+    const std::optional<Recordings::Recording> pc = chooseRecordedPc(options.pc, fault);
+    if (!fault.isEmpty()) {
+        return fail(fault);
     }
-    for (const QString& problem : pc.problems) {
+    const QString path = options.pc.value_or(qEnvironmentVariable(Recordings::environmentVariable));
+    const QStringList problems = pc ? describeProblems(path, pc->problems) : QStringList();
+    for (const QString& problem : problems) {
         Console::complain(problem);
     }
     const ExitStatus status =
         options.command == Command::Record ? recordPc(options, *games) : askPlugin(options, *games);
-    return pc.problems.isEmpty() ? status : failed;
+    return problems.isEmpty() ? status : failed;
 }
 
 } // namespace

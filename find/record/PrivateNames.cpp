@@ -1,7 +1,7 @@
 #include "find/record/PrivateNames.h"
 
+#include "find/cli/Environment.h"
 #include "platform/Process.h"
-#include "platform/Recording.h"
 #include "recordings/DrivePath.h"
 #include "recordings/WindowsNames.h"
 
@@ -157,8 +157,7 @@ NameSources nameSources() {
     NameSources sources = {environment.value(QStringLiteral("USERNAME")),
                            environment.value(QStringLiteral("USERPROFILE")),
                            {environment.value(QStringLiteral("COMPUTERNAME"))}};
-    const bool isPcItself = !Recordings::problems(QString());
-    if (isPcItself) {
+    if (isPcItself()) {
         sources.machine.append(QSysInfo::machineHostName());
     }
     return sources;

@@ -3,7 +3,7 @@
 #include "find/cli/Progress.h"
 #include "find/record/OutputFolder.h"
 #include "find/record/RegFileWriter.h"
-#include "find/record/ShellLinkWriter.h"
+#include "recordings/ShellLink.h"
 
 namespace Host {
 
@@ -16,7 +16,7 @@ QByteArray contentsOf(const DriveRecord::Entry& entry, const NeutralNames& names
     if (entry.kind != DriveRecord::Kind::Shortcut || entry.target.isEmpty()) {
         return {};
     }
-    return shellLinkTo(names.text(entry.target).replace(QLatin1Char('/'), QLatin1Char('\\')));
+    return Recordings::renderShellLink(names.text(entry.target).replace(QLatin1Char('/'), QLatin1Char('\\')));
 }
 
 /// "C:/Users/anna" as the recording has it: "drives/C/Users/user".

@@ -1,7 +1,8 @@
 #include "FindProgram.h"
 
 #include "common/QtPrinters.h"
-#include "platform/Recording.h"
+#include "find/cli/Environment.h"
+#include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +31,7 @@ QMap<QString, QString> foldersOf(const FindRun& run) {
 }
 
 TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
-    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -43,7 +44,7 @@ TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
 }
 
 TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
-    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -63,7 +64,7 @@ TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
 }
 
 TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
-    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -78,7 +79,7 @@ TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
 }
 
 TEST(Samples, HaveAllRuntimes) {
-    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -94,7 +95,7 @@ TEST(Samples, HaveAllRuntimes) {
 }
 
 TEST(Samples, HaveAGameThatTheUserCanLocate) {
-    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -109,7 +110,7 @@ TEST(Samples, HaveAGameThatTheUserCanLocate) {
 }
 
 TEST(Samples, HaveAGameWithTwoExecutables) {
-    if (!Recordings::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;

@@ -8,4 +8,8 @@ bool setEnvironmentVariable(const char* name, const QString& value) {
     return value.isEmpty() ? qunsetenv(name) : qputenv(name, QFile::encodeName(value));
 }
 
+bool isPcItself() {
+    return false;
+}
+
 } // namespace Host

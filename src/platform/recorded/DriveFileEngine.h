@@ -39,12 +39,12 @@ private:
         bool isShortcut = false;
         QString shortcutTarget;
         Recordings::DrivePath path;
-        std::optional<Drives::File> file;
+        const Recordings::File* file = nullptr;
     };
 
     const Subject& subject() const;
     bool isInFolder(Recordings::DrivePath path) const;
-    QString targetOf(const Drives::File& shortcut) const;
+    QString targetOf(const Recordings::File& shortcut) const;
     QString absoluteName() const;
     QString canonicalName() const;
 
@@ -52,7 +52,8 @@ private:
     QString m_path; ///< with slashes
     Recordings::DrivePath m_parsed;
     mutable std::optional<Subject> m_subject;
-    HostFiles::Descriptor m_file;
+    std::optional<QByteArray> m_contents; ///< while it is open
+    qint64 m_position = 0;
 };
 
 } // namespace Recorded

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Platform {
@@ -23,8 +24,9 @@ bool isOnDrive(const QString& path) {
 
 qint64 fileSize(const QString& path) {
     if (const auto drivePath = Recordings::DrivePath::parse(path)) {
-        const auto file = Recorded::currentPc()->drives().find(*drivePath);
-        return file ? (file->isFolder() ? 0 : file->info.st_size) : -1;
+        const std::shared_ptr<const Recorded::RecordedPc> pc = Recorded::currentPc();
+        const Recordings::File* const file = pc->drives().find(*drivePath);
+        return file ? file->contents.size() : -1;
     }
 
     struct stat info {};

@@ -3,8 +3,7 @@
 #include "platform/recorded/Observer.h"
 #include "platform/recorded/RecordedPc.h"
 #include "recordings/AnsiText.h"
-
-#include <QtEndian>
+#include "recordings/Utf16Text.h"
 
 #include <cstring>
 #include <mutex>
@@ -20,7 +19,7 @@ constexpr quint32 regMultiSz = 7;
 
 struct OpenKey {
     std::shared_ptr<const Recorded::RecordedPc> pc; // owns what the layers point to
-    Recordings::RecordedRegistry::Layers layers;
+    Recordings::Registry::Layers layers;
     std::once_flag listed;
     std::vector<QString> subKeys;
 };
@@ -102,17 +101,15 @@ void endText(const QByteArray& bytes, int unit, void* data, quint32 capacity) {
     }
 }
 
-QByteArray ansiText(const QByteArray& data) {
-    QString text(data.size() / 2, Qt::Uninitialized);
-    qFromLittleEndian<char16_t>(data.constData(), text.size(), text.data());
-    return Recordings::toAnsi(text);
+QByteArray ansiText(const QByteArray& data, int codePage) {
+    return Recordings::toAnsi(Recordings::fromUtf16(data), codePage);
 }
 
 const Recordings::RegistryNode::Value* find(const KeyHandle& key, const QString& name) {
     if (Recorded::isObserved()) {
         Recorded::observe(QLatin1String("value ") + name);
     }
-    return Recordings::RecordedRegistry::value(opened(key).layers, name);
+    return Recordings::Registry::value(opened(key).layers, name);
 }
 
 } // namespace
@@ -172,7 +169,7 @@ ErrorCode queryValueNarrow(const KeyHandle& key, const char* valueName, quint32&
     }
     type = value->type;
     const quint32 capacity = size;
-    const QByteArray bytes = isText(type) ? ansiText(value->data) : value->data;
+    const QByteArray bytes = isText(type) ? ansiText(value->data, opened(key).pc->description().codePage) : value->data;
     const ErrorCode result = store(bytes, data, size);
     if (result == errorSuccess && isText(type)) {
         endText(bytes, sizeof(char), data, capacity);
@@ -185,7 +182,7 @@ ErrorCode enumKey(const KeyHandle& key, quint32 index, char16_t* name, quint32& 
         return errorInvalidHandle;
     }
     OpenKey& open = opened(key);
-    std::call_once(open.listed, [&open] { open.subKeys = Recordings::RecordedRegistry::subKeys(open.layers); });
+    std::call_once(open.listed, [&open] { open.subKeys = Recordings::Registry::subKeys(open.layers); });
     if (index >= open.subKeys.size()) {
         return errorNoMoreItems;
     }

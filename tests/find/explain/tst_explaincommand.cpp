@@ -1,7 +1,7 @@
 #include "FindProgram.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
-#include "platform/Recording.h"
+#include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "recorded/FullPc.h"
 
 #include "FindProgram.h"
-#include "find/record/ShellLinkWriter.h"
+#include "recordings/ShellLink.h"
 
 #include <QFileInfo>
 
@@ -127,5 +127,5 @@ FullPc::FullPc(const FindProgram& program)
     program.file(drives + "C/ProgramData/Epic/EpicGamesLauncher/Data/Manifests/1.item", epicManifest);
     program.file(drives + "C/ProgramData/Epic/EpicGamesLauncher/Data/Manifests/2.txt", "GEHEIM");
     program.file(drives + "C/Users/Anneliese Ö/Start Menu/Anneliese Ö/Aal.lnk",
-                 Host::shellLinkTo("D:\\Spiele von Anneliese Ö\\aal.exe") + "GEHEIM");
+                 Recordings::renderShellLink("D:\\Spiele von Anneliese Ö\\aal.exe") + "GEHEIM");
 }
