@@ -2,6 +2,8 @@
 
 #include "recordings/WindowsNames.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace Recordings {
@@ -76,14 +78,13 @@ File* Drives::add(const QString& foldedFolder, const QString& name) {
 }
 
 void Drives::list(const DrivePath& path, const QStringList& names, File::Kind kind) {
-    QHash<QString, bool> listed; // by folded name
+    QSet<QString> listed; // by folded name
     std::vector<QString> inOrder;
     for (const QString& name : names) {
-        make(pathIn(path, name), kind).name = name;
-        const bool isNew = !listed.contains(foldName(name));
-        if (isNew) {
+        if (!listed.contains(foldName(name))) {
+            listed.insert(foldName(name));
             inOrder.push_back(name);
-            listed.insert(foldName(name), true);
+            make(pathIn(path, name), kind).name = name;
         }
     }
     File& folder = make(path, File::Kind::Folder);

@@ -14,6 +14,7 @@
 #include "find/explain/Explanation.h"
 #include "find/explain/PluginTrace.h"
 #include "find/record/RecordCommand.h"
+#include "find/record/UnpackCommand.h"
 
 #include <memory>
 #include <new>
@@ -122,6 +123,7 @@ ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& ga
     case Command::FindGames:
     case Command::Runtimes:
     case Command::Record: // which asks otherwise
+    case Command::Unpack: // which asks nothing
         break;
     }
     return answer(*factory, options, games);
@@ -145,6 +147,9 @@ ExitStatus askPlugin(const Options& options, const Catalogue& games) {
 }
 
 ExitStatus run(const Options& options) {
+    if (options.command == Command::Unpack) {
+        return unpackPc(options);
+    }
     const std::optional<Catalogue> games = loadGames(options);
     if (!games) {
         return failed;
@@ -159,8 +164,8 @@ ExitStatus run(const Options& options) {
     for (const QString& problem : problems) {
         Console::complain(problem);
     }
-    const ExitStatus status =
-        options.command == Command::Record ? recordPc(options, *games) : askPlugin(options, *games);
+    const ExitStatus status = options.command == Command::Record ? recordPc(options, *games, pc ? &pc->pc : nullptr)
+                                                                 : askPlugin(options, *games);
     return problems.isEmpty() ? status : failed;
 }
 

@@ -1,6 +1,6 @@
 #include "find/record/GeneralFolders.h"
 
-#include "find/record/DriveRecord.h"
+#include "recordings/Drives.h"
 #include "recordings/WindowsNames.h"
 
 #include <algorithm>

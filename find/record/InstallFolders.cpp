@@ -28,7 +28,7 @@ QString folderOfProbe(const QString& path) {
 
 class ExecutableWalk {
 public:
-    ExecutableWalk(DriveRecord& drives, Progress& progress)
+    ExecutableWalk(Recordings::Drives& drives, Progress& progress)
         : m_drives(drives)
         , m_progress(progress) {}
 
@@ -37,7 +37,7 @@ public:
 private:
     void visit(const Recordings::DrivePath& folder, bool isDeep);
 
-    DriveRecord& m_drives;
+    Recordings::Drives& m_drives;
     Progress& m_progress;
     std::vector<Recordings::DrivePath> m_pending;
     int m_visited = 0;
@@ -54,15 +54,18 @@ void ExecutableWalk::walk(const Recordings::DrivePath& folder, bool isDeep) {
 
 void ExecutableWalk::visit(const Recordings::DrivePath& folder, bool isDeep) {
     m_progress.step(++m_visited, 0, folder.text());
+    QStringList executables;
     for (const Platform::FolderEntry& entry : listFolder(folder.text())) {
         const Recordings::DrivePath path = pathIn(folder, entry.name);
         if (isDeep && isRealFolder(entry)) {
             m_pending.push_back(path);
         }
         if ((entry.attributes & Platform::attributeFolder) == 0 && isExecutableName(entry.name)) {
-            m_drives.addFile(path);
-            m_drives.spell(path);
+            executables.append(entry.name);
         }
+    }
+    if (!executables.isEmpty()) {
+        m_drives.list(folder, executables, Recordings::File::Kind::File);
     }
 }
 
@@ -101,7 +104,8 @@ void InstallFolders::add(const TraceEvent& event) {
     m_folders.emplace(foldedPath(*parsed), *parsed);
 }
 
-void InstallFolders::listExecutables(const GeneralFolders& general, DriveRecord& drives, Progress& progress) const {
+void InstallFolders::listExecutables(const GeneralFolders& general, Recordings::Drives& drives,
+                                     Progress& progress) const {
     ExecutableWalk walk(drives, progress);
     QStringList walked; // those with all that is below them
     for (const auto& [folded, folder] : m_folders) {

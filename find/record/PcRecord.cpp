@@ -1,18 +1,23 @@
 #include "find/record/PcRecord.h"
 
 #include "find/cli/Progress.h"
+#include "find/record/PcFacts.h"
+#include "find/record/RegistryRecord.h"
+#include "find/record/UsedParts.h"
 #include "platform/Process.h"
+#include "recordings/ShellLink.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <optional>
 
 namespace Host {
 
 namespace {
+
+using Kind = Recordings::File::Kind;
 
 QByteArray contentsOf(const QString& path) {
     QFile file(path);
@@ -29,12 +34,12 @@ PcRecord::PcRecord(const TraceEvents& events, Progress& progress) {
     int done = 0;
     for (const TraceEvent& event : events) {
         progress.step(++done, static_cast<int>(events.size()), QStringLiteral("what was read"));
-        m_registry.add(event);
-        m_facts.add(event);
+        addToRegistry(event, m_pc.registry);
+        addFact(event, m_pc);
         m_installFolders.add(event);
         addFiles(event);
     }
-    m_installFolders.listExecutables(general, m_drives, progress);
+    m_installFolders.listExecutables(general, m_pc.drives, progress);
     for (const QString& folder : m_installFolders.networkFolders()) {
         if (QFileInfo(folder).isDir()) {
             leaveOut(folder);
@@ -54,9 +59,11 @@ void PcRecord::addFiles(const TraceEvent& event) {
             leaveOut(path);
         }
     } else if (event.is("read") && parsed && parsed->isValid && QFileInfo(path).isFile()) {
-        m_drives.addContents(*parsed, contentsOf(path));
+        addContents(path, *parsed);
     } else if (event.is("shortcut") && parsed && parsed->isValid) {
-        m_drives.addShortcut(*parsed, event.text("target"));
+        const QString target = event.text("target").replace(QLatin1Char('/'), QLatin1Char('\\'));
+        m_pc.drives.make(*parsed, Kind::File).contents =
+            target.isEmpty() ? QByteArray() : Recordings::renderShellLink(target);
     }
 }
 
@@ -64,12 +71,8 @@ void PcRecord::addExisting(const QString& path) {
     const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
     if (!parsed || !parsed->isValid) {
         leaveOut(path);
-    } else if (m_drives.entries().count(foldedPath(*parsed)) == 0) {
-        if (QFileInfo(path).isDir()) {
-            m_drives.addFolder(*parsed);
-        } else {
-            m_drives.addFile(*parsed);
-        }
+    } else if (!m_pc.drives.find(*parsed)) {
+        m_pc.drives.make(*parsed, QFileInfo(path).isDir() ? Kind::Folder : Kind::File);
     }
 }
 
@@ -77,16 +80,26 @@ void PcRecord::addListing(const TraceEvent& event, const Recordings::DrivePath& 
     if (!QFileInfo(folder.text()).isDir()) {
         return;
     }
-    m_drives.addFolder(folder);
-    const QStringList folders = event.texts("folders");
-    for (const QString& name : folders) {
-        m_drives.addFolder(pathIn(folder, name));
-        m_drives.spell(pathIn(folder, name));
-    }
-    const QStringList files = event.texts("files") + event.texts("names");
-    for (const QString& name : files) {
-        m_drives.addFile(pathIn(folder, name));
-        m_drives.spell(pathIn(folder, name));
+    m_pc.drives.list(folder, event.texts("files") + event.texts("names"), Kind::File);
+    m_pc.drives.list(folder, event.texts("folders"), Kind::Folder);
+    const auto mark = [&](const char* field, bool Recordings::File::*attribute) {
+        const QStringList names = event.texts(field);
+        for (const QString& name : names) {
+            if (Recordings::File* const file = m_pc.drives.find(pathIn(folder, name))) {
+                file->*attribute = true;
+            }
+        }
+    };
+    mark("hidden", &Recordings::File::isHidden);
+    mark("system", &Recordings::File::isSystem);
+}
+
+void PcRecord::addContents(const QString& path, const Recordings::DrivePath& parsed) {
+    const QByteArray contents = contentsOf(path);
+    const std::optional<QByteArray> used = usedContents(path, contents, [](const QString& text) { return text; });
+    m_pc.drives.make(parsed, Kind::File).contents = used.value_or(QByteArray());
+    if (!used) {
+        leaveOut(path);
     }
 }
 
@@ -94,14 +107,6 @@ void PcRecord::leaveOut(const QString& path) {
     if (!m_leftOut.contains(path)) {
         m_leftOut.append(path);
     }
-}
-
-int PcRecord::executableCount() const {
-    const auto isExecutable = [](const auto& entry) {
-        return entry.second.kind == DriveRecord::Kind::File && isExecutableName(entry.second.name);
-    };
-    const auto& entries = m_drives.entries();
-    return static_cast<int>(std::count_if(entries.begin(), entries.end(), isExecutable));
 }
 
 } // namespace Host

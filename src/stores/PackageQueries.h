@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 struct PackageFunctions;
 
@@ -8,6 +9,9 @@ struct PackageFunctions;
 /// know packages.
 std::u16string packageFullNameOf(const std::u16string& family, const PackageFunctions& functions);
 
-/// The user model ID of the first application in a package. Empty when there is none, and when the system does not
-/// know packages.
+/// The user model IDs of the applications in a package. Empty when there is none, and when the system does not know
+/// packages.
+std::vector<std::u16string> applicationIdsOf(const std::u16string& fullName, const PackageFunctions& functions);
+
+/// The first of them, or an empty text.
 std::u16string applicationIdOf(const std::u16string& fullName, const PackageFunctions& functions);

@@ -12,20 +12,18 @@
 
 namespace {
 
-using Host::NeutralNames;
-using Host::PcFacts;
 using TestTrace::event;
 
-QJsonObject render(std::initializer_list<Host::TraceEvent> events, const NeutralNames& names = {}) {
-    PcFacts facts;
+Recordings::Pc pcOf(std::initializer_list<Host::TraceEvent> events) {
+    Recordings::Pc pc;
     for (const Host::TraceEvent& one : events) {
-        facts.add(one);
+        Host::addFact(one, pc);
     }
-    return QJsonDocument::fromJson(facts.render(names)).object();
+    return pc;
 }
 
-TEST(PcFacts, HaveWhatTheTraceTells) {
-    const QJsonObject json = render({
+TEST(PcFacts, AreWhatTheTraceTells) {
+    const Recordings::Pc pc = pcOf({
         event("shellFolder", {{"csidl", 11}, {"path", "C:\\Users\\anna\\Start Menu"}}),
         event("shellFolder", {{"csidl", 35}, {"path", ""}}),
         event("shellFolder", {{"csidl", 99}, {"path", "C:\\x"}}),
@@ -36,57 +34,36 @@ TEST(PcFacts, HaveWhatTheTraceTells) {
         event("userLocation", {{"key", "WAL"}, {"path", "D:\\Wal"}}),
         event("userLocation", {{"key", "kein"}, {"path", ""}}),
     });
-    EXPECT_EQ(json, (QJsonObject{
-                        {"shellFolders", QJsonObject{{"startMenu", "C:\\Users\\anna\\Start Menu"}}},
-                        {"volumes", QJsonObject{{"D", "\\\\?\\Volume{1}\\"}}},
-                        {"environment", QJsonObject{{"OculusBase", ""}}},
-                        {"userLocations", QJsonObject{{"wal", "D:\\Wal"}}},
-                    }));
+    EXPECT_EQ(pc.shellFolders, (QMap<int, QString>{{11, "C:\\Users\\anna\\Start Menu"}}));
+    EXPECT_EQ(pc.volumes, (QMap<QChar, QString>{{'D', "\\\\?\\Volume{1}\\"}}));
+    EXPECT_EQ(pc.environment.toStringList(), QStringList{"OculusBase="});
+    EXPECT_EQ(pc.userLocations, (QMap<QString, QString>{{"wal", "D:\\Wal"}}));
 }
 
 TEST(PcFacts, HaveNoPackagesWhereTheSystemKnowsNone) {
     const auto none = event("package", {{"family", "a_b"}, {"supported", false}});
     const auto missing = event("package", {{"family", "a_b"}, {"supported", true}, {"fullName", ""}});
-    EXPECT_FALSE(render({none}).contains("packages"));
-    EXPECT_EQ(render({missing})["packages"], QJsonArray());
+    EXPECT_FALSE(pcOf({none}).packages);
+    EXPECT_EQ(pcOf({missing}).packages, Recordings::AppPackages());
 }
 
-TEST(PcFacts, HavePackagesOnce) {
+TEST(PcFacts, HavePackagesOnceAndWhereOneLooksForThem) {
     const auto package = event("package", {{"family", "Maker.Game_abc"},
                                            {"supported", true},
                                            {"fullName", "Maker.Game_1_x64__abc"},
-                                           {"applicationId", "Maker.Game_abc!App"}});
+                                           {"applicationIds", QJsonArray{"Maker.Game_abc!App", "Maker.Game_abc!B"}}});
     const auto library = event("package", {{"family", "Maker.Lib_abc"},
                                            {"supported", true},
                                            {"fullName", "Maker.Lib_1_x64__abc"},
-                                           {"applicationId", ""}});
-    const QJsonArray packages = render({package, library, package})["packages"].toArray();
-    ASSERT_EQ(packages.size(), 2);
-    EXPECT_EQ(packages[0].toObject(), (QJsonObject{{"family", "Maker.Game_abc"},
-                                                   {"fullName", "Maker.Game_1_x64__abc"},
-                                                   {"applicationIds", QJsonArray{"Maker.Game_abc!App"}}}));
-    EXPECT_EQ(packages[1].toObject()["applicationIds"], QJsonArray());
-}
-
-TEST(PcFacts, HaveTheAttributesOfWhatIsInTheStartMenu) {
-    const QJsonObject json = render({event("walk", {{"path", "C:\\Menu"},
-                                                    {"files", QJsonArray{"desktop.ini"}},
-                                                    {"hidden", QJsonArray{"desktop.ini", "folder"}},
-                                                    {"system", QJsonArray{"desktop.ini"}}}),
-                                     event("walk", {{"path", "\\\\server\\Menu"}, {"hidden", QJsonArray{"x"}}})});
-    EXPECT_EQ(json["hidden"], (QJsonArray{"C:\\Menu\\desktop.ini", "C:\\Menu\\folder"}));
-    EXPECT_EQ(json["system"], QJsonArray{"C:\\Menu\\desktop.ini"});
-}
-
-TEST(PcFacts, HaveNeutralNames) {
-    const NeutralNames names({{"anna", "user"}}, "Users");
-    const QJsonObject json = render({event("shellFolder", {{"csidl", 11}, {"path", "C:\\Users\\anna\\Menu"}}),
-                                     event("userLocation", {{"key", "anna"}, {"path", "D:\\anna\\x"}}),
-                                     event("walk", {{"path", "C:\\Users\\anna"}, {"hidden", QJsonArray{"x"}}})},
-                                    names);
-    EXPECT_EQ(json["shellFolders"]["startMenu"], "C:\\Users\\user\\Menu");
-    EXPECT_EQ(json["userLocations"].toObject(), (QJsonObject{{"anna", "D:\\user\\x"}})) << "the key is a game's";
-    EXPECT_EQ(json["hidden"], QJsonArray{"C:\\Users\\user\\x"});
+                                           {"applicationIds", QJsonArray()}});
+    const Recordings::Pc pc = pcOf({package, library, package});
+    EXPECT_EQ(pc.packages, (Recordings::AppPackages{
+                               {"Maker.Game_abc", "Maker.Game_1_x64__abc", {"Maker.Game_abc!App", "Maker.Game_abc!B"}},
+                               {"Maker.Lib_abc", "Maker.Lib_1_x64__abc", {}}}));
+    const auto key = pc.registry.open(Recordings::RegKey::Root::CurrentUser, Host::packagesKey().split('\\'),
+                                      Recordings::RegistryView::Bits64);
+    EXPECT_EQ(Recordings::Registry::subKeys(key),
+              (std::vector<QString>{"Maker.Game_1_x64__abc", "Maker.Lib_1_x64__abc"}));
 }
 
 TEST(IndexEntries, AreThoseOfTheirList) {

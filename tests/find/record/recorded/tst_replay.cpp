@@ -6,41 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QMap>
 
 namespace {
 
 constexpr const char* noGames = R"({"games": []})";
-
-/// The names and contents of all files and folders below `folder`, by name.
-QMap<QString, QByteArray> filesBelow(const QString& folder) {
-    QMap<QString, QByteArray> files;
-    QDirIterator walk(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (walk.hasNext()) {
-        QFile file(walk.next());
-        const bool isFile = walk.fileInfo().isFile() && file.open(QIODevice::ReadOnly);
-        files.insert(QDir(folder).relativeFilePath(walk.filePath()), isFile ? file.readAll() : QByteArray());
-    }
-    return files;
-}
-
-/// The files below `folder` that have the text in their names or their bytes, as UTF-8, UTF-16 or in the ANSI code
-/// page.
-QStringList filesWith(const QString& text, const QString& folder) {
-    const QByteArray utf16(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
-    QStringList found;
-    const QMap<QString, QByteArray> files = filesBelow(folder);
-    for (auto file = files.begin(); file != files.end(); ++file) {
-        if (file.key().contains(text, Qt::CaseInsensitive) || file->contains(text.toUtf8()) || file->contains(utf16) ||
-            file->contains(text.toLatin1())) {
-            found.append(file.key());
-        }
-    }
-    return found;
-}
 
 class RecordTest : public ::testing::Test {
 protected:
@@ -51,7 +22,18 @@ protected:
 
     QString path(const QString& name) const { return program.folder() + '/' + name; }
 
-    /// Records `pc` as the folder of that name in the test's.
+    /// The text of the recording of that name.
+    QString contents(const QString& name) const {
+        QFile file(path(name) + ".json");
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(file.readAll());
+    }
+
+    bool tells(const QString& name, const QString& text) const {
+        return contents(name).contains(text, Qt::CaseInsensitive);
+    }
+
+    /// Records `pc` as the file of that name in the test's.
     FindRun record(const QString& pc, const QString& name, const QString& catalogue, const QStringList& options = {}) {
         return program.runBare(QStringList{"--pc", pc, "record", path(name), catalogue} + options);
     }
@@ -72,20 +54,20 @@ TEST_F(RecordTest, TheSamplePcAnswersAsItDid) {
     const FindRun run = record(samplePc, "käfer-pc", sampleCatalogue, {"--keep-names"});
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors, "");
-    EXPECT_EQ(answers(path("käfer-pc"), sampleCatalogue), answers(samplePc, sampleCatalogue));
+    EXPECT_EQ(answers(path("käfer-pc.json"), sampleCatalogue), answers(samplePc, sampleCatalogue));
 }
 
 TEST_F(RecordTest, TheUsersNameIsReplaced) {
     ASSERT_EQ(record(samplePc, "pc", sampleCatalogue).exitStatus, 0);
     QString expected = answers(samplePc, sampleCatalogue);
-    EXPECT_EQ(answers(path("pc"), sampleCatalogue), expected.replace("Jördis", "user"));
-    EXPECT_EQ(filesWith("Jördis", path("pc")), QStringList());
+    EXPECT_EQ(answers(path("pc.json"), sampleCatalogue), expected.replace("Jördis", "user"));
+    EXPECT_FALSE(tells("pc", "Jördis"));
 }
 
 TEST_F(RecordTest, ARecordingOfARecordingIsTheSame) {
     ASSERT_EQ(record(samplePc, "1", sampleCatalogue).exitStatus, 0);
-    ASSERT_EQ(record(path("1"), "2", sampleCatalogue).exitStatus, 0);
-    EXPECT_EQ(filesBelow(path("1")), filesBelow(path("2")));
+    ASSERT_EQ(record(path("1.json"), "2", sampleCatalogue).exitStatus, 0);
+    EXPECT_EQ(contents("1"), contents("2"));
 }
 
 TEST_F(RecordTest, GamesThatNobodyKnewWhileRecordingAreFound) {
@@ -94,16 +76,15 @@ TEST_F(RecordTest, GamesThatNobodyKnewWhileRecordingAreFound) {
     EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
     const QString expected = answers(pc.folder(), pc.catalogue());
     EXPECT_EQ(expected.count("\"found\": true"), FullPc::games) << expected.toStdString();
-    EXPECT_EQ(answers(path("pc"), pc.catalogue()), expected);
+    EXPECT_EQ(answers(path("pc.json"), pc.catalogue()), expected);
 }
 
 TEST_F(RecordTest, NothingIsTakenThatNoFinderReads) {
     const FullPc pc(program);
-    ASSERT_NE(filesWith(FullPc::secret, pc.folder()), QStringList()) << "the test looks for the wrong thing";
     for (const QStringList& options : {QStringList{}, QStringList{"--keep-names"}}) {
         const QString name = QString("pc%1").arg(options.size());
         ASSERT_EQ(record(pc.folder(), name, pc.catalogue(), options).exitStatus, 0);
-        EXPECT_EQ(filesWith(FullPc::secret, path(name)), QStringList());
+        EXPECT_FALSE(tells(name, FullPc::secret)) << contents(name).toStdString();
     }
 }
 
@@ -114,24 +95,24 @@ TEST_F(RecordTest, TheUserAndTheMachineAreNamedNowhere) {
     EXPECT_TRUE(run.output.contains("\"Anneliese Ö\" is now \"user-2\", \"KAEFER-PC\" is now \"pc\""))
         << run.output.toStdString();
     for (const char* const name : {"Anneliese", "ANNELI~1", "KAEFER"}) {
-        EXPECT_EQ(filesWith(name, path("pc")), QStringList()) << name;
+        EXPECT_FALSE(tells("pc", name)) << name << contents("pc").toStdString();
     }
     QString expected = answers(pc.folder(), pc.catalogue());
     expected.replace("Anneliese Ö", "user-2").replace("ANNELI~1", "user-2").replace("KAEFER-PC", "pc");
-    EXPECT_EQ(answers(path("pc"), pc.catalogue()), expected);
+    EXPECT_EQ(answers(path("pc.json"), pc.catalogue()), expected);
 }
 
 TEST_F(RecordTest, TellsWhatItTookAndHowToReplayIt) {
     const FullPc pc(program);
     const FindRun run = record(pc.folder(), "pc", pc.catalogue(), {"--keep-names"});
-    EXPECT_EQ(run.output, "Recorded into " + path("pc") + ":\n" + FullPc::summary + "  names           kept\n" +
-                              "Replay it on Linux with: ./run --pc " + path("pc") + '\n');
+    EXPECT_EQ(run.output, "Recorded into " + path("pc.json") + ":\n" + FullPc::summary + "  names           kept\n" +
+                              "Replay it on Linux with: ./run --pc " + path("pc.json") + '\n');
 }
 
 TEST_F(RecordTest, TellsAFolderWithBlanksAsAShellWantsIt) {
     const FullPc pc(program);
     const FindRun run = record(pc.folder(), "Anna's PC", pc.catalogue());
-    EXPECT_TRUE(run.output.endsWith("./run --pc '" + path("Anna'\\''s PC") + "'\n")) << run.output.toStdString();
+    EXPECT_TRUE(run.output.endsWith("./run --pc '" + path("Anna'\\''s PC.json") + "'\n")) << run.output.toStdString();
 }
 
 TEST_F(RecordTest, ANameThatIsAWordOfPlacesStaysElsewhereAndIsTold) {
@@ -147,6 +128,7 @@ TEST_F(RecordTest, ANameThatIsAWordOfPlacesStaysElsewhereAndIsTold) {
         << run.errors.toStdString();
     EXPECT_TRUE(run.output.contains("\"Games\" is now \"user\" (as a user's folder only)\n"))
         << run.output.toStdString();
+    EXPECT_EQ(program.runBare({"unpack", path("new.json"), path("new")}).exitStatus, 0);
     EXPECT_TRUE(QFileInfo::exists(path("new/drives/C/Users/user/G/g.exe")));
     EXPECT_TRUE(QFileInfo::exists(path("new/drives/C/Games/H/h.exe")));
 }
