@@ -7,24 +7,30 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace Host {
 
 namespace {
 
 using Recordings::foldName;
 
-/// The paths that finders can have read on the PC, with the folders on the way to them.
+/// The paths that finders can have read on the PC, and the folders of the programs among them.
 class KnownPaths {
 public:
     explicit KnownPaths(const Recordings::Pc& pc);
 
     void add(const QString& text);
-    void add(Recordings::DrivePath path);
+
+    void add(const Recordings::DrivePath& path) { m_paths.insert(foldedPath(path)); }
 
     /// The names of `path` that lead on from where it was known.
     QStringList unknownNames(Recordings::DrivePath path) const;
 
 private:
+    void addValues(const Recordings::Registry& registry);
+    void addContents(const Recordings::Drives& drives);
+
     const QMap<QChar, QString>& m_volumes;
     QSet<QString> m_paths; ///< folded
 };
@@ -41,12 +47,20 @@ KnownPaths::KnownPaths(const Recordings::Pc& pc)
     for (const QString& folder : pc.userLocations) {
         add(folder);
     }
-    pc.registry.visit([this](Recordings::RegKey::Root, const QStringList&, const Recordings::RegistryNode& key) {
+    addValues(pc.registry);
+    addContents(pc.drives);
+}
+
+void KnownPaths::addValues(const Recordings::Registry& registry) {
+    registry.visit([this](Recordings::RegKey::Root, const QStringList&, const Recordings::RegistryNode& key) {
         for (const auto& [folded, value] : key.values()) {
             add(Recordings::textOf(value.type, value.data).value_or(QString()));
         }
     });
-    pc.drives.visit([this](const Recordings::DrivePath&, const Recordings::File& file) {
+}
+
+void KnownPaths::addContents(const Recordings::Drives& drives) {
+    drives.visit([this](const Recordings::DrivePath&, const Recordings::File& file) {
         const QByteArray contents = file.contents.read().value_or(QByteArray());
         if (const std::optional<Recordings::ShellLink> link = Recordings::parseShellLink(contents)) {
             add(link->localPath);
@@ -67,22 +81,33 @@ void KnownPaths::add(const QString& text) {
             path = QString(volume.key()) + QLatin1String(":\\") + path.mid(volume->size());
         }
     }
-    if (const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path)) {
-        add(*parsed);
+    std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
+    if (!parsed) {
+        return;
     }
-}
-
-void KnownPaths::add(Recordings::DrivePath path) {
-    while (!path.isRoot() && !m_paths.contains(foldedPath(path))) {
-        m_paths.insert(foldedPath(path));
-        path.names.removeLast();
+    add(*parsed);
+    if (!parsed->isRoot() && parsed->names.last().contains(QLatin1Char('.'))) { // a program as a rule
+        parsed->names.removeLast();
+        add(*parsed);
     }
 }
 
 QStringList KnownPaths::unknownNames(Recordings::DrivePath path) const {
     QStringList names;
     while (!path.isRoot() && !m_paths.contains(foldedPath(path))) {
-        names.append(path.names.takeLast());
+        names.prepend(path.names.takeLast());
+    }
+    return names;
+}
+
+/// Without the name of a user, which a folder of the profiles' name stands before.
+QStringList withoutUser(QStringList names, const QString& profilesFolder) {
+    const int profiles =
+        static_cast<int>(std::find_if(names.begin(), names.end(),
+                                      [&](const QString& name) { return foldName(name) == foldName(profilesFolder); }) -
+                         names.begin());
+    if (profiles + 1 < names.size()) {
+        names.removeAt(profiles + 1);
     }
     return names;
 }
@@ -113,7 +138,7 @@ void addListed(const TraceEvent& event, KnownPaths& known) {
 
 } // namespace
 
-QStringList askedWords(const TraceEvents& events, const Recordings::Pc& pc) {
+QStringList askedWords(const TraceEvents& events, const Recordings::Pc& pc, const QString& profilesFolder) {
     QStringList words;
     const QSet<QString> listed = listedKeys(events);
     KnownPaths known(pc);
@@ -130,10 +155,12 @@ QStringList askedWords(const TraceEvents& events, const Recordings::Pc& pc) {
         }
         if (event.is("list")) {
             words.append(event.text("pattern"));
+        } else if (event.is("shortcut")) { // which finders know by their ending
+            words.append(event.text("path").section(QLatin1Char('.'), -1));
         }
         const bool isOfFile = event.is("exists") || event.is("list") || event.is("read");
         if (const auto path = isOfFile ? Recordings::DrivePath::parse(event.text("path")) : std::nullopt) {
-            words += known.unknownNames(*path);
+            words += withoutUser(known.unknownNames(*path), profilesFolder);
         }
     }
     words.removeDuplicates();

@@ -9,6 +9,7 @@ namespace Host {
 
 /// The names that finders asked for and did not read anywhere on the PC: their own constants, and what they were asked
 /// for. Names of keys, values, variables and files, and what patterns are made of.
-QStringList askedWords(const TraceEvents& events, const Recordings::Pc& pc);
+/// What stands behind the folder that holds the users' profiles is none.
+QStringList askedWords(const TraceEvents& events, const Recordings::Pc& pc, const QString& profilesFolder);
 
 } // namespace Host

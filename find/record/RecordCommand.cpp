@@ -84,9 +84,10 @@ ExitStatus recordPc(const Options& options, const Catalogue& games, const Record
     }
     const PcRecord record = collect(events);
     const NameSources sources = nameSources(record.pc());
-    const std::vector<PrivateName> names = options.keepNames
-                                               ? std::vector<PrivateName>()
-                                               : choosePrivateNames(sources, collectTexts(events, games, record.pc()));
+    const std::vector<PrivateName> names =
+        options.keepNames
+            ? std::vector<PrivateName>()
+            : choosePrivateNames(sources, collectTexts(events, games, record.pc(), profilesFolderName(sources)));
     Recordings::Pc pc = neutralPc(record.pc(), NeutralNames(names, profilesFolderName(sources)));
     pc.codePage = chosen ? chosen->codePage : systemCodePage();
     return write(pc, record.leftOut(), names, options.keepNames, file);

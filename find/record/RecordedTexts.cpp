@@ -22,9 +22,10 @@ void addTextsOf(const std::vector<FinderEntry>& finders, QStringList& places) {
 
 } // namespace
 
-RecordedTexts collectTexts(const TraceEvents& events, const Catalogue& games, const Recordings::Pc& pc) {
+RecordedTexts collectTexts(const TraceEvents& events, const Catalogue& games, const Recordings::Pc& pc,
+                           const QString& profilesFolder) {
     RecordedTexts texts;
-    texts.places = askedWords(events, pc);
+    texts.places = askedWords(events, pc, profilesFolder);
     for (const Game& game : games) {
         addTextsOf(game.finders, texts.places);
     }

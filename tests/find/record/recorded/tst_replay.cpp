@@ -2,12 +2,16 @@
 #include "recorded/FullPc.h"
 
 #include "common/QtPrinters.h"
+#include "recordings/PcFile.h"
+#include "recordings/Recording.h"
+#include "recordings/ShellLink.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace {
 
@@ -143,6 +147,104 @@ TEST_F(RecordTest, WhatIsOnNoDriveIsTold) {
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors.count("not recorded: "), 2) << run.errors.toStdString();
     EXPECT_TRUE(run.errors.contains("luruludri-find: not recorded: " + game + '\n')) << run.errors.toStdString();
+}
+
+/// A PC with a secret, which has the word GEHEIM in it, in every place that a recording could take it from.
+void plantSecrets(const FindProgram& program) {
+    const QString pc = "secret/";
+    program.file(pc + "registry/x.reg", R"(Windows Registry Editor Version 5.00
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Token]
+"DisplayName"="Aal"
+"InstallLocation"="D:\\Aal"
+"UninstallString"="\"D:\\Aal\\u.exe\" --token=GEHEIM anna@GEHEIM.example"
+"RegOwner"="GEHEIM"
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Plain]
+"DisplayName"="Barsch"
+"UninstallString"="D:\\Barsch\\u.exe --key=GEHEIM"
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Serial]
+"DisplayName"="Butt"
+"UninstallString"="MsiExec.exe /X{GEHEIM} PIDKEY=GEHEIM"
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Types]
+"DisplayName"=hex(1):44,00,00,00,47,00,45,00,48,00,45,00,49,00,4d,00,00,00
+"InstallLocation"=hex(2):47,00,45,00,48,00,45,00,49,00,4d,00,00,00
+"UninstallString"=hex:47,45,48,45,49,4d
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Other user]
+"DisplayName"="Dorsch"
+"InstallLocation"="C:\\Users\\GEHEIM-berta\\Dorsch"
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\GEHEIM-anna_is1]
+"DisplayName"="Hecht"
+"InstallLocation"="D:\\Spiele auf GEHEIM-PC\\Hecht"
+
+[HKEY_CLASSES_ROOT\steam\Shell\Open\Command]
+@="\"D:\\Steam\\steam.exe\" -- \"%1\""
+
+[HKEY_CURRENT_USER\Software\GEHEIM]
+)");
+    program.file(pc + "pc.json", R"({"shellFolders": {"commonAppData": "C:\\ProgramData", "personal": "C:\\GEHEIM",
+        "startMenu": "C:\\Users\\GEHEIM-anna\\AppData\\Roaming\\Microsoft\\Windows\\Start Menu"},
+        "environment": {"TOKEN": "GEHEIM", "COMPUTERNAME": "GEHEIM-PC"},
+        "volumes": {"E": "\\\\?\\Volume{GEHEIM}\\"}, "packages": [{"family": "GEHEIM_a", "fullName": "GEHEIM_1_a"}],
+        "host": {"executable": "C:\\GEHEIM\\host.exe", "version": "1.2.3.4"}, "system": ["D:\\GEHEIM.txt"]})");
+    const QString drives = pc + "drives/";
+    program.file(drives + "C/ProgramData/Epic/EpicGamesLauncher/Data/Manifests/1.item",
+                 R"({"AppName": "E", "DisplayName": "Muschel", "InstallLocation": "D:\\Muschel", "AccountId": "GEHEIM",
+                     "Auth": {"Token": "GEHEIM"}, "OwnershipToken": "GEHEIM", "InstallTags": ["GEHEIM"]})");
+    program.file(drives + "C/ProgramData/Epic/EpicGamesLauncher/Data/Manifests/2.item", "no JSON: GEHEIM");
+    program.file(drives + "D/Steam/steamapps/libraryfolders.vdf",
+                 "\"0\"\n{\n\"path\" \"D:\\\\Steam\"\n\"label\" \"GEHEIM\"\n\"contentid\" \"GEHEIM\"\n}\n");
+    program.file(drives + "D/Steam/steamapps/appmanifest_7.acf", "\"LastOwner\" \"GEHEIM\"");
+    program.file(drives + "C/Users/GEHEIM-anna/AppData/Roaming/Microsoft/Windows/Start Menu/GEHEIM-anna/Aal.lnk",
+                 Recordings::renderShellLink("C:\\Users\\GEHEIM-anna\\aal.exe") + "--token=GEHEIM");
+    for (const char* const file : {"D/Aal/aal.exe", "D/Aal/GEHEIM.txt", "D/Muschel/m.exe", "D/GEHEIM.txt",
+                                   "D/Spiele auf GEHEIM-PC/Hecht/h.exe", "C/Users/GEHEIM-berta/Dorsch/d.exe"}) {
+        program.file(drives + file, "GEHEIM");
+    }
+}
+
+TEST_F(RecordTest, SecretsOfEveryKindStayWhereTheyAre) {
+    plantSecrets(program);
+    const QString catalogue = program.file("games.json", R"({"games": [
+        {"name": "Aal", "finders": [{"type": "uninstall", "displayName": "Aal", "executables": ["aal.exe"]}]},
+        {"name": "Dorsch", "finders": [{"type": "uninstall", "displayName": "Dorsch", "executables": ["d.exe"]}]},
+        {"name": "Hecht", "finders": [{"type": "uninstall", "displayName": "Hecht", "executables": ["h.exe"]}]},
+        {"name": "Muschel", "finders": [{"type": "epicStore", "name": "Muschel", "executables": ["m.exe"]}]}]})");
+    const FindRun run = record(path("secret"), "pc", catalogue);
+    ASSERT_EQ(run.exitStatus, 0) << run.errors.toStdString();
+    EXPECT_FALSE(tells("pc", "GEHEIM")) << contents("pc").toStdString();
+    EXPECT_EQ(answers(path("pc.json"), catalogue).count("\"found\": true"), 4);
+}
+
+/// The answers with one word for the name and for what stands in its place.
+QString withoutNames(QString answers, const QString& name) {
+    const QRegularExpression names("\\b(" + name + "|user(-[0-9]+)?|pc(-[0-9]+)?)\\b",
+                                   QRegularExpression::CaseInsensitiveOption);
+    return answers.replace(names, "*");
+}
+
+TEST_F(RecordTest, AnswersAreTheSameWhateverUserAndMachineAreCalled) {
+    const QString sample = QString::fromUtf8(Recordings::renderPcFile(Recordings::readRecording(samplePc.toUtf8()).pc));
+    int found = 0;
+    for (const QString name :
+         {"STEAMVR", "CACHE",    "Games", "Program", "7",         "Lantern", "Users",   "steamapps", "exe",  "common",
+          "Data",    "Software", "path",  "Marmor",  "Manifests", "lnk",     "Windows", "bin",       "user", "PC"}) {
+        QString pc = sample;
+        pc.replace("Jördis", name)
+            .replace("\"environment\": {", "\"environment\": {\"COMPUTERNAME\": \"" + name + "\",");
+        const QString file = program.file(name + "-named.json", pc.toUtf8());
+        ASSERT_EQ(record(file, "of " + name, sampleCatalogue).exitStatus, 0) << name.toStdString();
+        const QString expected = answers(file, sampleCatalogue);
+        EXPECT_EQ(withoutNames(answers(path("of " + name + ".json"), sampleCatalogue), name),
+                  withoutNames(expected, name))
+            << name.toStdString();
+        found += expected.count("\"found\": true");
+    }
+    EXPECT_EQ(found, 20 * 14);
 }
 
 } // namespace
