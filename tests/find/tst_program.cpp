@@ -2,6 +2,7 @@
 
 #include "common/QtPrinters.h"
 #include "find/cli/Environment.h"
+#include "recordings/PcFile.h"
 #include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
@@ -200,6 +201,22 @@ TEST(Program, ARecordedPcThatIsMissingIsTold) {
     expectComplaint(program.run({catalogue}), missing + ": no such file or folder");
     program.setVariable(Recordings::environmentVariable, "");
     EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
+}
+
+TEST(Program, ARecordedPcThatLiesALevelDeeperIsNamed) {
+    if (!worldKnowsRecordings()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    program.file("nest/my-pc/pc.json", "{}");
+    const QString nest = program.folder() + "/nest";
+    expectComplaint(program.run({"--pc", nest, catalogue}),
+                    nest + ": no recorded PC here; did you mean " + nest + "/my-pc?");
+    program.file("nest/sent.json", Recordings::renderPcFile({}));
+    expectComplaint(program.run({"--pc", nest, catalogue}),
+                    nest + ": no recorded PC here; did you mean " + nest + "/my-pc or " + nest + "/sent.json?");
+    EXPECT_EQ(program.run({"--pc", nest + "/sent.json", catalogue}).errors, "");
 }
 
 TEST(Program, WithoutRecordingsAskingForOneIsRefused) {

@@ -5,8 +5,11 @@
 #include "platform/Registry.h"
 #include "platform/Versions.h"
 #include "platform/recorded/Observer.h"
+#include "recordings/PcFile.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <gmock/gmock.h>
@@ -154,6 +157,39 @@ TEST_F(RecordedPcTest, ReportsProblemsInTheOrderOfItsFiles) {
                             "/registry/a.reg:3: the line is neither a key nor a value",
                             "/registry/b.reg:1: the first line is not “Windows Registry Editor Version 5.00”",
                             "/registry/c.reg:0: the file cannot be read", "/pc.json:1: an object is expected"));
+}
+
+TEST_F(RecordedPcTest, ReportsNamesThatWindowsCannotHave) {
+    for (const char* const name : {"a:b", "con", "Same", "same", "\xE4", "Käfer"}) {
+        pc.file(QByteArray("drives/D/") + name);
+    }
+    pc.folder("drives/CD");
+    pc.link("drives/D/dead", "nowhere");
+    EXPECT_THAT(problems(pc.path({})), ElementsAre("/drives/CD:0: this is no drive's letter",
+                                                   "/drives/D/a:b:0: no file of Windows can have this name",
+                                                   "/drives/D/con:0: no file of Windows can have this name",
+                                                   "/drives/D/\uFFFD:0: the name is not UTF-8",
+                                                   "/drives/D/same:0: for Windows this is the same name as “Same”",
+                                                   "/drives/D/dead:0: the link leads to no file or folder"));
+}
+
+TEST_F(RecordedPcTest, IsAFileAsWellAsAFolder) {
+    Recordings::Pc recorded;
+    recorded.drives.make(*Recordings::DrivePath::parse("D:/b.txt"), Recordings::File::Kind::File).contents =
+        QByteArray("text");
+    recorded.drives.make(*Recordings::DrivePath::parse("D:/a"), Recordings::File::Kind::Folder).isHidden = true;
+    recorded.registry.make(Recordings::RegKey::Root::CurrentUser, {"A"}, Recordings::RegistryView::Bits64);
+    pc.file("one.json", Recordings::renderPcFile(recorded));
+    qputenv(Recordings::environmentVariable, pc.path("one.json"));
+    EXPECT_TRUE(hasKey("A"));
+    QFile file("d:\\B.TXT");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "text");
+    EXPECT_TRUE(QFileInfo("D:/a").isDir() && QFileInfo("D:/a").isHidden());
+    QDir folder("D:/");
+    folder.setSorting(QDir::Unsorted);
+    EXPECT_THAT(folder.entryList(QDir::AllEntries | QDir::Hidden), ElementsAre("b.txt", "a"))
+        << "in the recorded order";
 }
 
 // Folders, volumes, environment, host

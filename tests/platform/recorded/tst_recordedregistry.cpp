@@ -193,6 +193,15 @@ TEST_F(RecordedRegistryTest, ConvertsTextToTheAnsiCodePage) {
     EXPECT_EQ(size, 7U);
 }
 
+TEST_F(RecordedRegistryTest, ConvertsTextToTheCodePageThatThePcHas) {
+    pc.describe(R"({"codePage": 1250})");
+    const KeyHandle key = keyWith("\"ŁÖ\"");
+    QByteArray buffer(3, 'x');
+    size = 3;
+    EXPECT_EQ(Platform::queryValueNarrow(key, "a", type, buffer.data(), size), Platform::errorSuccess);
+    EXPECT_EQ(buffer, QByteArray("\xA3\xD6\0", 3));
+}
+
 TEST_F(RecordedRegistryTest, GivesNumbersByAsciiNames) {
     const KeyHandle key = keyWith("dword:01020304");
     quint32 number = 0;
