@@ -1,59 +1,55 @@
 #include "BenchPc.h"
 
-#include "platform/Recording.h"
+#include "platform/Folders.h"
+#include "recordings/HostFiles.h"
+#include "recordings/PcFile.h"
+#include "recordings/Recording.h"
+#include "recordings/RegValues.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+using Recordings::RegistryView;
+using Recordings::RegKey;
 
 namespace {
 
-void write(const QString& path, const QByteArray& contents) {
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
-        qFatal("cannot write %s", qUtf8Printable(path));
-    }
-}
-
-/// As a .reg file quotes it.
-QString quoted(QString text) {
-    text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
-    return QLatin1Char('"') + text + QLatin1Char('"');
+Recordings::RegValue textValue(const char* name, const QString& text) {
+    return {QLatin1String(name), false, Recordings::RegType::string, Recordings::storedText(text)};
 }
 
 } // namespace
 
 BenchPc::BenchPc() {
     qputenv("XDG_DATA_HOME", m_folder.filePath(QStringLiteral("data")).toUtf8());
-    write(m_folder.filePath(QStringLiteral("pc.json")),
-          R"({"shellFolders": {"startMenu": "C:\\Menu", "commonStartMenu": "D:\\Menu"}})");
+    m_pc.shellFolders = {{Platform::csidlStartMenu, QStringLiteral("C:\\Menu")},
+                         {Platform::csidlCommonStartMenu, QStringLiteral("D:\\Menu")}};
 }
 
 BenchPc::~BenchPc() {
-    qunsetenv(Recording::environmentVariable);
+    qunsetenv(Recordings::environmentVariable);
 }
 
 void BenchPc::file(const QString& path, const QByteArray& contents) {
-    QString below = path;
-    below.remove(1, 1).replace(QLatin1Char('\\'), QLatin1Char('/'));
-    write(m_folder.filePath(QLatin1String("drives/") + below), contents);
+    m_pc.drives.make(*Recordings::DrivePath::parse(path), Recordings::File::Kind::File).contents = contents;
 }
 
 void BenchPc::program(const QString& key, const QString& displayName, const QString& installLocation) {
-    m_registry += QLatin1String("[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\") +
-                  key + QLatin1String("]\n\"DisplayName\"=") + quoted(displayName) +
-                  QLatin1String("\n\"InstallLocation\"=") + quoted(installLocation) +
-                  QLatin1String("\n\"UninstallString\"=\"uninstall.exe\"\n\n");
+    const QString uninstall = QStringLiteral("Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
+    Recordings::RegistryNode& node = m_pc.registry.make(
+        RegKey::Root::LocalMachine, uninstall.split(QLatin1Char('\\')) + QStringList{key}, RegistryView::Bits64);
+    node.apply(textValue("DisplayName", displayName));
+    node.apply(textValue("InstallLocation", installLocation));
+    node.apply(textValue("UninstallString", QStringLiteral("uninstall.exe")));
 }
 
 void BenchPc::steam(const QString& executable) {
-    m_registry += QLatin1String("[HKEY_CLASSES_ROOT\\steam\\Shell\\Open\\Command]\n@=") + quoted(executable) +
-                  QLatin1String("\n\n");
+    const QString command = QStringLiteral("steam\\Shell\\Open\\Command");
+    m_pc.registry.make(RegKey::Root::ClassesRoot, command.split(QLatin1Char('\\')), RegistryView::Bits64)
+        .apply(textValue("", executable));
 }
 
 void BenchPc::use() {
-    write(m_folder.filePath(QStringLiteral("registry/bench.reg")),
-          "Windows Registry Editor Version 5.00\n\n" + m_registry.toUtf8());
-    qputenv(Recording::environmentVariable, m_folder.path().toUtf8());
+    const QByteArray file = m_folder.filePath(QStringLiteral("pc.json")).toUtf8();
+    if (!Recordings::HostFiles::write(file, Recordings::renderPcFile(m_pc))) {
+        qFatal("cannot write %s", file.constData());
+    }
+    qputenv(Recordings::environmentVariable, file);
 }

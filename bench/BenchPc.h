@@ -1,5 +1,7 @@
 #pragma once
 
+#include "recordings/Pc.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
@@ -14,7 +16,7 @@ public:
     /// A file with the folders on the way; `path` is Windows' own ("C:\\Games\\x.exe").
     void file(const QString& path, const QByteArray& contents = {});
 
-    /// An entry of the Uninstall registry; the key's name and the values of a .reg file.
+    /// An entry of the Uninstall registry; the key's name and its values.
     void program(const QString& key, const QString& displayName, const QString& installLocation);
 
     /// Registers the Steam client.
@@ -27,5 +29,5 @@ private:
     Q_DISABLE_COPY_MOVE(BenchPc)
 
     QTemporaryDir m_folder;
-    QString m_registry;
+    Recordings::Pc m_pc;
 };

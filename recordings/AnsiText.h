@@ -3,12 +3,16 @@
 #include <QByteArray>
 #include <QString>
 
-namespace Recorded {
+namespace Recordings {
 
-/// Text in Windows-1252, the ANSI code page of a recorded PC; "?" for what it lacks.
-QByteArray toAnsi(const QString& text);
+constexpr int westernCodePage = 1252;
 
-/// The text of bytes in Windows-1252.
-QString fromAnsi(const QByteArray& bytes);
+bool isKnownCodePage(int codePage);
 
-} // namespace Recorded
+/// Text in an ANSI code page; "?" for what it lacks. A code page that isn't known counts as Windows-1252.
+QByteArray toAnsi(const QString& text, int codePage = westernCodePage);
+
+/// The text of bytes in an ANSI code page.
+QString fromAnsi(const QByteArray& bytes, int codePage = westernCodePage);
+
+} // namespace Recordings

@@ -1,10 +1,10 @@
 #include "recordings/ByteView.h"
 
-#include "recordings/AnsiText.h"
+#include "recordings/Utf16Text.h"
 
 #include <QtEndian>
 
-namespace Recorded {
+namespace Recordings {
 
 bool ByteView::holds(qint64 offset, qint64 size) const {
     return offset >= 0 && size >= 0 && offset <= m_bytes.size() && size <= m_bytes.size() - offset;
@@ -28,7 +28,7 @@ std::optional<ByteView> ByteView::part(qint64 offset, qint64 size) const {
     if (!holds(offset, size)) {
         return std::nullopt;
     }
-    return ByteView(m_bytes.mid(static_cast<int>(offset), static_cast<int>(size)));
+    return ByteView(m_bytes.mid(static_cast<int>(offset), static_cast<int>(size)), m_codePage);
 }
 
 std::optional<QString> ByteView::ansiText(qint64 offset) const {
@@ -36,7 +36,7 @@ std::optional<QString> ByteView::ansiText(qint64 offset) const {
     if (end < 0) {
         return std::nullopt;
     }
-    return fromAnsi(m_bytes.mid(static_cast<int>(offset), end - static_cast<int>(offset)));
+    return fromAnsi(m_bytes.mid(static_cast<int>(offset), end - static_cast<int>(offset)), m_codePage);
 }
 
 std::optional<QString> ByteView::wideText(qint64 offset) const {
@@ -54,13 +54,11 @@ std::optional<QString> ByteView::wideText(qint64 offset) const {
 }
 
 QString ByteView::asAnsi() const {
-    return fromAnsi(m_bytes);
+    return fromAnsi(m_bytes, m_codePage);
 }
 
 QString ByteView::asWide() const {
-    QString text(m_bytes.size() / 2, Qt::Uninitialized);
-    qFromLittleEndian<char16_t>(m_bytes.constData(), text.size(), text.data());
-    return text;
+    return fromUtf16(m_bytes);
 }
 
-} // namespace Recorded
+} // namespace Recordings

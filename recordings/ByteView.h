@@ -1,18 +1,21 @@
 #pragma once
 
+#include "recordings/AnsiText.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <optional>
 
-namespace Recorded {
+namespace Recordings {
 
 /// Reads numbers and texts, all little-endian, at offsets that a file states and that may be wrong: empty when
 /// anything would lie outside.
 class ByteView {
 public:
-    explicit ByteView(QByteArray bytes)
-        : m_bytes(std::move(bytes)) {}
+    explicit ByteView(QByteArray bytes, int codePage = westernCodePage)
+        : m_bytes(std::move(bytes))
+        , m_codePage(codePage) {}
 
     qint64 size() const { return m_bytes.size(); }
 
@@ -34,6 +37,7 @@ private:
     bool holds(qint64 offset, qint64 size) const;
 
     QByteArray m_bytes;
+    int m_codePage;
 };
 
-} // namespace Recorded
+} // namespace Recordings

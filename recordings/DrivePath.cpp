@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace Windows {
+namespace Recordings {
 
 namespace {
 
@@ -59,4 +59,4 @@ QString DrivePath::text() const {
     return letter + QLatin1String(":/") + names.join(slash);
 }
 
-} // namespace Windows
+} // namespace Recordings

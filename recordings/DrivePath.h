@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace Windows {
+namespace Recordings {
 
 /// A path with a drive letter, taken apart as Windows and Qt 5.15 do it there.
 struct DrivePath {
@@ -28,4 +28,4 @@ struct DrivePath {
     QString text() const;
 };
 
-} // namespace Windows
+} // namespace Recordings

@@ -2,11 +2,13 @@
 
 #include "recordings/Utf8Text.h"
 
-namespace Recorded {
+#include <algorithm>
+
+namespace Recordings {
 
 namespace {
 
-constexpr int deepest = 100;
+constexpr int deepest = 1000; // folders within folders
 constexpr QLatin1Char quote('"');
 constexpr QLatin1Char backslash('\\');
 
@@ -117,23 +119,26 @@ bool Reader::readSeparator(QLatin1Char end, bool& isEnd) {
 }
 
 bool Reader::readString(QString& string) {
-    while (peek() != quote) {
+    while (true) {
+        const int begin = m_position;
+        while (!atEnd() && peek() != quote && peek() != backslash && peek().unicode() >= 0x20) {
+            ++m_position;
+        }
+        string += m_text.midRef(begin, m_position - begin);
         if (atEnd() || peek() == QLatin1Char('\n')) {
             return fail(QStringLiteral("the string is not closed"));
         }
-        if (peek().unicode() < 0x20) {
+        if (peek() == quote) {
+            ++m_position;
+            return true;
+        }
+        if (peek() != backslash) {
             return fail(QStringLiteral("a control character in a string"));
         }
-        if (peek() == backslash) {
-            if (!readEscape(string)) {
-                return false;
-            }
-        } else {
-            string += m_text.at(m_position++);
+        if (!readEscape(string)) {
+            return false;
         }
     }
-    ++m_position;
-    return true;
 }
 
 bool Reader::readEscape(QString& string) {
@@ -164,6 +169,7 @@ bool Reader::readWord(JsonValue& value) {
         ++m_position;
     }
     const QStringRef word = m_text.midRef(begin, m_position - begin);
+    value.text = word.toString();
     if (word == QLatin1String("true") || word == QLatin1String("false")) {
         value.kind = JsonValue::Kind::Boolean;
     } else if (!word.isEmpty() && (word.at(0).isDigit() || word.at(0) == QLatin1Char('-'))) {
@@ -209,4 +215,26 @@ std::optional<JsonValue> parseJson(const QByteArray& json, JsonFault& fault) {
     return value;
 }
 
-} // namespace Recorded
+JsonValue JsonValue::string(const QString& name, const QString& text) {
+    return {Kind::String, 1, name, text, {}};
+}
+
+JsonValue JsonValue::number(const QString& name, qint64 number) {
+    return {Kind::Number, 1, name, QString::number(number), {}};
+}
+
+JsonValue JsonValue::array(const QString& name) {
+    return {Kind::Array, 1, name, {}, {}};
+}
+
+JsonValue JsonValue::object(const QString& name) {
+    return {Kind::Object, 1, name, {}, {}};
+}
+
+const JsonValue* JsonValue::member(QLatin1String wanted) const {
+    const auto found =
+        std::find_if(items.begin(), items.end(), [wanted](const JsonValue& item) { return item.name == wanted; });
+    return kind == Kind::Object && found != items.end() ? &*found : nullptr;
+}
+
+} // namespace Recordings

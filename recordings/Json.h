@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-namespace Recorded {
+namespace Recordings {
 
 /// One value of a JSON text and the line in which it begins. QJsonDocument has no lines, ends the process when memory
 /// runs out and reads "C:\Games" without its backslash, and without a word.
@@ -16,8 +16,16 @@ struct JsonValue {
     Kind kind = Kind::Null;
     int line = 1;
     QString name;                 ///< of a member of an object
-    QString text;                 ///< of a string
+    QString text;                 ///< of a string; a number or a word as it is written
     std::vector<JsonValue> items; ///< of an array, or the members of an object in their order
+
+    static JsonValue string(const QString& name, const QString& text);
+    static JsonValue number(const QString& name, qint64 number);
+    static JsonValue array(const QString& name);
+    static JsonValue object(const QString& name);
+
+    /// The member of that name; null when there is none, or this is no object.
+    const JsonValue* member(QLatin1String name) const;
 };
 
 struct JsonFault {
@@ -28,4 +36,8 @@ struct JsonFault {
 /// Empty when `json` is no JSON in UTF-8; `fault` then says why.
 std::optional<JsonValue> parseJson(const QByteArray& json, JsonFault& fault);
 
-} // namespace Recorded
+/// The text of `value`, which reads as what it is, whatever its strings are made of. An object within an array stands
+/// in one line, but for what is in its own arrays.
+QByteArray renderJson(const JsonValue& value);
+
+} // namespace Recordings

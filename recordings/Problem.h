@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace Recording {
+namespace Recordings {
 
 /// One thing that could not be read. The rest of the recording is used all the same.
 struct Problem {
@@ -11,4 +11,4 @@ struct Problem {
     QString message;
 };
 
-} // namespace Recording
+} // namespace Recordings

@@ -1,6 +1,6 @@
 #include "recordings/RegCursor.h"
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
@@ -197,4 +197,4 @@ bool RegCursor::beginsKeyOrValue(int position) const {
     return at(skipBlanks(end + 1)) == QLatin1Char('=');
 }
 
-} // namespace Recorded
+} // namespace Recordings

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-namespace Recorded {
+namespace Recordings {
 
 /// Reads the pieces of a .reg file's lines from front to back. A function that returns false leaves the cursor at or
 /// behind the fault, and `fault` says where and what it is.
@@ -58,4 +58,4 @@ private:
     Fault m_fault;
 };
 
-} // namespace Recorded
+} // namespace Recordings

@@ -2,6 +2,7 @@
 
 #include "recordings/RegCursor.h"
 #include "recordings/RegText.h"
+#include "recordings/RegValues.h"
 
 #include <QStringList>
 #include <QtEndian>
@@ -9,14 +10,9 @@
 #include <algorithm>
 #include <iterator>
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
-
-constexpr quint32 typeString = 1;
-constexpr quint32 typeBinary = 3;
-constexpr quint32 typeDword = 4;
-constexpr int deepestKey = 512; // levels of the registry of Windows
 
 struct RootName {
     QLatin1String name;
@@ -33,12 +29,6 @@ const RootName rootNames[] = {
     {QLatin1String("HKEY_DYN_DATA"), RegKey::Root::Other},
     {QLatin1String("HKEY_PERFORMANCE_DATA"), RegKey::Root::Other},
 };
-
-QByteArray stringData(const QString& text) {
-    QByteArray data((text.size() + 1) * 2, Qt::Uninitialized);
-    qToLittleEndian<char16_t>(text.utf16(), text.size() + 1, data.data());
-    return data;
-}
 
 class Parser {
 public:
@@ -169,8 +159,8 @@ bool Parser::parseData(RegValue& value) {
         if (!m_cursor.takeQuoted(true, text)) {
             return false;
         }
-        value.type = typeString;
-        value.data = stringData(text);
+        value.type = RegType::string;
+        value.data = storedText(text);
         return true;
     }
     if (m_cursor.take(QLatin1String("dword:"))) {
@@ -179,7 +169,7 @@ bool Parser::parseData(RegValue& value) {
         if (!m_cursor.takeNumber(number)) {
             return false;
         }
-        value.type = typeDword;
+        value.type = RegType::dword;
         value.data.resize(sizeof number);
         qToLittleEndian(number, value.data.data());
         return true;
@@ -188,7 +178,7 @@ bool Parser::parseData(RegValue& value) {
 }
 
 bool Parser::parseTypedBytes(RegValue& value) {
-    value.type = typeBinary;
+    value.type = RegType::binary;
     if (m_cursor.take(QLatin1String("hex("))) {
         if (!m_cursor.takeNumber(value.type)) {
             return false;
@@ -213,6 +203,19 @@ bool hasHeader(const QString& text) {
 
 } // namespace
 
+QString rootName(RegKey::Root root) {
+    const auto* const found = std::find_if(std::begin(rootNames), std::end(rootNames),
+                                           [root](const RootName& known) { return known.root == root; });
+    return found->name;
+}
+
+RegKey::Root rootNamed(const QString& name) {
+    const auto* const found = std::find_if(std::begin(rootNames), std::end(rootNames), [&name](const RootName& known) {
+        return name.compare(known.name, Qt::CaseInsensitive) == 0;
+    });
+    return found != std::end(rootNames) ? found->root : RegKey::Root::Other;
+}
+
 RegFile parseRegFile(const QByteArray& bytes, const QString& file) {
     RegFile result;
     const QString text = decodeRegText(bytes, file, result.problems);
@@ -226,4 +229,4 @@ RegFile parseRegFile(const QByteArray& bytes, const QString& file) {
     return result;
 }
 
-} // namespace Recorded
+} // namespace Recordings

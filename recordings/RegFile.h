@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace Recorded {
+namespace Recordings {
 
 /// What one line of a .reg file does to a value.
 struct RegValue {
@@ -27,13 +27,20 @@ struct RegKey {
     std::vector<RegValue> values;
 };
 
+constexpr int deepestKey = 512; ///< levels of the registry of Windows
+
 struct RegFile {
     std::vector<RegKey> keys;
-    std::vector<Recording::Problem> problems;
+    std::vector<Problem> problems;
 };
 
 /// Reads a registry file of version 5.00, as regedit and `reg export` write it. A fault costs only the line or the
 /// value that has it and is listed in `problems` under `file`; a file without the header of that version is not read.
 RegFile parseRegFile(const QByteArray& bytes, const QString& file);
 
-} // namespace Recorded
+/// "HKEY_LOCAL_MACHINE" and its like, in any letter case; Other for the roots that a recording has nothing of, and for
+/// what is none.
+RegKey::Root rootNamed(const QString& name);
+QString rootName(RegKey::Root root);
+
+} // namespace Recordings

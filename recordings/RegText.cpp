@@ -1,23 +1,22 @@
 #include "recordings/RegText.h"
 
+#include "recordings/Utf16Text.h"
 #include "recordings/Utf8Text.h"
 
 #include <QList>
-#include <QtEndian>
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
-using Problems = std::vector<Recording::Problem>;
+using Problems = std::vector<Problem>;
 
 int lastLine(const QString& text) {
     return static_cast<int>(text.count(QLatin1Char('\n'))) + 1;
 }
 
 QString decodeUtf16(const QByteArray& bytes, const QString& file, Problems& problems) {
-    QString text(bytes.size() / 2, Qt::Uninitialized);
-    qFromLittleEndian<char16_t>(bytes.constData(), text.size(), text.data());
+    QString text = fromUtf16(bytes);
     const bool cutUnit = bytes.size() % 2 != 0;
     const bool cutPair = !text.isEmpty() && text.at(text.size() - 1).isHighSurrogate();
     if (cutPair) {
@@ -68,4 +67,4 @@ QString decodeRegText(const QByteArray& bytes, const QString& file, Problems& pr
     return decodeUtf8(bytes, file, problems);
 }
 
-} // namespace Recorded
+} // namespace Recordings

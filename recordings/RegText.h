@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace Recorded {
+namespace Recordings {
 
 /// Counts lines in a text from which a reader moves on from front to back.
 class LineCounter {
@@ -26,6 +26,6 @@ private:
 
 /// The text of a .reg file: UTF-16LE with a byte-order mark, or UTF-8 with or without one. Bytes that are no text are
 /// replaced and reported to `problems` under `file`.
-QString decodeRegText(const QByteArray& bytes, const QString& file, std::vector<Recording::Problem>& problems);
+QString decodeRegText(const QByteArray& bytes, const QString& file, std::vector<Problem>& problems);
 
-} // namespace Recorded
+} // namespace Recordings

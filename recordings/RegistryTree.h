@@ -2,19 +2,27 @@
 
 #include "recordings/RegFile.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 
-namespace Recorded {
+namespace Recordings {
 
 /// A key of a recorded registry with its values and all that is below it. Names are found ignoring case and keep the
 /// spelling in which they came first.
 class RegistryNode {
 public:
     struct Value {
+        QString name; ///< as it was spelled last
         quint32 type = 0;
         QByteArray data;
+
+        friend bool operator==(const Value& a, const Value& b) {
+            return a.name == b.name && a.type == b.type && a.data == b.data;
+        }
     };
+
+    using Values = std::map<QString, Value>; // by folded name
 
     using Children = std::map<QString, std::unique_ptr<RegistryNode>>; // by folded name
 
@@ -24,6 +32,8 @@ public:
     const QString& name() const { return m_name; }
 
     const Children& children() const { return m_children; }
+
+    const Values& values() const { return m_values; }
 
     /// The key at `path`, names below this key; null when there is none.
     const RegistryNode* find(const QStringList& path) const;
@@ -39,10 +49,15 @@ public:
 
     void apply(const RegValue& value);
 
+    /// Calls `visit` with every key below this one and its path, each before those below it.
+    void visit(const std::function<void(const QStringList& path, const RegistryNode& key)>& visit) const;
+
+    friend bool operator==(const RegistryNode& a, const RegistryNode& b);
+
 private:
     QString m_name;
     Children m_children;
-    std::map<QString, Value> m_values; // by folded name
+    Values m_values;
 };
 
-} // namespace Recorded
+} // namespace Recordings

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace Windows {
+namespace Recordings {
 
 namespace {
 
@@ -111,4 +111,4 @@ QStringList storedUserPath(const QStringList& path, RegistryView view) {
     return path.mid(0, 2) + storedClassesPath(path.mid(2), view);
 }
 
-} // namespace Windows
+} // namespace Recordings

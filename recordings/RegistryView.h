@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-namespace Windows {
+namespace Recordings {
 
 enum class RegistryView { Bits64, Bits32 };
 
@@ -17,4 +17,4 @@ QStringList storedClassesPath(const QStringList& path, RegistryView view);
 /// The same below HKEY_CURRENT_USER, where only the classes have a second tree.
 QStringList storedUserPath(const QStringList& path, RegistryView view);
 
-} // namespace Windows
+} // namespace Recordings

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace Recording {
+namespace Recordings {
 
 struct ShellFolderName {
     const char* name;
@@ -12,4 +12,4 @@ constexpr ShellFolderName shellFolders[] = {
     {"personal", 5}, {"startMenu", 11}, {"commonStartMenu", 22}, {"localAppData", 28}, {"commonAppData", 35},
 };
 
-} // namespace Recording
+} // namespace Recordings

@@ -7,7 +7,7 @@
 
 #include <QHash>
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
@@ -37,8 +37,8 @@ constexpr int longestTarget = 259; // what fits into a buffer of MAX_PATH charac
 // The parts of a shortcut follow one another, each with a size that it states itself.
 class Reader {
 public:
-    explicit Reader(const QByteArray& bytes)
-        : m_bytes(bytes) {}
+    Reader(const QByteArray& bytes, int codePage)
+        : m_bytes(bytes, codePage) {}
 
     bool read(ShellLink& link);
 
@@ -178,11 +178,11 @@ QString expanded(const QString& text, const QProcessEnvironment& environment) {
     }
     QHash<QString, QString> values; // by folded name
     for (const QString& name : environment.keys()) {
-        values.insert(Windows::foldName(name), environment.value(name));
+        values.insert(foldName(name), environment.value(name));
     }
     QString result = parts.first();
     for (int i = 1; i < parts.size(); i += 2) {
-        const auto value = values.constFind(Windows::foldName(parts.at(i)));
+        const auto value = values.constFind(foldName(parts.at(i)));
         if (value == values.constEnd()) {
             return {};
         }
@@ -193,9 +193,9 @@ QString expanded(const QString& text, const QProcessEnvironment& environment) {
 
 } // namespace
 
-std::optional<ShellLink> parseShellLink(const QByteArray& bytes) {
+std::optional<ShellLink> parseShellLink(const QByteArray& bytes, int codePage) {
     ShellLink link;
-    if (!Reader(bytes).read(link)) {
+    if (!Reader(bytes, codePage).read(link)) {
         return std::nullopt;
     }
     return link;
@@ -209,10 +209,10 @@ QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, 
         }
     }
     if (target.isEmpty() && !link.relativePath.isEmpty()) {
-        const auto path = Windows::DrivePath::parse(folder + QLatin1Char('/') + link.relativePath);
+        const auto path = DrivePath::parse(folder + QLatin1Char('/') + link.relativePath);
         target = path ? path->text() : QString();
     }
-    return target.size() > longestTarget ? QString() : Windows::Path(target).text();
+    return target.size() > longestTarget ? QString() : Path(target).text();
 }
 
-} // namespace Recorded
+} // namespace Recordings

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "recordings/AnsiText.h"
+
 #include <QByteArray>
 #include <QProcessEnvironment>
 #include <QString>
 
 #include <optional>
 
-namespace Recorded {
+namespace Recordings {
 
 /// What a shortcut file (.lnk) says about its target. What it doesn't say is empty.
 struct ShellLink {
@@ -18,10 +20,14 @@ struct ShellLink {
 
 /// Reads a shortcut as learn.microsoft.com/openspecs/windows_protocols/ms-shllink describes it. Empty when `bytes` are
 /// none or are damaged. A list of shell items, which also tells the target but only to a shell, is not read.
-std::optional<ShellLink> parseShellLink(const QByteArray& bytes);
+std::optional<ShellLink> parseShellLink(const QByteArray& bytes, int codePage = westernCodePage);
 
 /// Where `link` leads, as Qt writes it on Windows: "C:/Games/X/X.exe". `folder` is the one in which the shortcut lies.
 /// Empty when it leads nowhere.
 QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, const QString& folder);
 
-} // namespace Recorded
+/// The contents of a shortcut file to a local target, as the shell writes it: a header and the link information with
+/// the path in ANSI and in Unicode. Tells nothing else: no dates, no names of the machine and its volumes.
+QByteArray renderShellLink(const QString& target);
+
+} // namespace Recordings

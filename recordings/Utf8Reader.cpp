@@ -1,6 +1,6 @@
 #include "recordings/Utf8Reader.h"
 
-namespace Recorded {
+namespace Recordings {
 
 namespace {
 
@@ -56,4 +56,4 @@ char32_t Utf8Reader::next() noexcept {
     return replacement;
 }
 
-} // namespace Recorded
+} // namespace Recordings

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace Recorded {
+namespace Recordings {
 
 /// Reads UTF-8 character by character without allocating. Each faulty byte reads as U+FFFD.
 class Utf8Reader {
@@ -19,4 +19,4 @@ private:
     std::string_view m_text;
 };
 
-} // namespace Recorded
+} // namespace Recordings

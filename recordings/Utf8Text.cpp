@@ -2,7 +2,7 @@
 
 #include <QTextCodec>
 
-namespace Recorded {
+namespace Recordings {
 
 std::optional<QString> decoded(const QByteArray& utf8) {
     static QTextCodec* const codec = QTextCodec::codecForName("UTF-8");
@@ -14,4 +14,4 @@ std::optional<QString> decoded(const QByteArray& utf8) {
     return text;
 }
 
-} // namespace Recorded
+} // namespace Recordings

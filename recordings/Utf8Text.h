@@ -5,9 +5,9 @@
 
 #include <optional>
 
-namespace Recorded {
+namespace Recordings {
 
 /// The text of bytes in UTF-8; empty when they are not.
 std::optional<QString> decoded(const QByteArray& utf8);
 
-} // namespace Recorded
+} // namespace Recordings

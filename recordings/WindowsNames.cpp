@@ -1,6 +1,6 @@
 #include "recordings/WindowsNames.h"
 
-namespace Windows {
+namespace Recordings {
 
 namespace {
 
@@ -33,4 +33,4 @@ QString foldName(const QString& name) {
     return folded;
 }
 
-} // namespace Windows
+} // namespace Recordings

@@ -1,6 +1,6 @@
 #include "recordings/WindowsPath.h"
 
-namespace Windows {
+namespace Recordings {
 
 namespace {
 
@@ -181,4 +181,4 @@ QString withBackslashes(QString path) {
     return path.replace(slash, QLatin1Char('\\'));
 }
 
-} // namespace Windows
+} // namespace Recordings

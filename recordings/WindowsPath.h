@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace Windows {
+namespace Recordings {
 
 /// A path as text, by the rules that Qt 5.15 follows on Windows, and Windows itself where Qt asks it. Nothing is looked
 /// up: what depends on the process is told by the caller or is not known.
@@ -56,4 +56,4 @@ private:
 /// QDir::toNativeSeparators.
 QString withBackslashes(QString path);
 
-} // namespace Windows
+} // namespace Recordings

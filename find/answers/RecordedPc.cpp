@@ -1,5 +1,7 @@
 #include "find/answers/RecordedPc.h"
 
+#include "find/cli/Environment.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,54 +10,61 @@ namespace Host {
 
 namespace {
 
-QString describeFile(const QString& folder, const QString& file) {
-    const QString relative = QDir(folder).relativeFilePath(file);
+QString describeFile(const QString& path, const QString& file) {
+    const QString relative = QDir(path).relativeFilePath(file);
     if (relative == QLatin1String(".")) {
-        return folder;
+        return path;
     }
     const bool isWithin = QFileInfo(relative).isRelative() && !relative.startsWith(QLatin1String(".."));
-    return isWithin ? QDir(folder).filePath(relative) : file;
+    return isWithin ? QDir(path).filePath(relative) : file;
 }
 
-QString describe(const QString& folder, const Recording::Problem& problem) {
-    QString place = describeFile(folder, problem.file);
+QString describe(const QString& path, const Recordings::Problem& problem) {
+    QString place = describeFile(path, problem.file);
     if (problem.line > 0) {
         place += QLatin1Char(':') + QString::number(problem.line);
     }
     return place + QLatin1String(": ") + problem.message;
 }
 
-/// Looks through the recording. No value on a system without recordings.
-std::optional<RecordedPc> check(const QString& folder) {
-    const std::optional<std::vector<Recording::Problem>> problems =
-        Recording::problems(QFileInfo(folder).absoluteFilePath());
-    if (!problems) {
-        return std::nullopt;
+/// With the recordings a level deeper, which may have been meant.
+QString describeFault(const QString& path, const QByteArray& folder, const QString& fault) {
+    QStringList meant;
+    for (const QByteArray& name : Recordings::recordingsIn(folder)) {
+        meant.append(QDir(path).filePath(QString::fromUtf8(name)));
     }
-    if (!QFileInfo(folder).isDir()) {
-        return RecordedPc{QStringLiteral("%1: no such folder").arg(folder), {}};
-    }
-    return RecordedPc{QString(), describeProblems(folder, *problems)};
+    const QString text = path + QLatin1String(": ") + fault;
+    return meant.isEmpty() ? text : text + QStringLiteral("; did you mean %1?").arg(meant.join(QLatin1String(" or ")));
 }
 
 } // namespace
 
-QStringList describeProblems(const QString& folder, const std::vector<Recording::Problem>& problems) {
+QStringList describeProblems(const QString& path, const std::vector<Recordings::Problem>& problems) {
     QStringList lines;
-    for (const Recording::Problem& problem : problems) {
-        lines.append(describe(folder, problem));
+    for (const Recordings::Problem& problem : problems) {
+        lines.append(describe(path, problem));
     }
     return lines;
 }
 
-RecordedPc chooseRecordedPc(const std::optional<QString>& folder) {
-    if (!folder) {
-        const QString chosenBefore = qEnvironmentVariable(Recording::environmentVariable);
-        return chosenBefore.isEmpty() ? RecordedPc() : check(chosenBefore).value_or(RecordedPc());
+std::optional<Recordings::Recording> chooseRecordedPc(const std::optional<QString>& path, QString& fault) {
+    if (path && isPcItself()) {
+        fault = QStringLiteral("--pc: this build answers from the PC it runs on");
+        return std::nullopt;
     }
-    const QString absolute = QFileInfo(*folder).absoluteFilePath();
-    qputenv(Recording::environmentVariable, QFile::encodeName(absolute));
-    return check(*folder).value_or(RecordedPc{QStringLiteral("--pc: this build answers from the PC it runs on"), {}});
+    if (path) {
+        setEnvironmentVariable(Recordings::environmentVariable, QFileInfo(*path).absoluteFilePath());
+    }
+    const QByteArray chosen = qgetenv(Recordings::environmentVariable);
+    if (chosen.isEmpty() || isPcItself()) {
+        return std::nullopt;
+    }
+    Recordings::Recording recording = Recordings::readRecording(chosen);
+    if (!recording.fault.isEmpty()) {
+        fault = describeFault(path.value_or(QFile::decodeName(chosen)), chosen, recording.fault);
+        return std::nullopt;
+    }
+    return recording;
 }
 
 } // namespace Host

@@ -1,26 +1,20 @@
 #pragma once
 
-#include "platform/Recording.h"
+#include "recordings/Recording.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <optional>
-#include <vector>
 
 namespace Host {
 
-/// What choosing a recorded PC came to.
-struct RecordedPc {
-    QString fault;        ///< why it cannot be used at all; empty when it can, or when none was chosen
-    QStringList problems; ///< what in it cannot be read, one line each
-};
+/// Chooses the recorded PC at `path`, a file or a folder, for this process and reads it. Without a path the choice of
+/// the environment stands. `fault` says why it cannot be used. No value when there is none, or none was chosen. To be
+/// called before the plug-in is loaded.
+std::optional<Recordings::Recording> chooseRecordedPc(const std::optional<QString>& path, QString& fault);
 
-/// Chooses the recorded PC in `folder` for this process and looks through it. Without a folder the choice of the
-/// environment stands. To be called before the plug-in is loaded.
-RecordedPc chooseRecordedPc(const std::optional<QString>& folder);
-
-/// The problems as "FILE:LINE: message", the files named as the user named the folder.
-QStringList describeProblems(const QString& folder, const std::vector<Recording::Problem>& problems);
+/// What in the recording at `path` cannot be read, as "FILE:LINE: message", the files named as the user named the path.
+QStringList describeProblems(const QString& path, const std::vector<Recordings::Problem>& problems);
 
 } // namespace Host

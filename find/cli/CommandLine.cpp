@@ -20,7 +20,7 @@ struct Declared {
     const QCommandLineOption plugin{text("plugin"), text("Load this plug-in instead of the one beside the program."),
                                     text("FILE")};
     const QCommandLineOption pc{text("pc"), text("Answer from this recorded PC, and name what is wrong with it."),
-                                text("FOLDER")};
+                                text("PC")};
     const QCommandLineOption game{text("game"), text("Ask for this game only. Can be given several times."),
                                   text("NAME")};
     const QCommandLineOption json{text("json"), text("Print the answers as JSON (docs/json.md).")};
@@ -46,11 +46,12 @@ void declare(QCommandLineParser& parser, const Declared& declared) {
                                       "The catalogue names its executables."),
                                  text("| locate KEY FOLDER [CATALOGUE]"));
     parser.addPositionalArgument(text("forget"), text("Forget it."), text("| forget KEY"));
-    parser.addPositionalArgument(
-        text("record"),
-        text("Record into a new FOLDER what finders can read of this\nPC (docs/recorded-pc.md), "
-             "so that it can be looked at\nelsewhere."),
-        text("| record FOLDER [CATALOGUE]"));
+    parser.addPositionalArgument(text("record"),
+                                 text("Record into a new FILE what finders use of this PC\n(docs/recorded-pc.md), "
+                                      "so that it can be looked at\nelsewhere."),
+                                 text("| record [FILE] [CATALOGUE]"));
+    parser.addPositionalArgument(text("unpack"), text("Make a FOLDER of a recording, to look at or change it."),
+                                 text("| unpack FILE FOLDER"));
     parser.addPositionalArgument(text("explain"),
                                  text("Tell why the game of this NAME was found or not: what each\nfinder looked for, "
                                       "what it saw, why it went on."),
@@ -80,7 +81,8 @@ const std::vector<CommandForm>& commandForms() {
         {"runtimes", Command::Runtimes, {}, 0},
         {"locate", Command::Locate, {key, {"the folder", &Options::folder}, catalogue}, 2},
         {"forget", Command::Forget, {key}, 1},
-        {"record", Command::Record, {{"the folder", &Options::folder}, catalogue}, 1},
+        {"record", Command::Record, {{"the name of the file", &Options::folder}, catalogue}, 0},
+        {"unpack", Command::Unpack, {{"the name of the file", &Options::file}, {"the folder", &Options::folder}}, 2},
         {"explain", Command::Explain, {{"the game's name", &Options::name}, catalogue}, 1},
     };
     return forms;

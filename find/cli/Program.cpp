@@ -14,6 +14,7 @@
 #include "find/explain/Explanation.h"
 #include "find/explain/PluginTrace.h"
 #include "find/record/RecordCommand.h"
+#include "find/record/UnpackCommand.h"
 
 #include <memory>
 #include <new>
@@ -122,6 +123,7 @@ ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& ga
     case Command::FindGames:
     case Command::Runtimes:
     case Command::Record: // which asks otherwise
+    case Command::Unpack: // which asks nothing
         break;
     }
     return answer(*factory, options, games);
@@ -142,20 +144,26 @@ ExitStatus askPlugin(const Options& options, const Catalogue& games) {
 }
 
 ExitStatus run(const Options& options) {
+    if (options.command == Command::Unpack) {
+        return unpackPc(options);
+    }
     const std::optional<Catalogue> games = loadGames(options);
     if (!games) {
         return failed;
     }
-    const RecordedPc pc = chooseRecordedPc(options.pc);
-    if (!pc.fault.isEmpty()) {
-        return fail(pc.fault);
+    QString fault;
+    const std::optional<Recordings::Recording> pc = chooseRecordedPc(options.pc, fault);
+    if (!fault.isEmpty()) {
+        return fail(fault);
     }
-    for (const QString& problem : pc.problems) {
+    const QString path = options.pc.value_or(qEnvironmentVariable(Recordings::environmentVariable));
+    const QStringList problems = pc ? describeProblems(path, pc->problems) : QStringList();
+    for (const QString& problem : problems) {
         Console::complain(problem);
     }
-    const ExitStatus status =
-        options.command == Command::Record ? recordPc(options, *games) : askPlugin(options, *games);
-    return pc.problems.isEmpty() ? status : failed;
+    const ExitStatus status = options.command == Command::Record ? recordPc(options, *games, pc ? &pc->pc : nullptr)
+                                                                 : askPlugin(options, *games);
+    return problems.isEmpty() ? status : failed;
 }
 
 } // namespace

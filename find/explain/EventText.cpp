@@ -140,8 +140,8 @@ QStringList linesOf(const Trace::Package& event) {
     if (event.fullName.isEmpty()) {
         return {QStringLiteral("app package %1: not installed").arg(family)};
     }
-    const QString application =
-        event.applicationId.isEmpty() ? QStringLiteral("without an application") : oneLine(event.applicationId);
+    const QString application = event.applicationIds.isEmpty() ? QStringLiteral("without an application")
+                                                               : oneLine(event.applicationIds.constFirst());
     return {QStringLiteral("app package %1: %2, %3").arg(family, oneLine(event.fullName), application)};
 }
 

@@ -9,7 +9,7 @@ namespace Host {
 namespace {
 
 /// In the form that has no longest length and means each name as it is.
-QString literalPath(const Windows::DrivePath& path) {
+QString literalPath(const Recordings::DrivePath& path) {
     const QString drive = QLatin1String("\\\\?\\") + QString(path.letter) + QLatin1Char(':');
     return (QStringList{drive} + path.names).join(QLatin1Char('\\'));
 }
@@ -18,7 +18,7 @@ QString literalPath(const Windows::DrivePath& path) {
 
 std::vector<Platform::FolderEntry> listFolder(const QString& folder) {
     std::vector<Platform::FolderEntry> entries;
-    const std::optional<Windows::DrivePath> path = Windows::DrivePath::parse(folder);
+    const std::optional<Recordings::DrivePath> path = Recordings::DrivePath::parse(folder);
     if (!path) {
         return entries;
     }

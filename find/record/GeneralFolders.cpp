@@ -1,6 +1,6 @@
 #include "find/record/GeneralFolders.h"
 
-#include "find/record/DriveRecord.h"
+#include "recordings/Drives.h"
 #include "recordings/WindowsNames.h"
 
 #include <algorithm>
@@ -47,7 +47,7 @@ bool isWithin(const QString& path, const QString& folder) {
 
 /// The folded path of what a variable names; empty when that is no folder on a drive.
 QString folderIn(const QProcessEnvironment& environment, const char* variable) {
-    const auto path = Windows::DrivePath::parse(environment.value(QLatin1String(variable)));
+    const auto path = Recordings::DrivePath::parse(environment.value(QLatin1String(variable)));
     return path ? foldedPath(*path) : QString();
 }
 
@@ -79,12 +79,12 @@ GeneralFolders::GeneralFolders(const QProcessEnvironment& environment) {
 }
 
 void GeneralFolders::add(const QString& folder) {
-    if (const auto path = Windows::DrivePath::parse(folder)) {
+    if (const auto path = Recordings::DrivePath::parse(folder)) {
         m_folders.insert(foldedPath(*path));
     }
 }
 
-bool GeneralFolders::contains(const Windows::DrivePath& folder) const {
+bool GeneralFolders::contains(const Recordings::DrivePath& folder) const {
     const QString path = foldedPath(folder);
     const QString below = path.mid(3); // the drive
     const auto holds = [&path](const QString& known) { return isWithin(path, known); };

@@ -19,7 +19,7 @@ public:
     /// Does nothing with a path that has no drive letter.
     void add(const QString& folder);
 
-    bool contains(const Windows::DrivePath& folder) const;
+    bool contains(const Recordings::DrivePath& folder) const;
 
 private:
     bool isOfProfile(const QString& path) const;

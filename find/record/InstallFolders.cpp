@@ -28,41 +28,44 @@ QString folderOfProbe(const QString& path) {
 
 class ExecutableWalk {
 public:
-    ExecutableWalk(DriveRecord& drives, Progress& progress)
+    ExecutableWalk(Recordings::Drives& drives, Progress& progress)
         : m_drives(drives)
         , m_progress(progress) {}
 
-    void walk(const Windows::DrivePath& folder, bool isDeep);
+    void walk(const Recordings::DrivePath& folder, bool isDeep);
 
 private:
-    void visit(const Windows::DrivePath& folder, bool isDeep);
+    void visit(const Recordings::DrivePath& folder, bool isDeep);
 
-    DriveRecord& m_drives;
+    Recordings::Drives& m_drives;
     Progress& m_progress;
-    std::vector<Windows::DrivePath> m_pending;
+    std::vector<Recordings::DrivePath> m_pending;
     int m_visited = 0;
 };
 
-void ExecutableWalk::walk(const Windows::DrivePath& folder, bool isDeep) {
+void ExecutableWalk::walk(const Recordings::DrivePath& folder, bool isDeep) {
     m_pending.push_back(folder);
     while (!m_pending.empty()) {
-        const Windows::DrivePath next = m_pending.back();
+        const Recordings::DrivePath next = m_pending.back();
         m_pending.pop_back();
         visit(next, isDeep);
     }
 }
 
-void ExecutableWalk::visit(const Windows::DrivePath& folder, bool isDeep) {
+void ExecutableWalk::visit(const Recordings::DrivePath& folder, bool isDeep) {
     m_progress.step(++m_visited, 0, folder.text());
+    QStringList executables;
     for (const Platform::FolderEntry& entry : listFolder(folder.text())) {
-        const Windows::DrivePath path = pathIn(folder, entry.name);
+        const Recordings::DrivePath path = pathIn(folder, entry.name);
         if (isDeep && isRealFolder(entry)) {
             m_pending.push_back(path);
         }
         if ((entry.attributes & Platform::attributeFolder) == 0 && isExecutableName(entry.name)) {
-            m_drives.addFile(path);
-            m_drives.spell(path);
+            executables.append(entry.name);
         }
+    }
+    if (!executables.isEmpty()) {
+        m_drives.list(folder, executables, Recordings::File::Kind::File);
     }
 }
 
@@ -86,7 +89,7 @@ void InstallFolders::add(const TraceEvent& event) {
     }
     const QString path = exists->path;
     const QString folder = folderOfProbe(path);
-    std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(folder.isEmpty() ? path : folder);
+    std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(folder.isEmpty() ? path : folder);
     if (!folder.isEmpty() && !parsed && isSeparator(folder.at(0))) {
         m_networkFolders.append(folder);
     }
@@ -102,7 +105,8 @@ void InstallFolders::add(const TraceEvent& event) {
     m_folders.emplace(foldedPath(*parsed), *parsed);
 }
 
-void InstallFolders::listExecutables(const GeneralFolders& general, DriveRecord& drives, Progress& progress) const {
+void InstallFolders::listExecutables(const GeneralFolders& general, Recordings::Drives& drives,
+                                     Progress& progress) const {
     ExecutableWalk walk(drives, progress);
     QStringList walked; // those with all that is below them
     for (const auto& [folded, folder] : m_folders) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "find/explain/TraceReader.h"
-#include "find/record/DriveRecord.h"
 #include "find/record/GeneralFolders.h"
+#include "recordings/Drives.h"
 
 #include <QString>
 #include <QStringList>
@@ -22,13 +22,13 @@ public:
 
     /// Adds the names of the executables below all folders, links not followed. Of a folder that holds more than a game
     /// or two only those directly in it.
-    void listExecutables(const GeneralFolders& general, DriveRecord& drives, Progress& progress) const;
+    void listExecutables(const GeneralFolders& general, Recordings::Drives& drives, Progress& progress) const;
 
     /// The folders, on no drive with a letter, in which games may be.
     const QStringList& networkFolders() const { return m_networkFolders; }
 
 private:
-    std::map<QString, Windows::DrivePath> m_folders; // by folded path, so that folders come before those below them
+    std::map<QString, Recordings::DrivePath> m_folders; // by folded path, so that folders come before those below them
     QStringList m_networkFolders;
 };
 

@@ -12,12 +12,10 @@ namespace {
 constexpr int partsOfFullName = 5;
 
 QStringList registeredFullNames() {
-    const QString path = QStringLiteral(R"(Software\Classes\Local Settings\Software\Microsoft\Windows\CurrentVersion)"
-                                        R"(\AppModel\Repository\Packages)");
     QStringList names;
     Platform::KeyHandle key;
-    if (Platform::openKey(Platform::RootKey::CurrentUser, path, Platform::keyRead | Platform::keyWow64_64Key, key) !=
-        Platform::errorSuccess) {
+    if (Platform::openKey(Platform::RootKey::CurrentUser, packagesKey(), Platform::keyRead | Platform::keyWow64_64Key,
+                          key) != Platform::errorSuccess) {
         return names;
     }
     for (quint32 index = 0;; ++index) {
@@ -33,6 +31,11 @@ QStringList registeredFullNames() {
 }
 
 } // namespace
+
+QString packagesKey() {
+    return QStringLiteral(R"(Software\Classes\Local Settings\Software\Microsoft\Windows\CurrentVersion)"
+                          R"(\AppModel\Repository\Packages)");
+}
 
 QString familyOfPackage(const QString& fullName) {
     const QStringList parts = fullName.split(QLatin1Char('_'));

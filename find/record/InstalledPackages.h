@@ -9,6 +9,9 @@ namespace Host {
 /// system's package functions say.
 QStringList installedPackageFamilies();
 
+/// The key, below HKEY_CURRENT_USER, whose sub-keys are named after the packages.
+QString packagesKey();
+
 /// "Maker.Game_1.2.3.0_x64__hash" belongs to "Maker.Game_hash". Empty when that is no package's full name.
 QString familyOfPackage(const QString& fullName);
 

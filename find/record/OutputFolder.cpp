@@ -1,7 +1,6 @@
 #include "find/record/OutputFolder.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace Host {
@@ -34,19 +33,6 @@ OutputFolder::~OutputFolder() {
             QDir().mkpath(m_folder);
         }
     }
-}
-
-bool OutputFolder::write(const QString& name, const QByteArray& contents) const {
-    const QString path = m_folder + QLatin1Char('/') + name;
-    if (!QDir().mkpath(QFileInfo(path).path())) {
-        return false;
-    }
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush();
-}
-
-bool OutputFolder::makeFolder(const QString& name) const {
-    return QDir().mkpath(m_folder + QLatin1Char('/') + name);
 }
 
 } // namespace Host

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 
@@ -13,10 +12,8 @@ public:
     OutputFolder(const QString& folder, QString& fault);
     ~OutputFolder();
 
-    /// Writes a file and makes the folders on the way. False when that failed.
-    bool write(const QString& name, const QByteArray& contents) const;
-
-    bool makeFolder(const QString& name) const;
+    /// The folder's full path.
+    const QString& path() const { return m_folder; }
 
     void keep() { m_isToBeRemoved = false; }
 

@@ -1,18 +1,23 @@
 #include "find/record/PcRecord.h"
 
 #include "find/cli/Progress.h"
+#include "find/record/PcFacts.h"
+#include "find/record/RegistryRecord.h"
+#include "find/record/UsedParts.h"
 #include "platform/Process.h"
+#include "recordings/ShellLink.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <optional>
 
 namespace Host {
 
 namespace {
+
+using Kind = Recordings::File::Kind;
 
 QByteArray contentsOf(const QString& path) {
     QFile file(path);
@@ -29,12 +34,12 @@ PcRecord::PcRecord(const TraceEvents& events, Progress& progress) {
     int done = 0;
     for (const TraceEvent& event : events) {
         progress.step(++done, static_cast<int>(events.size()), QStringLiteral("what was read"));
-        m_registry.add(event);
-        m_facts.add(event);
+        addToRegistry(event, m_pc.registry);
+        addFact(event, m_pc);
         m_installFolders.add(event);
         addFiles(event);
     }
-    m_installFolders.listExecutables(general, m_drives, progress);
+    m_installFolders.listExecutables(general, m_pc.drives, progress);
     for (const QString& folder : m_installFolders.networkFolders()) {
         if (QFileInfo(folder).isDir()) {
             leaveOut(folder);
@@ -48,54 +53,68 @@ void PcRecord::addFiles(const TraceEvent& event) {
             addExisting(exists->path);
         }
     } else if (const auto* const list = std::get_if<Trace::List>(&event)) {
-        addListing(list->path, {}, list->names);
+        addListing({list->path, {}, list->names, {}, {}});
     } else if (const auto* const walk = std::get_if<Trace::Walk>(&event)) {
-        addListing(walk->path, walk->folders, walk->files);
+        addListing(*walk);
     } else if (const auto* const read = std::get_if<Trace::Read>(&event)) {
-        const std::optional<Windows::DrivePath> path = Windows::DrivePath::parse(read->path);
-        if (path && path->isValid && QFileInfo(read->path).isFile()) {
-            m_drives.addContents(*path, contentsOf(read->path));
-        }
+        addContents(read->path);
     } else if (const auto* const shortcut = std::get_if<Trace::Shortcut>(&event)) {
-        const std::optional<Windows::DrivePath> path = Windows::DrivePath::parse(shortcut->path);
-        if (path && path->isValid) {
-            m_drives.addShortcut(*path, shortcut->target);
-        }
+        addShortcut(*shortcut);
     }
 }
 
 void PcRecord::addExisting(const QString& path) {
-    const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path);
+    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
     if (!parsed || !parsed->isValid) {
         leaveOut(path);
-    } else if (m_drives.entries().count(foldedPath(*parsed)) == 0) {
-        if (QFileInfo(path).isDir()) {
-            m_drives.addFolder(*parsed);
-        } else {
-            m_drives.addFile(*parsed);
-        }
+    } else if (!m_pc.drives.find(*parsed)) {
+        m_pc.drives.make(*parsed, QFileInfo(path).isDir() ? Kind::Folder : Kind::File);
     }
 }
 
-void PcRecord::addListing(const QString& path, const QStringList& folders, const QStringList& files) {
-    const std::optional<Windows::DrivePath> folder = Windows::DrivePath::parse(path);
+void PcRecord::addListing(const Trace::Walk& listing) {
+    const std::optional<Recordings::DrivePath> folder = Recordings::DrivePath::parse(listing.path);
     if (!folder || !folder->isValid) {
-        if (!files.isEmpty()) {
-            leaveOut(path);
+        if (!listing.files.isEmpty()) {
+            leaveOut(listing.path);
         }
         return;
     }
     if (!QFileInfo(folder->text()).isDir()) {
         return;
     }
-    m_drives.addFolder(*folder);
-    for (const QString& name : folders) {
-        m_drives.addFolder(pathIn(*folder, name));
-        m_drives.spell(pathIn(*folder, name));
+    m_pc.drives.list(*folder, listing.files, Kind::File);
+    m_pc.drives.list(*folder, listing.folders, Kind::Folder);
+    const auto mark = [&](const QStringList& names, bool Recordings::File::*attribute) {
+        for (const QString& name : names) {
+            if (Recordings::File* const file = m_pc.drives.find(pathIn(*folder, name))) {
+                file->*attribute = true;
+            }
+        }
+    };
+    mark(listing.hidden, &Recordings::File::isHidden);
+    mark(listing.system, &Recordings::File::isSystem);
+}
+
+void PcRecord::addContents(const QString& path) {
+    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
+    if (!parsed || !parsed->isValid || !QFileInfo(path).isFile()) {
+        return;
     }
-    for (const QString& name : files) {
-        m_drives.addFile(pathIn(*folder, name));
-        m_drives.spell(pathIn(*folder, name));
+    const QByteArray contents = contentsOf(path);
+    const std::optional<QByteArray> used = usedContents(path, contents, [](const QString& text) { return text; });
+    m_pc.drives.make(*parsed, Kind::File).contents = used.value_or(QByteArray());
+    if (!used) {
+        leaveOut(path);
+    }
+}
+
+void PcRecord::addShortcut(const Trace::Shortcut& shortcut) {
+    const std::optional<Recordings::DrivePath> path = Recordings::DrivePath::parse(shortcut.path);
+    if (path && path->isValid) {
+        const QString target = QString(shortcut.target).replace(QLatin1Char('/'), QLatin1Char('\\'));
+        m_pc.drives.make(*path, Kind::File).contents =
+            target.isEmpty() ? QByteArray() : Recordings::renderShellLink(target);
     }
 }
 
@@ -103,14 +122,6 @@ void PcRecord::leaveOut(const QString& path) {
     if (!m_leftOut.contains(path)) {
         m_leftOut.append(path);
     }
-}
-
-int PcRecord::executableCount() const {
-    const auto isExecutable = [](const auto& entry) {
-        return entry.second.kind == DriveRecord::Kind::File && isExecutableName(entry.second.name);
-    };
-    const auto& entries = m_drives.entries();
-    return static_cast<int>(std::count_if(entries.begin(), entries.end(), isExecutable));
 }
 
 } // namespace Host

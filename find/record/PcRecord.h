@@ -1,10 +1,8 @@
 #pragma once
 
 #include "find/explain/TraceReader.h"
-#include "find/record/DriveRecord.h"
 #include "find/record/InstallFolders.h"
-#include "find/record/PcFacts.h"
-#include "find/record/RegistryRecord.h"
+#include "recordings/Pc.h"
 
 #include <QStringList>
 
@@ -12,33 +10,28 @@ namespace Host {
 
 class Progress;
 
-/// All that a recording takes from a PC, under its real names.
+/// What finders use of a PC, under its real names.
 class PcRecord {
 public:
-    /// Takes what the trace tells, and from the PC the contents of the files that finders read and the names of
+    /// Takes what the trace tells, and from the PC what finders use of the files that they read, and the names of
     /// executables in the folders in which they looked.
     PcRecord(const TraceEvents& events, Progress& progress);
 
-    const RegistryRecord& registry() const { return m_registry; }
+    const Recordings::Pc& pc() const { return m_pc; }
 
-    const DriveRecord& drives() const { return m_drives; }
-
-    const PcFacts& facts() const { return m_facts; }
-
-    /// What exists and could not be taken, as it is on no drive with a letter.
+    /// What exists and could not be taken: it is on no drive with a letter, or a file of which nobody knows what
+    /// finders use.
     const QStringList& leftOut() const { return m_leftOut; }
-
-    int executableCount() const;
 
 private:
     void addFiles(const TraceEvent& event);
     void addExisting(const QString& path);
-    void addListing(const QString& path, const QStringList& folders, const QStringList& files);
+    void addListing(const Trace::Walk& listing);
+    void addContents(const QString& path);
+    void addShortcut(const Trace::Shortcut& shortcut);
     void leaveOut(const QString& path);
 
-    RegistryRecord m_registry;
-    DriveRecord m_drives;
-    PcFacts m_facts;
+    Recordings::Pc m_pc;
     InstallFolders m_installFolders;
     QStringList m_leftOut;
 };

@@ -1,12 +1,13 @@
 #include "find/record/PrivateNames.h"
 
+#include "find/cli/Environment.h"
 #include "platform/Process.h"
-#include "platform/Recording.h"
 #include "recordings/DrivePath.h"
 #include "recordings/WindowsNames.h"
 
 #include <QHash>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 #include <QSysInfo>
 
 #include <algorithm>
@@ -19,92 +20,22 @@ namespace {
 
 constexpr int shortestName = 3;
 constexpr int mostNumbers = 100;
+constexpr const char* usualProfilesFolder = "Users";
 
-/// Words of the folders, files and texts that finders ask for. What they ask of the registry says the trace.
-constexpr const char* placeWords[] = {"Program Files",
-                                      "Program",
-                                      "Files",
-                                      "ProgramData",
-                                      "Windows",
-                                      "System32",
-                                      "SysWOW64",
-                                      "Users",
-                                      "Public",
-                                      "Default",
-                                      "AppData",
-                                      "Local",
-                                      "LocalLow",
-                                      "Roaming",
-                                      "Documents",
-                                      "Start Menu",
-                                      "Programs",
-                                      "Common Files",
-                                      "Games",
-                                      "Steam",
-                                      "steamapps",
-                                      "common",
-                                      "appmanifest",
-                                      "acf",
-                                      "libraryfolders",
-                                      "vdf",
-                                      "libraries",
-                                      "apps",
-                                      "path",
-                                      "label",
-                                      "config",
-                                      "Software",
-                                      "Manifests",
-                                      "json",
-                                      "mini",
-                                      "Support",
-                                      "oculus-runtime",
-                                      "LibOVRRT64_1",
-                                      "Oculus",
-                                      "Epic",
-                                      "Epic Games",
-                                      "EpicGamesLauncher",
-                                      "Launcher",
-                                      "Data",
-                                      "item",
-                                      "bin",
-                                      "win32",
-                                      "win64",
-                                      "vrmonitor",
-                                      "vrserver",
-                                      "uninstall",
-                                      "unins000",
-                                      "exe",
-                                      "com",
-                                      "bat",
-                                      "cmd",
-                                      "dll",
-                                      "lnk",
-                                      "Volume",
-                                      "AppName",
-                                      "DisplayName",
-                                      "InstallLocation",
-                                      "LaunchExecutable",
-                                      "LaunchCommand",
-                                      "CatalogNamespace",
-                                      "CatalogItemId",
-                                      "true",
-                                      "false",
-                                      "null"};
+/// Folders beside the users' profiles that are Windows' own.
+constexpr const char* sharedProfiles[] = {"Public", "Default", "Default User", "All Users"};
 
 QString lastNameOf(const QString& path) {
-    const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path);
+    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
     return parsed ? parsed->names.value(parsed->names.size() - 1) : QString();
 }
 
 bool isWordOfPlaces(const QString& name, const QStringList& places) {
     const QString shortForm = shortFormOf(name);
-    const auto clashes = [&](const QString& place) {
+    return std::any_of(places.begin(), places.end(), [&](const QString& place) {
         const bool sameShortForm = !shortForm.isEmpty() && shortFormOf(place) == shortForm;
         return containsWord(place, name) || sameShortForm;
-    };
-    const bool isFixed = std::any_of(std::begin(placeWords), std::end(placeWords),
-                                     [&](const char* word) { return clashes(QString::fromLatin1(word)); });
-    return isFixed || std::any_of(places.begin(), places.end(), clashes);
+    });
 }
 
 /// Whether two paths that differ would be one with the neutral names. (A name and its short form never differ.)
@@ -117,8 +48,8 @@ bool mergesPaths(const std::vector<PrivateName>& names, const QString& profilesF
     const NeutralNames longForms(kept, profilesFolder);
     QHash<QString, QString> pathsByNeutral;
     for (const QString& path : paths) {
-        const QString before = Windows::foldName(longForms.text(path));
-        const QString after = Windows::foldName(neutral.text(path));
+        const QString before = Recordings::foldName(longForms.text(path));
+        const QString after = Recordings::foldName(neutral.text(path));
         const auto known = pathsByNeutral.constFind(after);
         if (known == pathsByNeutral.constEnd()) {
             pathsByNeutral.insert(after, before);
@@ -127,6 +58,45 @@ bool mergesPaths(const std::vector<PrivateName>& names, const QString& profilesF
         }
     }
     return false;
+}
+
+/// The folder of the user's profile, of which the shell's folders are part; empty when none tells it.
+QString profileAmong(const QMap<int, QString>& shellFolders) {
+    for (const QString& folder : shellFolders) {
+        std::optional<Recordings::DrivePath> path = Recordings::DrivePath::parse(folder);
+        const QStringList names = path ? path->names : QStringList();
+        int size = static_cast<int>(
+            names.indexOf(QRegularExpression(QStringLiteral("appdata"), QRegularExpression::CaseInsensitiveOption)));
+        if (size < 0 && names.value(0).compare(QLatin1String(usualProfilesFolder), Qt::CaseInsensitive) == 0) {
+            size = 2;
+        }
+        if (size >= 2) {
+            path->names = names.mid(0, size);
+            return path->text();
+        }
+    }
+    return {};
+}
+
+/// The folders beside the user's profile that the texts name, but for Windows' own and those with neutral names.
+QStringList otherUsers(const RecordedTexts& texts, const QString& profilesFolder) {
+    const QRegularExpression profile(
+        QStringLiteral("[\\\\/]%1[\\\\/]+([^\\\\/:*?\"<>|]+)").arg(QRegularExpression::escape(profilesFolder)),
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression neutral(QStringLiteral("^user(-[0-9]+)?$"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    QStringList users;
+    for (const QString& text : texts.paths + texts.others) {
+        const QString name = profile.match(text).captured(1);
+        const bool isShared = std::any_of(std::begin(sharedProfiles), std::end(sharedProfiles), [&](const char* known) {
+            return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
+        });
+        if (!name.isEmpty() && !isShared && !neutral.match(name).hasMatch() &&
+            !users.contains(name, Qt::CaseInsensitive)) {
+            users.append(name);
+        }
+    }
+    return users;
 }
 
 /// The names in the order in which they are given neutral ones, each once.
@@ -152,13 +122,15 @@ std::vector<PrivateName> privateNames(const NameSources& sources, const QStringL
 
 } // namespace
 
-NameSources nameSources() {
+NameSources nameSources(const Recordings::Pc& pc) {
     const QProcessEnvironment environment = Platform::systemEnvironment();
     NameSources sources = {environment.value(QStringLiteral("USERNAME")),
                            environment.value(QStringLiteral("USERPROFILE")),
                            {environment.value(QStringLiteral("COMPUTERNAME"))}};
-    const bool isPcItself = !Recording::problems(QString());
-    if (isPcItself) {
+    if (sources.profile.isEmpty()) {
+        sources.profile = profileAmong(pc.shellFolders);
+    }
+    if (isPcItself()) {
         sources.machine.append(QSysInfo::machineHostName());
     }
     return sources;
@@ -167,20 +139,38 @@ NameSources nameSources() {
 std::vector<PrivateName> choosePrivateNames(const NameSources& sources, const RecordedTexts& texts) {
     const QString profilesFolder = profilesFolderName(sources);
     std::vector<PrivateName> chosen;
-    for (PrivateName& name : privateNames(sources, texts.places)) {
+    const auto choose = [&](PrivateName name, int number) {
         const QString base = name.neutral;
         chosen.push_back(name);
-        for (int number = 2; number <= mostNumbers && mergesPaths(chosen, profilesFolder, texts.paths); ++number) {
-            chosen.back().neutral = base + QLatin1Char('-') + QString::number(number);
+        const auto setNumber = [&] { chosen.back().neutral = base + QLatin1Char('-') + QString::number(number); };
+        if (number > 1) {
+            setNumber();
+        }
+        while (number < mostNumbers && mergesPaths(chosen, profilesFolder, texts.paths)) {
+            ++number;
+            setNumber();
+        }
+        return number;
+    };
+    for (const PrivateName& name : privateNames(sources, texts.places)) {
+        choose(name, 1);
+    }
+    const NeutralNames known(chosen, profilesFolder);
+    int number = 1;
+    for (const QString& user : otherUsers(texts, profilesFolder)) {
+        const QString folder = profilesFolder + QLatin1Char('\\') + user;
+        const QString path = QLatin1String("C:\\") + folder;
+        if (known.text(path) == path) {
+            number = choose({user, QStringLiteral("user"), false}, number + 1);
         }
     }
     return chosen;
 }
 
 QString profilesFolderName(const NameSources& sources) {
-    const std::optional<Windows::DrivePath> profile = Windows::DrivePath::parse(sources.profile);
+    const std::optional<Recordings::DrivePath> profile = Recordings::DrivePath::parse(sources.profile);
     return profile && profile->names.size() > 1 ? profile->names.at(profile->names.size() - 2)
-                                                : QStringLiteral("Users");
+                                                : QString::fromLatin1(usualProfilesFolder);
 }
 
 } // namespace Host

@@ -6,11 +6,14 @@
 #include "find/cli/Console.h"
 #include "find/cli/Progress.h"
 #include "find/explain/PluginTrace.h"
-#include "find/record/OutputFolder.h"
+#include "find/record/NeutralPc.h"
+#include "find/record/OutputFile.h"
+#include "find/record/PcRecord.h"
 #include "find/record/Questions.h"
 #include "find/record/RecordedTexts.h"
 #include "find/record/RecordingSummary.h"
-#include "find/record/RecordingWriter.h"
+#include "find/record/SystemCodePage.h"
+#include "recordings/PcFile.h"
 
 #include <new>
 
@@ -46,48 +49,45 @@ PcRecord collect(const TraceEvents& events) {
     return PcRecord(events, progress);
 }
 
-ExitStatus write(const PcRecord& record, const std::vector<PrivateName>& names, const NeutralNames& neutral,
-                 const Options& options, OutputFolder& folder) {
-    QString fault;
-    QStringList leftOut = record.leftOut();
-    Progress progress(QStringLiteral("writing"));
-    const bool isWritten = writeRecording(record, neutral, folder, progress, fault, leftOut);
-    progress.finish();
-    if (!isWritten) {
-        return fail(QStringLiteral("%1: %2 cannot be written").arg(options.folder, fault));
+ExitStatus write(const Recordings::Pc& pc, const QStringList& leftOut, const std::vector<PrivateName>& names,
+                 bool areNamesKept, OutputFile& file) {
+    if (!file.write(Recordings::renderPcFile(pc))) {
+        return fail(QStringLiteral("%1: the file cannot be written").arg(file.name()));
     }
-    folder.keep();
     for (const QString& note : describeLosses(leftOut, names)) {
         Console::complain(note);
     }
-    return Console::print(summarize(record, names, options)) ? allFound
-                                                             : fail(QStringLiteral("the summary could not be written"));
+    return Console::print(summarize(pc, names, file.name(), areNamesKept))
+               ? allFound
+               : fail(QStringLiteral("the summary could not be written"));
 }
 
 } // namespace
 
-ExitStatus recordPc(const Options& options, const Catalogue& games) {
+ExitStatus recordPc(const Options& options, const Catalogue& games, const Recordings::Pc* chosen) {
     QString fault;
-    OutputFolder folder(options.folder, fault);
+    OutputFile file(options.folder, fault);
     if (!fault.isEmpty()) {
         return fail(fault);
     }
-    const PluginTrace trace;
-    fault = askPlugin(options.plugin, games, trace);
-    if (!fault.isEmpty()) {
-        return fail(fault);
+    TraceEvents events;
+    {
+        const PluginTrace trace;
+        fault = askPlugin(options.plugin, games, trace);
+        events = trace.events();
     }
-    const TraceEvents events = trace.events();
-    if (events.empty()) {
-        return fail(QStringLiteral("the plug-in did not tell what it read"));
+    if (!fault.isEmpty() || events.empty()) {
+        return fail(fault.isEmpty() ? QStringLiteral("the plug-in did not tell what it read") : fault);
     }
     const PcRecord record = collect(events);
-    const NameSources sources = nameSources();
-    const std::vector<PrivateName> names = options.keepNames
-                                               ? std::vector<PrivateName>()
-                                               : choosePrivateNames(sources, collectTexts(events, games, record));
-    const NeutralNames neutral(names, profilesFolderName(sources));
-    return write(record, names, neutral, options, folder);
+    const NameSources sources = nameSources(record.pc());
+    const std::vector<PrivateName> names =
+        options.keepNames
+            ? std::vector<PrivateName>()
+            : choosePrivateNames(sources, collectTexts(events, games, record.pc(), profilesFolderName(sources)));
+    Recordings::Pc pc = neutralPc(record.pc(), NeutralNames(names, profilesFolderName(sources)));
+    pc.codePage = chosen ? chosen->codePage : systemCodePage();
+    return write(pc, record.leftOut(), names, options.keepNames, file);
 }
 
 } // namespace Host

@@ -2,12 +2,14 @@
 
 #include "find/catalogue/Catalogue.h"
 #include "find/cli/Program.h"
+#include "recordings/Pc.h"
 
 namespace Host {
 
 struct Options;
 
-/// Records the PC that the plug-in answers from into the folder that the options name.
-ExitStatus recordPc(const Options& options, const Catalogue& games);
+/// Records the PC that the plug-in answers from into the file that the options name. `chosen` is the recorded PC that
+/// it answers from, null for the PC itself.
+ExitStatus recordPc(const Options& options, const Catalogue& games, const Recordings::Pc* chosen);
 
 } // namespace Host

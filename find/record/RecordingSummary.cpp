@@ -1,9 +1,10 @@
 #include "find/record/RecordingSummary.h"
 
-#include "find/cli/CommandLine.h"
 #include "find/cli/OneLine.h"
+#include "find/record/InstallFolders.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -15,19 +16,37 @@ QString counted(int count, const char* one, const char* many) {
     return QString::number(count) + QLatin1Char(' ') + QLatin1String(count == 1 ? one : many);
 }
 
-QString describeDrives(const PcRecord& record) {
-    using Kind = DriveRecord::Kind;
-    const DriveRecord& drives = record.drives();
-    const int read = drives.count(Kind::ReadFile);
-    const int shortcuts = drives.count(Kind::Shortcut);
+QString describeDrives(const Recordings::Drives& drives) {
+    int folders = 0;
+    int files = 0;
+    int executables = 0;
+    int shortcuts = 0;
+    int contents = 0;
+    drives.visit([&](const Recordings::DrivePath&, const Recordings::File& file) {
+        const bool isShortcut = file.name.endsWith(QLatin1String(".lnk"));
+        (file.isFolder() ? folders : files) += 1;
+        executables += !file.isFolder() && isExecutableName(file.name) ? 1 : 0;
+        shortcuts += !file.isFolder() && isShortcut ? 1 : 0;
+        contents += file.contents.size() > 0 && !isShortcut ? 1 : 0;
+    });
     const QStringList parts = {
-        counted(drives.count(Kind::Folder), "folder", "folders"),
-        counted(drives.count(Kind::File) + read + shortcuts, "file name", "file names") +
-            QStringLiteral(" (%1)").arg(counted(record.executableCount(), "executable", "executables")),
+        counted(folders, "folder", "folders"),
+        counted(files, "file name", "file names") +
+            QStringLiteral(" (%1)").arg(counted(executables, "executable", "executables")),
         counted(shortcuts, "shortcut", "shortcuts"),
-        QLatin1String("the contents of ") + counted(read, "file", "files"),
+        QLatin1String("the contents of ") + counted(contents, "file", "files"),
     };
     return parts.join(QLatin1String(", "));
+}
+
+QString describeRegistry(const Recordings::Registry& registry) {
+    int keys = 0;
+    int values = 0;
+    registry.visit([&](Recordings::RegKey::Root, const QStringList&, const Recordings::RegistryNode& key) {
+        keys += key.values().empty() && !key.children().empty() ? 0 : 1;
+        values += static_cast<int>(key.values().size());
+    });
+    return counted(keys, "key", "keys") + QLatin1String(", ") + counted(values, "value", "values");
 }
 
 QString describeNames(const std::vector<PrivateName>& names, bool areKept) {
@@ -46,9 +65,9 @@ QString line(const char* title, const QString& text) {
     return QString::asprintf("  %-16s", title) + oneLine(text) + QLatin1Char('\n');
 }
 
-/// How the folder is called where it is replayed. Only its name goes with it when it leaves Windows.
-QString folderElsewhere(const QString& folder) {
-    return QDir::separator() == QLatin1Char('\\') ? QDir(folder).dirName() : folder;
+/// How the file is called where it is replayed. Only its name goes with it when it leaves Windows.
+QString fileElsewhere(const QString& file) {
+    return QDir::separator() == QLatin1Char('\\') ? QFileInfo(file).fileName() : file;
 }
 
 /// As a shell wants it: within quotes when it has anything but letters, digits and a few signs.
@@ -64,17 +83,14 @@ QString shellWord(const QString& text) {
 
 } // namespace
 
-QString summarize(const PcRecord& record, const std::vector<PrivateName>& names, const Options& options) {
-    const RegistryRecord& registry = record.registry();
-    return QStringLiteral("Recorded into %1:\n").arg(oneLine(options.folder)) +
-           line("registry", counted(static_cast<int>(registry.keys().size()), "key", "keys") + QLatin1String(", ") +
-                                counted(registry.valueCount(), "value", "values")) +
-           line("drives", describeDrives(record)) +
-           line("app packages", QString::number(record.facts().packageCount())) +
-           line("user's choices", QString::number(record.facts().userLocationCount())) +
-           line("names", describeNames(names, options.keepNames)) +
-           QStringLiteral("Replay it on Linux with: ./run --pc %1\n")
-               .arg(shellWord(oneLine(folderElsewhere(options.folder))));
+QString summarize(const Recordings::Pc& pc, const std::vector<PrivateName>& names, const QString& file,
+                  bool areNamesKept) {
+    const int packages = pc.packages ? static_cast<int>(pc.packages->size()) : 0;
+    return QStringLiteral("Recorded into %1:\n").arg(oneLine(file)) + line("registry", describeRegistry(pc.registry)) +
+           line("drives", describeDrives(pc.drives)) + line("app packages", QString::number(packages)) +
+           line("user's choices", QString::number(pc.userLocations.size())) +
+           line("names", describeNames(names, areNamesKept)) +
+           QStringLiteral("Replay it on Linux with: ./run --pc %1\n").arg(shellWord(oneLine(fileElsewhere(file))));
 }
 
 QStringList describeLosses(const QStringList& leftOut, const std::vector<PrivateName>& names) {

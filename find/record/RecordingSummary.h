@@ -1,7 +1,7 @@
 #pragma once
 
-#include "find/record/PcRecord.h"
 #include "find/record/PrivateNames.h"
+#include "recordings/Pc.h"
 
 #include <QString>
 #include <QStringList>
@@ -10,10 +10,9 @@
 
 namespace Host {
 
-struct Options;
-
 /// What a recording took, for who made it: some lines of text.
-QString summarize(const PcRecord& record, const std::vector<PrivateName>& names, const Options& options);
+QString summarize(const Recordings::Pc& pc, const std::vector<PrivateName>& names, const QString& file,
+                  bool areNamesKept);
 
 /// What could not be recorded, and which names could not be replaced everywhere, one line each.
 QStringList describeLosses(const QStringList& leftOut, const std::vector<PrivateName>& names);

@@ -5,36 +5,11 @@
 #include "support/Logger.h"
 #include "support/Paths.h"
 #include "support/Trace.h"
+#include "support/UninstallCommand.h"
 
 #include <algorithm>
 
 namespace Finders {
-
-namespace {
-
-/// What stands in the uninstall commands that name no program in the game's folder.
-const QLatin1String uselessCommands[] = {
-    QLatin1String("MsiExec.exe"),
-    QLatin1String("Package Cache"),
-    QLatin1String("steam://uninstall"),
-};
-
-bool namesUninstaller(const QString& command) {
-    return !command.isEmpty() &&
-           std::none_of(std::begin(uselessCommands), std::end(uselessCommands),
-                        [&command](QLatin1String useless) { return command.contains(useless, Qt::CaseInsensitive); });
-}
-
-/// The quoted program that the command begins with. A command without quotes is taken whole, its arguments included.
-QString programOf(const QString& command) {
-    if (!command.startsWith(QLatin1Char('"'))) {
-        return command;
-    }
-    const QString unquoted = command.mid(1);
-    return unquoted.left(unquoted.indexOf(QLatin1Char('"')));
-}
-
-} // namespace
 
 UninstallFinder::UninstallFinder(Logger* logger, UninstallIndex* index, const QString& displayName,
                                  const QStringList& executables, int matchMode)
@@ -72,11 +47,11 @@ bool UninstallFinder::findInInstallLocation(const UninstallEntry& entry, GameLoc
 }
 
 bool UninstallFinder::findBesideUninstaller(const UninstallEntry& entry, GameLocation& location) const {
-    if (!namesUninstaller(entry.uninstallString)) {
+    if (entry.uninstallString.isEmpty() || !UninstallCommand::uselessPartOf(entry.uninstallString).isEmpty()) {
         Trace::note("%ls names no uninstaller in the game's folder.", qUtf16Printable(entry.keyPath));
         return false;
     }
-    resetLocation(location, Paths::absoluteFolderOf(programOf(entry.uninstallString)));
+    resetLocation(location, Paths::absoluteFolderOf(UninstallCommand::programOf(entry.uninstallString)));
     const QStringList found = collectExecutables(location, location.installFolder, m_executables);
     for (const QString& executable : found) {
         logger().logAlways("Uninstall: Found %ls", qUtf16Printable(executable));

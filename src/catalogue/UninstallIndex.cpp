@@ -3,6 +3,7 @@
 #include "support/Logger.h"
 #include "support/RegistryKey.h"
 #include "support/Trace.h"
+#include "support/UninstallCommand.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ bool tellsAPlace(const UninstallEntry& entry) {
 UninstallEntry readEntry(const QString& keyPath, quint32 hive, quint32 view) {
     RegistryKey key = RegistryKey::open(keyPath, hive, view);
     return {keyPath, key.text(QStringLiteral("DisplayName")), key.text(QStringLiteral("InstallLocation")),
-            key.text(QStringLiteral("UninstallString"))};
+            key.text(UninstallCommand::valueName)};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "steam/SteamLibraryFolders.h"
 
 #include "support/Files.h"
+#include "support/ForeignFiles.h"
 #include "support/Paths.h"
 #include "support/Text.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 /// The path in a line `"path"  "D:\\SteamLibrary"`, its backslashes left doubled; empty in any other line.
 std::optional<QString> libraryIn(const QString& line) {
-    const QLatin1String key("\"path\"");
+    const QLatin1String key = ForeignFiles::SteamLibraryFolders::pathKey;
     const QString trimmed = line.trimmed();
     if (!trimmed.startsWith(key)) {
         return std::nullopt;

@@ -3,6 +3,7 @@
 #include "steam/SteamLibraryFolders.h"
 #include "steam/SteamLocator.h"
 #include "support/Files.h"
+#include "support/ForeignFiles.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
 #include "support/Trace.h"
@@ -13,7 +14,7 @@ namespace {
 QStringList libraryFolders(const QString& steam) {
     const QString main = Paths::absoluteFolderOf(steam) + QLatin1String("/steamapps");
     QStringList folders{main};
-    folders += parseLibraryFolders(main + QLatin1String("/libraryfolders.vdf"));
+    folders += parseLibraryFolders(main + QLatin1String("/") + ForeignFiles::SteamLibraryFolders::fileName);
     folders.removeDuplicates();
     return folders;
 }

@@ -1,6 +1,7 @@
 #include "stores/EpicManifest.h"
 
 #include "stores/EpicManifestIndex.h"
+#include "support/ForeignFiles.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -11,7 +12,10 @@ std::optional<EpicAppEntry> parseEpicManifest(const QByteArray& json) {
         return std::nullopt;
     }
     const QJsonObject manifest = document.object();
-    const auto text = [&manifest](const char* name) { return manifest.value(QLatin1String(name)).toString(); };
-    return EpicAppEntry{text("AppName"),     text("LaunchExecutable"), text("LaunchCommand"), text("InstallLocation"),
-                        text("DisplayName"), text("CatalogNamespace"), text("CatalogItemId")};
+    const auto text = [&manifest](QLatin1String name) { return manifest.value(name).toString(); };
+    namespace Members = ForeignFiles::EpicManifest;
+    return EpicAppEntry{text(Members::appName),       text(Members::launchExecutable),
+                        text(Members::launchCommand), text(Members::installLocation),
+                        text(Members::displayName),   text(Members::catalogNamespace),
+                        text(Members::catalogItemId)};
 }

@@ -51,12 +51,14 @@ std::u16string copied(const char16_t* text) {
 }
 
 /// The buffer begins with pointers to the IDs, which follow them.
-std::u16string firstId(const std::vector<uchar>& buffer) {
+std::vector<std::u16string> idsIn(const std::vector<uchar>& buffer, quint32 count) {
+    std::vector<std::u16string> ids;
     const char16_t* id = nullptr;
-    if (buffer.size() >= sizeof id) {
-        std::memcpy(&id, buffer.data(), sizeof id);
+    for (std::size_t i = 0; i < count && buffer.size() >= (i + 1) * sizeof id; ++i) {
+        std::memcpy(&id, buffer.data() + i * sizeof id, sizeof id);
+        ids.push_back(copied(id));
     }
-    return copied(id);
+    return ids;
 }
 
 } // namespace
@@ -88,6 +90,11 @@ std::u16string packageFullNameOf(const std::u16string& family, const PackageFunc
 }
 
 std::u16string applicationIdOf(const std::u16string& fullName, const PackageFunctions& functions) {
+    const std::vector<std::u16string> ids = applicationIdsOf(fullName, functions);
+    return ids.empty() ? std::u16string() : ids.front();
+}
+
+std::vector<std::u16string> applicationIdsOf(const std::u16string& fullName, const PackageFunctions& functions) {
     if (fullName.empty() || functions.openPackageInfoByFullName == nullptr || functions.closePackageInfo == nullptr ||
         functions.getPackageApplicationIds == nullptr) {
         return {};
@@ -105,5 +112,5 @@ std::u16string applicationIdOf(const std::u16string& fullName, const PackageFunc
 
     std::vector<uchar> buffer(length);
     const qint32 result = functions.getPackageApplicationIds(package.get(), &length, buffer.data(), &count);
-    return result == PackageFunctions::errorSuccess && count > 0 ? firstId(buffer) : std::u16string();
+    return result == PackageFunctions::errorSuccess && count > 0 ? idsIn(buffer, count) : std::vector<std::u16string>();
 }

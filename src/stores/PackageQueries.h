@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 #include <string>
+#include <vector>
 
 /// The system's functions about app packages, as learn.microsoft.com/windows/win32/api/appmodel documents them. One
 /// that the system lacks is null.
@@ -33,6 +34,9 @@ PackageFunctions systemPackageFunctions();
 /// know packages.
 std::u16string packageFullNameOf(const std::u16string& family, const PackageFunctions& functions);
 
-/// The user model ID of the first application in a package. Empty when there is none, and when the system does not
-/// know packages.
+/// The user model IDs of the applications in a package. Empty when there is none, and when the system does not know
+/// packages.
+std::vector<std::u16string> applicationIdsOf(const std::u16string& fullName, const PackageFunctions& functions);
+
+/// The first of them, or an empty text.
 std::u16string applicationIdOf(const std::u16string& fullName, const PackageFunctions& functions);

@@ -5,12 +5,14 @@
 #include "support/Logger.h"
 #include "support/Trace.h"
 
+#include <QJsonArray>
+
 namespace Finders {
 
 namespace {
 
-void tellPackage(const QString& family, bool isSupported, const QString& fullName, const QString& applicationId) {
-    Trace::tell([&] { return Trace::Package{family, isSupported, fullName, applicationId}; });
+void tellPackage(const QString& family, bool isSupported, const QString& fullName, const QStringList& applicationIds) {
+    Trace::tell([&] { return Trace::Package{family, isSupported, fullName, applicationIds}; });
 }
 
 } // namespace
@@ -24,12 +26,16 @@ bool UniversalAppFinder::find(GameLocation& location) {
     const QString fullName = QString::fromStdU16String(packageFullNameOf(m_packageFamily, functions));
     const QString family = QString::fromStdU16String(m_packageFamily);
     if (fullName.isEmpty()) {
-        tellPackage(family, functions.getPackagesByPackageFamily != nullptr, fullName, QString());
+        tellPackage(family, functions.getPackagesByPackageFamily != nullptr, fullName, {});
         logger().logAlways("UAPP: Not found '%ls'", qUtf16Printable(family));
         return false;
     }
-    const QString appId = QString::fromStdU16String(applicationIdOf(fullName.toStdU16String(), functions));
-    tellPackage(family, true, fullName, appId);
+    QStringList appIds;
+    for (const std::u16string& id : applicationIdsOf(fullName.toStdU16String(), functions)) {
+        appIds.append(QString::fromStdU16String(id));
+    }
+    tellPackage(family, true, fullName, appIds);
+    const QString appId = appIds.value(0);
     logger().logAlways("UAPP: Checking '%ls' '%ls'", qUtf16Printable(fullName), qUtf16Printable(appId));
     if (appId.isEmpty()) {
         return false;

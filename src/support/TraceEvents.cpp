@@ -106,7 +106,7 @@ void list(Package& event, Fields& fields) {
     fields("family", event.family);
     fields("supported", event.supported);
     fields("fullName", event.fullName);
-    fields("applicationId", event.applicationId);
+    fields("applicationIds", event.applicationIds);
 }
 
 template <class Fields>

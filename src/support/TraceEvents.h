@@ -115,7 +115,7 @@ struct Package {
     QString family;
     bool supported = false; ///< whether this Windows knows packages
     QString fullName;       ///< empty when it is not installed
-    QString applicationId;
+    QStringList applicationIds;
 };
 
 struct UserLocation {

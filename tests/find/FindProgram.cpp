@@ -1,7 +1,7 @@
 #include "FindProgram.h"
 
 #include "common/QtPrinters.h"
-#include "platform/Recording.h"
+#include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ QString textOf(const QByteArray& utf8) {
 FindProgram::FindProgram()
     : m_folder(QDir::tempPath() + QStringLiteral("/finde-Käfer-XXXXXX")) {
     EXPECT_TRUE(m_folder.isValid()) << m_folder.errorString().toStdString();
-    m_environment.remove(QString::fromLatin1(Recording::environmentVariable));
+    m_environment.remove(QString::fromLatin1(Recordings::environmentVariable));
     for (const char* const variable : {"COLUMNS", "NO_COLOR", "TERM"}) { // the wishes of who runs the tests
         m_environment.remove(QString::fromLatin1(variable));
     }

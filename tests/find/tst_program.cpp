@@ -1,7 +1,9 @@
 #include "FindProgram.h"
 
 #include "common/QtPrinters.h"
-#include "platform/Recording.h"
+#include "find/cli/Environment.h"
+#include "recordings/PcFile.h"
+#include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +33,7 @@ void expectRefusal(const FindRun& run, const QString& complaint) {
 }
 
 bool worldKnowsRecordings() {
-    return Recording::problems(QDir::tempPath()).has_value();
+    return !Host::isPcItself();
 }
 
 TEST(Program, TheExitStatusTellsWhetherAllWereFound) {
@@ -180,7 +182,7 @@ TEST(Program, ARecordedPcWithProblemsStillAnswers) {
     EXPECT_EQ(chosen.output, program.run({catalogue}).output);
     EXPECT_TRUE(chosen.errors.startsWith("luruludri-find: " + folder + "/pc.json:")) << chosen.errors.toStdString();
 
-    program.setVariable(Recording::environmentVariable, folder);
+    program.setVariable(Recordings::environmentVariable, folder);
     EXPECT_EQ(program.run({catalogue}).errors, chosen.errors);
     EXPECT_EQ(program.run({catalogue}).exitStatus, 2);
 }
@@ -192,13 +194,29 @@ TEST(Program, ARecordedPcThatIsMissingIsTold) {
     FindProgram program;
     const QString catalogue = program.file("games.json", twoGames);
     const QString missing = program.folder() + "/kein Käfer";
-    expectComplaint(program.run({"--pc", missing, catalogue}), missing + ": no such folder");
-    expectComplaint(program.run({"--pc", catalogue, catalogue}), catalogue + ": no such folder");
+    expectComplaint(program.run({"--pc", missing, catalogue}), missing + ": no such file or folder");
+    expectComplaint(program.run({"--pc", catalogue, catalogue}), catalogue + ": no recorded PC here");
 
-    program.setVariable(Recording::environmentVariable, missing);
-    expectComplaint(program.run({catalogue}), missing + ": no such folder");
-    program.setVariable(Recording::environmentVariable, "");
+    program.setVariable(Recordings::environmentVariable, missing);
+    expectComplaint(program.run({catalogue}), missing + ": no such file or folder");
+    program.setVariable(Recordings::environmentVariable, "");
     EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
+}
+
+TEST(Program, ARecordedPcThatLiesALevelDeeperIsNamed) {
+    if (!worldKnowsRecordings()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    program.file("nest/my-pc/pc.json", "{}");
+    const QString nest = program.folder() + "/nest";
+    expectComplaint(program.run({"--pc", nest, catalogue}),
+                    nest + ": no recorded PC here; did you mean " + nest + "/my-pc?");
+    program.file("nest/sent.json", Recordings::renderPcFile({}));
+    expectComplaint(program.run({"--pc", nest, catalogue}),
+                    nest + ": no recorded PC here; did you mean " + nest + "/my-pc or " + nest + "/sent.json?");
+    EXPECT_EQ(program.run({"--pc", nest + "/sent.json", catalogue}).errors, "");
 }
 
 TEST(Program, WithoutRecordingsAskingForOneIsRefused) {
@@ -210,7 +228,7 @@ TEST(Program, WithoutRecordingsAskingForOneIsRefused) {
     expectComplaint(program.run({"--pc", program.folder(), catalogue}),
                     "luruludri-find: --pc: this build answers from the PC it runs on");
 
-    program.setVariable(Recording::environmentVariable, program.folder());
+    program.setVariable(Recordings::environmentVariable, program.folder());
     EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
 }
 

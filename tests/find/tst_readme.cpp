@@ -1,7 +1,7 @@
 #include "FindProgram.h"
 
 #include "common/QtPrinters.h"
-#include "platform/Recording.h"
+#include "find/cli/Environment.h"
 
 #include <gtest/gtest.h>
 
@@ -28,21 +28,21 @@ void expectShown(const QStringList& arguments) {
 }
 
 TEST(Readme, ShowsWhatTheProgramPrintsOfTheSamples) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     expectShown({LURULUDRI_SAMPLES "/catalogue.json"});
 }
 
 TEST(Readme, ShowsWhatIsExplainedOfAGameOfTheSamples) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     expectShown({"explain", "Tiefseelicht", LURULUDRI_SAMPLES "/catalogue.json"});
 }
 
 TEST(Readme, ShowsWhatIsSaidOfARecordingOfTheSamples) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     expectShown({"record", "my-pc", LURULUDRI_SAMPLES "/catalogue.json"});

@@ -1,7 +1,8 @@
 #include "FindProgram.h"
 
 #include "common/QtPrinters.h"
-#include "platform/Recording.h"
+#include "find/cli/Environment.h"
+#include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +31,7 @@ QMap<QString, QString> foldersOf(const FindRun& run) {
 }
 
 TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -43,7 +44,7 @@ TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
 }
 
 TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -63,7 +64,7 @@ TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
 }
 
 TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -78,7 +79,7 @@ TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
 }
 
 TEST(Samples, HaveAllRuntimes) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -94,12 +95,12 @@ TEST(Samples, HaveAllRuntimes) {
 }
 
 TEST(Samples, HaveAGameThatTheUserCanLocate) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
     program.setVariable("XDG_DATA_HOME", program.folder());
-    program.setVariable(Recording::environmentVariable, LURULUDRI_SAMPLES "/pc");
+    program.setVariable(Recordings::environmentVariable, LURULUDRI_SAMPLES "/pc");
     const QString catalogue = LURULUDRI_SAMPLES "/catalogue.json";
     const FindRun located = program.runBare({"locate", "moosgarten", "D:\\Eigene Spiele\\Moosgarten\\bin", catalogue});
     EXPECT_EQ(located.output, "moosgarten: D:/Eigene Spiele/Moosgarten\n") << located.errors.toStdString();
@@ -109,7 +110,7 @@ TEST(Samples, HaveAGameThatTheUserCanLocate) {
 }
 
 TEST(Samples, HaveAGameWithTwoExecutables) {
-    if (!Recording::problems(LURULUDRI_SAMPLES "/pc")) {
+    if (Host::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;

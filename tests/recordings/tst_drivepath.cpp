@@ -6,7 +6,7 @@
 
 namespace {
 
-using Windows::DrivePath;
+using Recordings::DrivePath;
 
 /// The path taken apart and put together again; "(none)" without a drive, "(bad)" when no file can have the name.
 QString parsed(const QString& path) {

@@ -6,9 +6,9 @@
 
 namespace {
 
-using Recorded::JsonFault;
-using Recorded::JsonValue;
-using Recorded::parseJson;
+using Recordings::JsonFault;
+using Recordings::JsonValue;
+using Recordings::parseJson;
 
 JsonValue read(const QByteArray& json) {
     JsonFault fault;

@@ -7,9 +7,9 @@
 
 namespace {
 
-using Recorded::RegFile;
-using Recorded::RegKey;
-using Recorded::RegValue;
+using Recordings::RegFile;
+using Recordings::RegKey;
+using Recordings::RegValue;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -24,7 +24,7 @@ QByteArray stored(const QString& text) {
 }
 
 RegFile parse(const QByteArray& bytes) {
-    return Recorded::parseRegFile(bytes, "test.reg");
+    return Recordings::parseRegFile(bytes, "test.reg");
 }
 
 /// The file of a header and, from line 2 on, `lines`.
@@ -34,7 +34,7 @@ RegFile read(const QByteArray& lines) {
 
 std::vector<QString> problems(const RegFile& file) {
     std::vector<QString> texts;
-    for (const Recording::Problem& problem : file.problems) {
+    for (const Recordings::Problem& problem : file.problems) {
         EXPECT_EQ(problem.file, "test.reg");
         texts.push_back(QString("%1: %2").arg(problem.line).arg(problem.message));
     }
@@ -285,7 +285,7 @@ TEST(RegFileTest, ReadsAFileThatIsCutAnywhere) {
     for (int size = 0; size < whole.size(); ++size) {
         const RegFile cut = parse(whole.left(size));
         EXPECT_LE(cut.problems.size(), 1U) << size;
-        for (const Recording::Problem& problem : cut.problems) {
+        for (const Recordings::Problem& problem : cut.problems) {
             EXPECT_GE(problem.line, 1) << size;
         }
     }

@@ -16,7 +16,8 @@ class RegistryViewTest : public ::testing::Test {
 protected:
     void record(const QByteArray& lines) {
         pc.registry(lines);
-        EXPECT_THAT(pc.choose()->problems(), IsEmpty());
+        pc.choose();
+        EXPECT_THAT(Recordings::readRecording(pc.path({})).problems, IsEmpty());
     }
 
     RecordingFolder pc;

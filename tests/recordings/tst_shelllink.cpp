@@ -12,8 +12,8 @@
 
 namespace {
 
-using Recorded::parseShellLink;
-using Recorded::ShellLink;
+using Recordings::parseShellLink;
+using Recordings::ShellLink;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 

@@ -7,15 +7,15 @@
 
 namespace {
 
-using Windows::RegistryView;
+using Recordings::RegistryView;
 
 /// Where the machine's key lies that a program of the other view asks for.
 QString machine32(const QString& path) {
-    return Windows::storedMachinePath(path.split('\\'), RegistryView::Bits32).join('\\');
+    return Recordings::storedMachinePath(path.split('\\'), RegistryView::Bits32).join('\\');
 }
 
 QString machine64(const QString& path) {
-    return Windows::storedMachinePath(path.split('\\'), RegistryView::Bits64).join('\\');
+    return Recordings::storedMachinePath(path.split('\\'), RegistryView::Bits64).join('\\');
 }
 
 TEST(StoredPath, The32BitViewOfTheMachinesSoftwareIsATreeOfItsOwn) {
@@ -37,14 +37,14 @@ TEST(StoredPath, SharedKeysAreInOnePlace) {
 
 TEST(StoredPath, TheUsersSoftwareHasOneView) {
     const QStringList path{"Software", "X"};
-    EXPECT_EQ(Windows::storedUserPath(path, RegistryView::Bits32), path);
-    EXPECT_EQ(Windows::storedClassesPath({"steam"}, RegistryView::Bits32), QStringList{"steam"});
+    EXPECT_EQ(Recordings::storedUserPath(path, RegistryView::Bits32), path);
+    EXPECT_EQ(Recordings::storedClassesPath({"steam"}, RegistryView::Bits32), QStringList{"steam"});
 }
 
 TEST(FoldName, MakesEqualWhatWindowsCallsOneName) {
-    EXPECT_EQ(Windows::foldName("Käfer"), Windows::foldName("KÄFER"));
-    EXPECT_NE(Windows::foldName("ss"), Windows::foldName("ß"));
-    EXPECT_NE(Windows::foldName("i"), Windows::foldName("ı"));
+    EXPECT_EQ(Recordings::foldName("Käfer"), Recordings::foldName("KÄFER"));
+    EXPECT_NE(Recordings::foldName("ss"), Recordings::foldName("ß"));
+    EXPECT_NE(Recordings::foldName("i"), Recordings::foldName("ı"));
 }
 
 } // namespace

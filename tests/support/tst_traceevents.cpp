@@ -48,7 +48,7 @@ COMPARE_ALL(Shortcut, path, target)
 COMPARE_ALL(ShellFolder, csidl, path)
 COMPARE_ALL(Volume, drive, name)
 COMPARE_ALL(Environment, name, value)
-COMPARE_ALL(Package, family, supported, fullName, applicationId)
+COMPARE_ALL(Package, family, supported, fullName, applicationIds)
 COMPARE_ALL(UserLocation, key, path)
 COMPARE_ALL(Entry, name, folder)
 COMPARE_ALL(Log, logger, level, text)
@@ -87,7 +87,7 @@ const Case cases[] = {
     {Trace::Environment{"X", QString("")}, R"({"event":"environment","name":"X","value":""})"},
     {Trace::Environment{"X", std::nullopt}, R"({"event":"environment","name":"X"})"},
     {Trace::Package{"F", true, "F1", "F!A"},
-     R"({"applicationId":"F!A","event":"package","family":"F","fullName":"F1","supported":true})"},
+     R"({"applicationIds":["F!A","F!B"],"event":"package","family":"F","fullName":"F1","supported":true})"},
     {Trace::UserLocation{"wal", "D:\\Wal"}, R"({"event":"userLocation","key":"wal","path":"D:\\Wal"})"},
     {Trace::Entry{"Wal", "D:\\Wal"}, R"({"event":"entry","folder":"D:\\Wal","name":"Wal"})"},
     {Trace::Log{"Quorvan.X", "E", "a\nb"}, R"({"event":"log","level":"E","logger":"Quorvan.X","text":"a\nb"})"},

@@ -9,7 +9,7 @@ namespace {
 class DriveFileEngineHandler : public QAbstractFileEngineHandler {
 public:
     QAbstractFileEngine* create(const QString& path) const override {
-        if (!Windows::DrivePath::parse(path)) {
+        if (!Recordings::DrivePath::parse(path)) {
             return nullptr;
         }
         std::shared_ptr<const RecordedPc> pc = currentPc();
@@ -20,11 +20,11 @@ public:
 class Current {
 public:
     std::shared_ptr<const RecordedPc> pc() {
-        const QByteArray folder = qgetenv(Recording::environmentVariable);
+        const QByteArray path = qgetenv(Recordings::environmentVariable);
         const std::lock_guard<std::mutex> lock(m_mutex);
-        if (!m_pc || folder != m_folder) {
-            m_pc = folder.isEmpty() ? std::make_shared<RecordedPc>() : std::make_shared<RecordedPc>(folder);
-            m_folder = folder;
+        if (!m_pc || path != m_path) {
+            m_pc = path.isEmpty() ? std::make_shared<RecordedPc>() : std::make_shared<RecordedPc>(path);
+            m_path = path;
         }
         return m_pc;
     }
@@ -36,7 +36,7 @@ public:
 
 private:
     std::mutex m_mutex;
-    QByteArray m_folder;
+    QByteArray m_path;
     std::shared_ptr<const RecordedPc> m_pc;
 };
 

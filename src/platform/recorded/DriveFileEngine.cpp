@@ -10,8 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <unistd.h>
 
 namespace Recorded {
 
@@ -19,11 +17,6 @@ namespace {
 
 constexpr QLatin1Char slash('/');
 constexpr int rootLength = 3; // of "C:/"
-constexpr qint64 longestShortcut = qint64{1024} * 1024;
-
-qint64 milliseconds(const timespec& time) {
-    return qint64{time.tv_sec} * 1000 + time.tv_nsec / 1000000;
-}
 
 bool isExecutable(const QString& path) {
     static constexpr std::array suffixes = {".exe", ".com", ".bat", ".pif", ".cmd"};
@@ -40,8 +33,8 @@ DriveFileEngine::DriveFileEngine(std::shared_ptr<const RecordedPc> pc, const QSt
 }
 
 void DriveFileEngine::setFileName(const QString& path) {
-    m_path = Windows::Path(path).text();
-    m_parsed = Windows::DrivePath::parse(m_path).value_or(Windows::DrivePath{});
+    m_path = Recordings::Path(path).text();
+    m_parsed = Recordings::DrivePath::parse(m_path).value_or(Recordings::DrivePath{});
     m_subject.reset();
 }
 
@@ -61,30 +54,34 @@ const DriveFileEngine::Subject& DriveFileEngine::subject() const {
         if (subject.file) {
             subject.shortcutTarget = targetOf(*subject.file);
         }
-        subject.path = Windows::DrivePath::parse(subject.shortcutTarget).value_or(Windows::DrivePath{{}, {}, false});
+        subject.path =
+            Recordings::DrivePath::parse(subject.shortcutTarget).value_or(Recordings::DrivePath{{}, {}, false});
         subject.file = m_pc->drives().find(subject.path);
     }
     m_subject = std::move(subject);
     return *m_subject;
 }
 
-QString DriveFileEngine::targetOf(const Drives::File& shortcut) const {
-    const std::optional<QByteArray> bytes = HostFiles::readFile(shortcut.realPath, longestShortcut);
-    const std::optional<ShellLink> link = bytes ? parseShellLink(*bytes) : std::nullopt;
-    return link ? Recorded::targetOf(*link, m_pc->description().environment, Windows::Path::folderOf(m_parsed.text()))
+QString DriveFileEngine::targetOf(const Recordings::File& shortcut) const {
+    const std::optional<QByteArray> bytes = shortcut.contents.read();
+    const std::optional<Recordings::ShellLink> link =
+        bytes ? Recordings::parseShellLink(*bytes, m_pc->description().codePage) : std::nullopt;
+    return link ? Recordings::targetOf(*link, m_pc->description().environment,
+                                       Recordings::Path::folderOf(m_parsed.text()))
                 : QString();
 }
 
 bool DriveFileEngine::open(QIODevice::OpenMode mode) {
-    const std::optional<Drives::File> file = m_pc->drives().find(m_parsed);
+    const Recordings::File* const file = m_pc->drives().find(m_parsed);
     if (isObserved()) {
         observe(QLatin1String("open ") + m_parsed.text());
     }
     const bool isDenied = (file && file->isFolder()) || (mode & QIODevice::WriteOnly);
     if (!isDenied && file) {
-        m_file = HostFiles::openFile(file->realPath);
+        m_contents = file->contents.read();
+        m_position = 0;
     }
-    if (m_file.isOpen()) {
+    if (m_contents) {
         return true;
     }
     // The words of Windows, as they reach logs.
@@ -98,17 +95,17 @@ bool DriveFileEngine::open(QIODevice::OpenMode mode) {
     return false;
 }
 
-bool DriveFileEngine::isInFolder(Windows::DrivePath path) const {
+bool DriveFileEngine::isInFolder(Recordings::DrivePath path) const {
     if (!path.isRoot()) {
         path.names.removeLast();
         path.isFolderOnly = true;
     }
-    return m_pc->drives().find(path).has_value();
+    return m_pc->drives().find(path) != nullptr;
 }
 
 bool DriveFileEngine::close() {
-    const bool wasOpen = m_file.isOpen();
-    m_file.close();
+    const bool wasOpen = m_contents.has_value();
+    m_contents.reset();
     return wasOpen;
 }
 
@@ -117,36 +114,32 @@ bool DriveFileEngine::flush() {
 }
 
 qint64 DriveFileEngine::size() const {
-    struct stat info {};
-
-    if (m_file.isOpen() && ::fstat(m_file.get(), &info) == 0) {
-        return info.st_size;
+    if (m_contents) {
+        return m_contents->size();
     }
-    const std::optional<Drives::File>& file = subject().file;
-    return file && !file->isFolder() ? file->info.st_size : 0;
+    const Recordings::File* const file = subject().file;
+    return file ? file->contents.size() : 0;
 }
 
 qint64 DriveFileEngine::pos() const {
-    return ::lseek(m_file.get(), 0, SEEK_CUR);
+    return m_position;
 }
 
 bool DriveFileEngine::seek(qint64 position) {
-    return ::lseek(m_file.get(), position, SEEK_SET) == position;
+    m_position = position;
+    return true;
 }
 
 qint64 DriveFileEngine::read(char* data, qint64 length) {
-    ssize_t count = 0;
-    do {
-        count = ::read(m_file.get(), data, static_cast<size_t>(length));
-    } while (count < 0 && errno == EINTR);
-    if (count < 0) {
-        setError(QFile::ReadError, QStringLiteral("The file cannot be read."));
-    }
+    const qint64 rest = std::max<qint64>(0, m_contents->size() - m_position);
+    const qint64 count = std::min(length, rest);
+    std::copy_n(m_contents->constData() + std::min<qint64>(m_position, m_contents->size()), count, data);
+    m_position += count;
     return count;
 }
 
 QString DriveFileEngine::absoluteName() const {
-    return Windows::Path(m_path).absolute(currentDrive(*m_pc));
+    return Recordings::Path(m_path).absolute(currentDrive(*m_pc));
 }
 
 // Qt follows a shortcut but asks nobody how the names on the way are really spelled.
@@ -155,7 +148,7 @@ QString DriveFileEngine::canonicalName() const {
     if (!s.file) {
         return {};
     }
-    QString name = s.isShortcut ? Windows::Path(s.path.text()).absolute(s.path.letter) : absoluteName();
+    QString name = s.isShortcut ? Recordings::Path(s.path.text()).absolute(s.path.letter) : absoluteName();
     if (name.size() > rootLength && name.endsWith(slash)) {
         name.chop(1);
     }
@@ -167,15 +160,15 @@ QString DriveFileEngine::fileName(FileName part) const {
     case BaseName:
         return m_path.mid(m_path.lastIndexOf(slash) + 1);
     case PathName:
-        return Windows::Path::folderOf(m_path);
+        return Recordings::Path::folderOf(m_path);
     case AbsoluteName:
         return absoluteName();
     case AbsolutePathName:
-        return Windows::Path::folderOf(absoluteName());
+        return Recordings::Path::folderOf(absoluteName());
     case CanonicalName:
         return canonicalName();
     case CanonicalPathName:
-        return subject().file ? Windows::Path::folderOf(canonicalName()) : QStringLiteral(".");
+        return subject().file ? Recordings::Path::folderOf(canonicalName()) : QStringLiteral(".");
     case LinkName:
         return subject().shortcutTarget;
     case BundleName:
@@ -203,28 +196,19 @@ QAbstractFileEngine::FileFlags DriveFileEngine::fileFlags(FileFlags wanted) cons
         }
         if (m_path.size() <= rootLength) {
             flags |= RootFlag;
-        } else if (m_pc->drives().isHidden(s.path)) {
+        } else if (s.file->isHidden) {
             flags |= HiddenFlag;
         }
     }
     return flags & wanted;
 }
 
-QDateTime DriveFileEngine::fileTime(FileTime time) const {
-    const std::optional<Drives::File>& file = subject().file;
-    if (!file) {
-        return {};
-    }
-    return QDateTime::fromMSecsSinceEpoch(milliseconds(time == AccessTime ? file->info.st_atim : file->info.st_mtim));
+QDateTime DriveFileEngine::fileTime(FileTime /*time*/) const {
+    return {}; // which a recording has of no file
 }
 
 QByteArray DriveFileEngine::id() const {
-    const std::optional<Drives::File> file = m_pc->drives().find(m_parsed);
-    if (!file) {
-        return {};
-    }
-    return QByteArray::number(qulonglong{file->info.st_dev}, 16) + ':' +
-           QByteArray::number(qulonglong{file->info.st_ino}, 16);
+    return m_pc->drives().find(m_parsed) ? Recordings::foldedPath(m_parsed).toUtf8() : QByteArray();
 }
 
 QStringList DriveFileEngine::entryList(QDir::Filters filters, const QStringList& names) const {

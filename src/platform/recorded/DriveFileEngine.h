@@ -38,21 +38,22 @@ private:
     struct Subject {
         bool isShortcut = false;
         QString shortcutTarget;
-        Windows::DrivePath path;
-        std::optional<Drives::File> file;
+        Recordings::DrivePath path;
+        const Recordings::File* file = nullptr;
     };
 
     const Subject& subject() const;
-    bool isInFolder(Windows::DrivePath path) const;
-    QString targetOf(const Drives::File& shortcut) const;
+    bool isInFolder(Recordings::DrivePath path) const;
+    QString targetOf(const Recordings::File& shortcut) const;
     QString absoluteName() const;
     QString canonicalName() const;
 
     std::shared_ptr<const RecordedPc> m_pc;
     QString m_path; ///< with slashes
-    Windows::DrivePath m_parsed;
+    Recordings::DrivePath m_parsed;
     mutable std::optional<Subject> m_subject;
-    HostFiles::Descriptor m_file;
+    std::optional<QByteArray> m_contents; ///< while it is open
+    qint64 m_position = 0;
 };
 
 } // namespace Recorded

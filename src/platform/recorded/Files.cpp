@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Platform {
@@ -16,15 +17,16 @@ namespace {
 
 // A recorded PC is never written to, and without one there is no drive.
 bool isOnDrive(const QString& path) {
-    return Windows::DrivePath::parse(path).has_value();
+    return Recordings::DrivePath::parse(path).has_value();
 }
 
 } // namespace
 
 qint64 fileSize(const QString& path) {
-    if (const auto drivePath = Windows::DrivePath::parse(path)) {
-        const auto file = Recorded::currentPc()->drives().find(*drivePath);
-        return file ? (file->isFolder() ? 0 : file->info.st_size) : -1;
+    if (const auto drivePath = Recordings::DrivePath::parse(path)) {
+        const std::shared_ptr<const Recorded::RecordedPc> pc = Recorded::currentPc();
+        const Recordings::File* const file = pc->drives().find(*drivePath);
+        return file ? file->contents.size() : -1;
     }
 
     struct stat info {};

@@ -46,7 +46,7 @@ QString recordedUserLocation(const QString& key) {
     const auto pc = Recorded::currentPc();
     const QMap<QString, QString>& locations = pc->description().userLocations;
     const auto found = std::find_if(locations.keyBegin(), locations.keyEnd(), [&key](const QString& known) {
-        return Windows::foldName(known) == Windows::foldName(key);
+        return Recordings::foldName(known) == Recordings::foldName(key);
     });
     return found != locations.keyEnd() ? locations.value(*found) : QString();
 }

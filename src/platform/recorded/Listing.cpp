@@ -14,23 +14,18 @@ struct Listing {
     std::size_t next = 0;
 };
 
-// A link of the system that holds the recording counts as what it leads to.
-quint32 attributesOf(const Recorded::Drives& drives, const Windows::DrivePath& path) {
-    const std::optional<Recorded::Drives::File> file = drives.find(path);
-    return (file && file->isFolder() ? attributeFolder : 0U) | (drives.isHidden(path) ? attributeHidden : 0U) |
-           (drives.isSystem(path) ? attributeSystem : 0U);
+quint32 attributesOf(const Recordings::File& file) {
+    return (file.isFolder() ? attributeFolder : 0U) | (file.isHidden ? attributeHidden : 0U) |
+           (file.isSystem ? attributeSystem : 0U);
 }
 
-Entries entriesOf(const Recorded::Drives& drives, const Windows::DrivePath& folder) {
+Entries entriesOf(const Recordings::Drives& drives, const Recordings::DrivePath& folder) {
     Entries entries;
     if (!folder.isRoot()) {
         entries = {{QStringLiteral("."), attributeFolder}, {QStringLiteral(".."), attributeFolder}};
     }
-    for (QString& name : drives.list(folder)) {
-        Windows::DrivePath path = folder;
-        path.names.append(name);
-        path.isFolderOnly = false;
-        entries.push_back({std::move(name), attributesOf(drives, path)});
+    for (const QString& name : drives.list(folder)) {
+        entries.push_back({name, attributesOf(*drives.find(Recordings::pathIn(folder, name)))});
     }
     return entries;
 }
@@ -42,9 +37,9 @@ void ListingCloser::operator()(void* listing) const noexcept {
 }
 
 ListingHandle firstEntry(const QString& folder, FolderEntry& entry) {
-    const std::optional<Windows::DrivePath> path = Windows::DrivePath::parse(folder);
+    const std::optional<Recordings::DrivePath> path = Recordings::DrivePath::parse(folder);
     const std::shared_ptr<const Recorded::RecordedPc> pc = Recorded::currentPc();
-    const std::optional<Recorded::Drives::File> file = path ? pc->drives().find(*path) : std::nullopt;
+    const Recordings::File* const file = path ? pc->drives().find(*path) : nullptr;
     if (!file || !file->isFolder()) {
         return nullptr;
     }
@@ -66,13 +61,13 @@ bool nextEntry(const ListingHandle& listing, FolderEntry& entry) {
 }
 
 bool fileIdentity(const QString& path, FileIdentity& identity) {
-    const std::optional<Windows::DrivePath> parsed = Windows::DrivePath::parse(path);
-    const std::optional<Recorded::Drives::File> file =
-        parsed ? Recorded::currentPc()->drives().find(*parsed) : std::nullopt;
+    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
+    const std::shared_ptr<const Recorded::RecordedPc> pc = Recorded::currentPc();
+    const Recordings::File* const file = parsed ? pc->drives().find(*parsed) : nullptr;
     if (!file) {
         return false;
     }
-    identity = {file->info.st_dev, file->info.st_ino};
+    identity = {1, reinterpret_cast<std::uintptr_t>(file)};
     return true;
 }
 

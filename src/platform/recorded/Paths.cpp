@@ -10,7 +10,7 @@ namespace Platform {
 
 namespace {
 
-using Windows::Path;
+using Recordings::Path;
 
 constexpr QLatin1Char slash('/');
 
@@ -89,7 +89,7 @@ QChar pathSeparator() {
 }
 
 QString toNativeSeparators(const QString& path) {
-    return isReplay() ? Windows::withBackslashes(path) : QDir::toNativeSeparators(path);
+    return isReplay() ? Recordings::withBackslashes(path) : QDir::toNativeSeparators(path);
 }
 
 QString cleanPath(const QString& path) {

@@ -3,7 +3,7 @@
 namespace Recorded {
 
 QChar currentDrive(const RecordedPc& pc) {
-    const std::optional<Windows::DrivePath> host = Windows::DrivePath::parse(pc.description().hostExecutable);
+    const std::optional<Recordings::DrivePath> host = Recordings::DrivePath::parse(pc.description().hostExecutable);
     return host ? host->letter.toUpper() : QChar(u'C');
 }
 

@@ -1,6 +1,5 @@
 #include "platform/PlainFile.h"
 
-#include "platform/recorded/HostFiles.h"
 #include "recordings/DrivePath.h"
 
 #include <QFile>
@@ -9,12 +8,37 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace Platform {
 
 namespace {
 
-using Recorded::HostFiles::Descriptor;
+/// Owns a file descriptor.
+class Descriptor {
+public:
+    explicit Descriptor(int fd)
+        : m_fd(fd) {}
+
+    Descriptor(Descriptor&& other) noexcept
+        : m_fd(std::exchange(other.m_fd, -1)) {}
+
+    ~Descriptor() {
+        if (isOpen()) {
+            ::close(m_fd);
+        }
+    }
+
+    bool isOpen() const { return m_fd >= 0; }
+
+    int get() const { return m_fd; }
+
+private:
+    Q_DISABLE_COPY(Descriptor)
+    Descriptor& operator=(Descriptor&&) = delete;
+
+    int m_fd;
+};
 
 class DescriptorFile final : public PlainFile {
 public:
@@ -50,7 +74,7 @@ bool isPlain(const struct stat& info) {
 } // namespace
 
 std::unique_ptr<PlainFile> openPlainFile(const QString& path) {
-    if (Windows::DrivePath::parse(path)) { // a recorded PC is never written to
+    if (Recordings::DrivePath::parse(path)) { // a recorded PC is never written to
         return nullptr;
     }
     const QByteArray name = QFile::encodeName(path);

@@ -3,8 +3,7 @@
 #include "platform/recorded/Observer.h"
 #include "platform/recorded/RecordedPc.h"
 #include "recordings/AnsiText.h"
-
-#include <QtEndian>
+#include "recordings/Utf16Text.h"
 
 #include <cstring>
 #include <mutex>
@@ -20,7 +19,7 @@ constexpr quint32 regMultiSz = 7;
 
 struct OpenKey {
     std::shared_ptr<const Recorded::RecordedPc> pc; // owns what the layers point to
-    Recorded::RecordedRegistry::Layers layers;
+    Recordings::Registry::Layers layers;
     std::once_flag listed;
     std::vector<QString> subKeys;
 };
@@ -52,8 +51,8 @@ const char* rootName(RootKey root) {
     return "HKU";
 }
 
-Recorded::RegKey::Root rootOf(RootKey root) {
-    using Root = Recorded::RegKey::Root;
+Recordings::RegKey::Root rootOf(RootKey root) {
+    using Root = Recordings::RegKey::Root;
     switch (root) {
     case RootKey::LocalMachine:
         return Root::LocalMachine;
@@ -67,11 +66,11 @@ Recorded::RegKey::Root rootOf(RootKey root) {
     return Root::CurrentUser;
 }
 
-void observeKey(RootKey root, const QString& subKey, Windows::RegistryView view) {
+void observeKey(RootKey root, const QString& subKey, Recordings::RegistryView view) {
     if (!Recorded::isObserved()) {
         return;
     }
-    const QString bits = view == Windows::RegistryView::Bits32 ? QStringLiteral("32") : QString();
+    const QString bits = view == Recordings::RegistryView::Bits32 ? QStringLiteral("32") : QString();
     Recorded::observe(QLatin1String("key ") + QLatin1String(rootName(root)) + bits + QLatin1Char('\\') + subKey);
 }
 
@@ -102,17 +101,15 @@ void endText(const QByteArray& bytes, int unit, void* data, quint32 capacity) {
     }
 }
 
-QByteArray ansiText(const QByteArray& data) {
-    QString text(data.size() / 2, Qt::Uninitialized);
-    qFromLittleEndian<char16_t>(data.constData(), text.size(), text.data());
-    return Recorded::toAnsi(text);
+QByteArray ansiText(const QByteArray& data, int codePage) {
+    return Recordings::toAnsi(Recordings::fromUtf16(data), codePage);
 }
 
-const Recorded::RegistryNode::Value* find(const KeyHandle& key, const QString& name) {
+const Recordings::RegistryNode::Value* find(const KeyHandle& key, const QString& name) {
     if (Recorded::isObserved()) {
         Recorded::observe(QLatin1String("value ") + name);
     }
-    return Recorded::RecordedRegistry::value(opened(key).layers, name);
+    return Recordings::Registry::value(opened(key).layers, name);
 }
 
 } // namespace
@@ -124,7 +121,7 @@ void KeyCloser::operator()(void* key) const noexcept {
 ErrorCode openKey(RootKey root, const QString& subKey, quint32 access, KeyHandle& key) {
     key.reset();
     const QString path = terminated(subKey);
-    const auto view = (access & keyWow64_32Key) ? Windows::RegistryView::Bits32 : Windows::RegistryView::Bits64;
+    const auto view = (access & keyWow64_32Key) ? Recordings::RegistryView::Bits32 : Recordings::RegistryView::Bits64;
     observeKey(root, path, view);
     // Windows takes a backslash before the names in the one root that its kernel doesn't know.
     if (path.startsWith(QLatin1Char('\\')) && root != RootKey::ClassesRoot) {
@@ -149,7 +146,7 @@ ErrorCode queryValue(const KeyHandle& key, const QString& valueName, quint32& ty
     if (!key) {
         return errorInvalidHandle;
     }
-    const Recorded::RegistryNode::Value* const value = find(key, terminated(valueName));
+    const Recordings::RegistryNode::Value* const value = find(key, terminated(valueName));
     if (!value) {
         return errorFileNotFound;
     }
@@ -166,13 +163,13 @@ ErrorCode queryValueNarrow(const KeyHandle& key, const char* valueName, quint32&
     if (!key) {
         return errorInvalidHandle;
     }
-    const Recorded::RegistryNode::Value* const value = find(key, QString::fromLatin1(valueName));
+    const Recordings::RegistryNode::Value* const value = find(key, QString::fromLatin1(valueName));
     if (!value) {
         return errorFileNotFound;
     }
     type = value->type;
     const quint32 capacity = size;
-    const QByteArray bytes = isText(type) ? ansiText(value->data) : value->data;
+    const QByteArray bytes = isText(type) ? ansiText(value->data, opened(key).pc->description().codePage) : value->data;
     const ErrorCode result = store(bytes, data, size);
     if (result == errorSuccess && isText(type)) {
         endText(bytes, sizeof(char), data, capacity);
@@ -185,7 +182,7 @@ ErrorCode enumKey(const KeyHandle& key, quint32 index, char16_t* name, quint32& 
         return errorInvalidHandle;
     }
     OpenKey& open = opened(key);
-    std::call_once(open.listed, [&open] { open.subKeys = Recorded::RecordedRegistry::subKeys(open.layers); });
+    std::call_once(open.listed, [&open] { open.subKeys = Recordings::Registry::subKeys(open.layers); });
     if (index >= open.subKeys.size()) {
         return errorNoMoreItems;
     }

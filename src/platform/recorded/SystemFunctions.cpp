@@ -65,7 +65,7 @@ Result packagesByFamily(const char16_t* family, quint32* count, char16_t** fullN
         const auto pc = Recorded::currentPc();
         const QString wanted = QString::fromUtf16(family);
         QStringList names;
-        for (const Recorded::AppPackage& package : pc->description().packages.value_or(Recorded::AppPackages())) {
+        for (const Recordings::AppPackage& package : pc->description().packages.value_or(Recordings::AppPackages())) {
             if (package.family.compare(wanted, Qt::CaseInsensitive) == 0) {
                 names.append(package.fullName);
             }
@@ -92,7 +92,7 @@ Result openPackage(const char16_t* fullName, quint32 reserved, void** reference)
     return guarded([=] {
         const auto pc = Recorded::currentPc();
         const QString wanted = QString::fromUtf16(fullName);
-        for (const Recorded::AppPackage& package : pc->description().packages.value_or(Recorded::AppPackages())) {
+        for (const Recordings::AppPackage& package : pc->description().packages.value_or(Recordings::AppPackages())) {
             if (package.fullName.compare(wanted, Qt::CaseInsensitive) == 0) {
                 *reference = std::make_unique<PackageReference>(PackageReference{package.applicationIds}).release();
                 return successful;

@@ -52,7 +52,7 @@ public:
     void writeMark() noexcept { put(0xFEFF); }
 
     void write(std::string_view utf8) noexcept override {
-        Recorded::Utf8Reader reader(utf8);
+        Recordings::Utf8Reader reader(utf8);
         while (!reader.atEnd()) {
             const char32_t character = reader.next();
             if (character == U'\n') {
@@ -87,7 +87,7 @@ bool isEmpty(std::FILE* file) {
 } // namespace
 
 std::unique_ptr<TextStream> openShared(const QString& path, const char* mode) {
-    if (Windows::DrivePath::parse(path)) {
+    if (Recordings::DrivePath::parse(path)) {
         return nullptr;
     }
     const std::string_view wanted(mode);

@@ -29,10 +29,10 @@ struct FixedVersion {
 static_assert(sizeof(FixedVersion) == 52);
 
 bool isSameFile(const QString& a, const QString& b) {
-    const auto driveA = Windows::DrivePath::parse(a);
-    const auto driveB = Windows::DrivePath::parse(b);
+    const auto driveA = Recordings::DrivePath::parse(a);
+    const auto driveB = Recordings::DrivePath::parse(b);
     if (driveA && driveB) {
-        return Windows::foldName(driveA->text()) == Windows::foldName(driveB->text());
+        return Recordings::foldName(driveA->text()) == Recordings::foldName(driveB->text());
     }
     return a == b;
 }

@@ -5,10 +5,8 @@ target_sources(
             platform/recorded/CurrentPc.cpp
             platform/recorded/DriveFileEngine.cpp
             platform/recorded/DriveFolderIterator.cpp
-            platform/recorded/Drives.cpp
             platform/recorded/Files.cpp
             platform/recorded/Folders.cpp
-            platform/recorded/HostFiles.cpp
             platform/recorded/Listing.cpp
             platform/recorded/Locks.cpp
             platform/recorded/Observer.cpp
@@ -16,8 +14,6 @@ target_sources(
             platform/recorded/PcPaths.cpp
             platform/recorded/PlainFile.cpp
             platform/recorded/Process.cpp
-            platform/recorded/RecordedPc.cpp
-            platform/recorded/Recording.cpp
             platform/recorded/Registry.cpp
             platform/recorded/SystemFunctions.cpp
             platform/recorded/TextStream.cpp

@@ -4,7 +4,7 @@
 #include "common/QtPrinters.h"
 #include "common/recorded/QuestionsTest.h"
 #include "common/recorded/RecordingFolder.h"
-#include "platform/Recording.h"
+#include "recordings/Recording.h"
 
 #include <gmock/gmock.h>
 
@@ -30,7 +30,7 @@ TEST_F(GamesExplorerQuestionsTest, AKeyThatIsListedAndDoesNotOpenIsAnEntryAllThe
     const RecordingFolder empty;
     Recorded::setObserver([&empty](const QString& question) {
         if (question.endsWith("{a}")) { // it goes between the listing and its opening
-            qputenv(Recording::environmentVariable, empty.path({}));
+            qputenv(Recordings::environmentVariable, empty.path({}));
         }
     });
     GamesExplorerIndex index;

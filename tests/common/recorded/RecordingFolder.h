@@ -14,6 +14,7 @@ public:
     RecordingFolder();
     ~RecordingFolder();
 
+    /// The process then answers from the recording with the file.
     void file(const QByteArray& path, const QByteArray& contents = {});
     void folder(const QByteArray& path);
     void link(const QByteArray& path, const QByteArray& target);
@@ -21,7 +22,7 @@ public:
     /// Adds to registry/test.reg, whose header it writes.
     void registry(const QByteArray& lines);
 
-    void describe(const QByteArray& json) { file("pc.json", json); }
+    void describe(const QByteArray& json) { write("pc.json", json); }
 
     /// Reads the recording as it is now.
     std::shared_ptr<const Recorded::RecordedPc> choose();
@@ -29,6 +30,8 @@ public:
     QByteArray path(const QByteArray& below) const;
 
 private:
+    void write(const QByteArray& path, const QByteArray& contents);
+
     Q_DISABLE_COPY_MOVE(RecordingFolder)
 
     QTemporaryDir m_folder;

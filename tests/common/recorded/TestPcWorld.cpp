@@ -1,59 +1,76 @@
 #include "common/TestPc.h"
 
-#include "find/record/ShellLinkWriter.h"
 #include "platform/Folders.h"
-#include "platform/Recording.h"
 #include "platform/Registry.h"
+#include "recordings/PcJson.h"
+#include "recordings/Recording.h"
+#include "recordings/RegFileWriter.h"
+#include "recordings/RegValues.h"
+#include "recordings/ShellLink.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QMap>
 #include <QTemporaryDir>
-#include <QTextStream>
+#include <QtEndian>
 
-#include <vector>
-
-/// A recorded PC. The library reads a recording again only when another one is chosen, so each change of the registry
-/// makes a new one; the drives are one folder that all of them share.
+/// A recorded PC. The library reads a recording again only when another one is chosen, so that each change gives it
+/// another name.
 class TestPc::World {
 public:
     World() {
-        QJsonObject volumes;
         for (const QString drive : {"C", "D", "E"}) {
-            QDir().mkpath(m_folder.filePath("drives/" + drive));
-            volumes.insert(drive, volume(drive));
+            QDir().mkpath(realPath(drive + ":"));
+            m_pc.volumes.insert(drive.at(0), volume(drive));
         }
-        m_description.insert("volumes", volumes);
+        // The version is the one that the test programs have on Windows.
+        m_pc.hostExecutable = QCoreApplication::applicationFilePath();
+        m_pc.hostVersion = quint64{3} << 48U | quint64{1} << 32U | quint64{4159} << 16U | 65535U;
         qputenv("XDG_DATA_HOME", m_folder.filePath("data").toUtf8());
-        record();
+        describe();
     }
 
-    ~World() { qunsetenv(Recording::environmentVariable); }
+    ~World() { qunsetenv(Recordings::environmentVariable); }
 
-    void addToRegistry(const TestKey& key, const QString& line) {
-        m_registry += '[' + nameOf(key) + "]\r\n" + line + "\r\n";
-        record();
+    Recordings::Pc& pc() { return m_pc; }
+
+    Recordings::RegistryNode& key(const TestKey& key) {
+        const auto view = key.view != 0 ? Recordings::RegistryView::Bits32 : Recordings::RegistryView::Bits64;
+        return m_pc.registry.make(rootOf(key.root), key.path.split('\\', Qt::SkipEmptyParts), view);
     }
 
-    /// Adds to an object of pc.json.
-    void describe(const QString& object, const QString& name, const QString& value) {
-        QJsonObject members = m_description.value(object).toObject();
-        members.insert(name, value);
-        m_description.insert(object, members);
-        record();
+    void write(const QString& path, const QByteArray& contents) {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
+            qFatal("cannot write %s", qUtf8Printable(path));
+        }
+        file.close();
+        rename();
     }
 
-    /// Adds to a list of pc.json.
-    void describe(const QString& list, const QString& value) {
-        QJsonArray items = m_description.value(list).toArray();
-        items.append(value);
-        m_description.insert(list, items);
-        record();
+    void writeRegistry() {
+        QStringList leftOut;
+        write(m_folder.filePath("pc/registry/test.reg"), Recordings::renderRegFile(m_pc.registry, leftOut));
+    }
+
+    /// Writes pc.json.
+    void describe() {
+        Recordings::JsonValue json = Recordings::pcJson(m_pc);
+        json.items.push_back(m_hidden);
+        json.items.push_back(m_system);
+        write(m_folder.filePath("pc/pc.json"), Recordings::renderJson(json));
+    }
+
+    void hide(const QString& path) { m_hidden.items.push_back(Recordings::JsonValue::string({}, path)); }
+
+    void makeSystem(const QString& path) { m_system.items.push_back(Recordings::JsonValue::string({}, path)); }
+
+    void rename() {
+        const QString name = m_folder.filePath(QString::number(++m_names));
+        QFile::link(m_folder.filePath("pc"), name);
+        qputenv(Recordings::environmentVariable, name.toUtf8());
     }
 
     static QString volume(const QString& drive) {
@@ -62,75 +79,30 @@ public:
 
     QString realPath(const QString& path) const {
         QString below = path;
-        return m_folder.filePath("drives/" + below.remove(1, 1).replace('\\', '/'));
+        return m_folder.filePath("pc/drives/" + below.remove(1, 1).replace('\\', '/'));
     }
 
 private:
-    static QString nameOf(const TestKey& key) {
-        switch (key.root) {
+    static Recordings::RegKey::Root rootOf(Platform::RootKey root) {
+        switch (root) {
         case Platform::RootKey::CurrentUser:
-            return "HKEY_CURRENT_USER\\" + key.path;
+            return Recordings::RegKey::Root::CurrentUser;
         case Platform::RootKey::ClassesRoot:
-            return "HKEY_CLASSES_ROOT\\" + key.path;
+            return Recordings::RegKey::Root::ClassesRoot;
         case Platform::RootKey::Users:
-            return "HKEY_USERS\\" + key.path;
+            return Recordings::RegKey::Root::Users;
         case Platform::RootKey::LocalMachine:
             break;
         }
-        const QString software = "Software\\";
-        if (key.view != 0 && key.path.startsWith(software, Qt::CaseInsensitive)) {
-            return "HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\" + key.path.mid(software.size());
-        }
-        return "HKEY_LOCAL_MACHINE\\" + key.path;
-    }
-
-    void record() {
-        const QString recording = m_folder.filePath(QString::number(++m_recordings));
-        QDir().mkpath(recording + "/registry");
-        QFile::link(m_folder.filePath("drives"), recording + "/drives");
-        QFile file(recording + "/registry/test.reg");
-        if (!file.open(QIODevice::WriteOnly)) {
-            qFatal("cannot write the recorded PC");
-        }
-        QTextStream stream(&file);
-        stream.setCodec("UTF-16LE");
-        stream.setGenerateByteOrderMark(true);
-        stream << "Windows Registry Editor Version 5.00\r\n\r\n" << m_registry;
-        stream.flush();
-        writeDescription(recording + "/pc.json");
-        qputenv(Recording::environmentVariable, recording.toUtf8());
-    }
-
-    /// The rest of the PC. The version is the one that the test programs have on Windows.
-    void writeDescription(const QString& path) const {
-        QJsonObject description = m_description;
-        const QJsonObject host{{"executable", QCoreApplication::applicationFilePath()}, {"version", "3.1.4159.65535"}};
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly)) {
-            qFatal("cannot write the recorded PC");
-        }
-        description.insert("host", host);
-        file.write(QJsonDocument(description).toJson());
+        return Recordings::RegKey::Root::LocalMachine;
     }
 
     QTemporaryDir m_folder;
-    QString m_registry;
-    QJsonObject m_description;
-    int m_recordings = 0;
+    Recordings::Pc m_pc; ///< but for its drives, which are files from the beginning
+    Recordings::JsonValue m_hidden = Recordings::JsonValue::array("hidden");
+    Recordings::JsonValue m_system = Recordings::JsonValue::array("system");
+    int m_names = 0;
 };
-
-namespace {
-
-QString quoted(QString text) {
-    text.replace('\\', "\\\\").replace('"', "\\\"");
-    return '"' + text + '"';
-}
-
-QString nameInFile(const QString& name) {
-    return name.isEmpty() ? QString('@') : quoted(name);
-}
-
-} // namespace
 
 bool TestPc::mayBeChanged() {
     return true; // as it is made for the test
@@ -142,37 +114,36 @@ TestPc::TestPc()
 TestPc::~TestPc() = default;
 
 void TestPc::key(const TestKey& key) {
-    m_world->addToRegistry(key, {});
+    m_world->key(key);
+    m_world->writeRegistry();
 }
 
 void TestPc::value(const TestKey& key, const QString& name, const QString& text) {
-    m_world->addToRegistry(key, nameInFile(name) + '=' + quoted(text));
+    value(key, name, Recordings::RegType::string, Recordings::storedText(text));
 }
 
 void TestPc::number(const TestKey& key, const QString& name, quint32 number) {
-    m_world->addToRegistry(key, nameInFile(name) + "=dword:" + QString::asprintf("%08x", number));
+    QByteArray bytes(sizeof number, Qt::Uninitialized);
+    qToLittleEndian(number, bytes.data());
+    value(key, name, Recordings::RegType::dword, bytes);
 }
 
 void TestPc::value(const TestKey& key, const QString& name, quint32 type, const QByteArray& bytes) {
-    m_world->addToRegistry(key, nameInFile(name) + "=hex(" + QString::number(type, 16) +
-                                    "):" + QString::fromLatin1(bytes.toHex(',')));
+    m_world->key(key).apply({name, false, type, bytes});
+    m_world->writeRegistry();
 }
 
 void TestPc::file(const QString& path, const QByteArray& contents) {
-    const QString real = m_world->realPath(path);
-    QDir().mkpath(QFileInfo(real).path());
-    QFile file(real);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
-        qFatal("cannot write %s", qUtf8Printable(real));
-    }
+    m_world->write(m_world->realPath(path), contents);
 }
 
 void TestPc::folder(const QString& path) {
     QDir().mkpath(m_world->realPath(path));
+    m_world->rename();
 }
 
 void TestPc::shortcut(const QString& path, const QString& target) {
-    file(path, Host::shellLinkTo(target));
+    file(path, Recordings::renderShellLink(target));
 }
 
 void TestPc::link(const QString& path, const QString& folder) {
@@ -181,29 +152,32 @@ void TestPc::link(const QString& path, const QString& folder) {
     if (!QFile::link(m_world->realPath(folder), real)) {
         qFatal("cannot link %s", qUtf8Printable(real));
     }
+    m_world->rename();
 }
 
 void TestPc::removeFile(const QString& path) {
     QFile::remove(m_world->realPath(path));
+    m_world->rename();
 }
 
 void TestPc::hide(const QString& path) {
-    m_world->describe("hidden", path);
+    m_world->hide(path);
+    m_world->describe();
 }
 
 void TestPc::makeSystem(const QString& path) {
-    m_world->describe("system", path);
+    m_world->makeSystem(path);
+    m_world->describe();
 }
 
 void TestPc::shellFolder(int csidl, const QString& path) {
-    const QMap<int, QString> names{{Platform::csidlStartMenu, "startMenu"},
-                                   {Platform::csidlCommonStartMenu, "commonStartMenu"},
-                                   {Platform::csidlCommonAppData, "commonAppData"}};
-    m_world->describe("shellFolders", names[csidl], path);
+    m_world->pc().shellFolders.insert(csidl, path);
+    m_world->describe();
 }
 
 void TestPc::environment(const QString& name, const QString& value) {
-    m_world->describe("environment", name, value);
+    m_world->pc().environment.insert(name, value);
+    m_world->describe();
 }
 
 QString TestPc::volume(QChar drive) const {

@@ -39,11 +39,11 @@ TEST(EventText, NamesWhatIsInAFolder) {
 }
 
 TEST(EventText, SaysThatTheSystemKnowsNoPackages) {
-    EXPECT_EQ(describe(R"({"event":"package","family":"F","supported":false,"fullName":"","applicationId":""})"),
+    EXPECT_EQ(describe(R"({"event":"package","family":"F","supported":false,"fullName":"","applicationIds":[]})"),
               QStringList({"app package F: this Windows knows no app packages"}));
-    EXPECT_EQ(describe(R"({"event":"package","family":"F","supported":true,"fullName":"","applicationId":""})"),
+    EXPECT_EQ(describe(R"({"event":"package","family":"F","supported":true,"fullName":"","applicationIds":[]})"),
               QStringList({"app package F: not installed"}));
-    EXPECT_EQ(describe(R"({"event":"package","family":"F","supported":true,"fullName":"F1","applicationId":""})"),
+    EXPECT_EQ(describe(R"({"event":"package","family":"F","supported":true,"fullName":"F1","applicationIds":[]})"),
               QStringList({"app package F: F1, without an application"}));
 }
 

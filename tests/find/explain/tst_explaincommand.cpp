@@ -1,7 +1,7 @@
 #include "FindProgram.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
-#include "platform/Recording.h"
+#include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ constexpr const char* twoGames = R"({"games": [
 /// What the program explains of a game, with the real plug-in, over the PC under test.
 FindRun explain(FindProgram& program, const QStringList& arguments) {
     program.setVariable("XDG_DATA_HOME", program.folder());
-    program.setVariable(Recording::environmentVariable, qEnvironmentVariable(Recording::environmentVariable));
+    program.setVariable(Recordings::environmentVariable, qEnvironmentVariable(Recordings::environmentVariable));
     return program.runBare(QStringList{"explain"} + arguments);
 }
 

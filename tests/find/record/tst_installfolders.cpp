@@ -22,7 +22,7 @@ QProcessEnvironment environmentOf(std::initializer_list<std::pair<const char*, c
 }
 
 bool isGeneral(const GeneralFolders& folders, const QString& path) {
-    return folders.contains(*Windows::DrivePath::parse(path));
+    return folders.contains(*Recordings::DrivePath::parse(path));
 }
 
 TEST(GeneralFolders, AreThoseOfEveryWindows) {
@@ -71,19 +71,17 @@ protected:
     void probe(const QString& folder) { folders.add(TestTrace::exists(folder + '\\' + Host::probeName(), false)); }
 
     QStringList executables() {
-        Host::DriveRecord drives;
+        Recordings::Drives drives;
         Host::Progress progress(
             "testing", 0, [] { return qint64{0}; }, [](const QString&) {});
         folders.listExecutables(GeneralFolders(QProcessEnvironment()), drives, progress);
         QStringList files;
-        const QStringList paths = drives.paths();
-        int index = 0;
-        for (const auto& [folded, entry] : drives.entries()) {
-            const QString path = paths.at(index++);
-            if (entry.kind == Host::DriveRecord::Kind::File) {
-                files.append(path);
+        drives.visit([&files](const Recordings::DrivePath& path, const Recordings::File& file) {
+            if (!file.isFolder()) {
+                files.append(path.text());
             }
-        }
+        });
+        files.sort(Qt::CaseInsensitive);
         return files;
     }
 

@@ -6,29 +6,22 @@
 
 #include "common/QtPrinters.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 #include <gtest/gtest.h>
 
 #include <initializer_list>
 
 namespace {
 
-using Host::NeutralNames;
-using Host::PcFacts;
-
-QJsonObject render(std::initializer_list<Host::TraceEvent> events, const NeutralNames& names = {}) {
-    PcFacts facts;
+Recordings::Pc pcOf(std::initializer_list<Host::TraceEvent> events) {
+    Recordings::Pc pc;
     for (const Host::TraceEvent& one : events) {
-        facts.add(one);
+        Host::addFact(one, pc);
     }
-    return QJsonDocument::fromJson(facts.render(names)).object();
+    return pc;
 }
 
-TEST(PcFacts, HaveWhatTheTraceTells) {
-    const QJsonObject json = render({
+TEST(PcFacts, AreWhatTheTraceTells) {
+    const Recordings::Pc pc = pcOf({
         Trace::ShellFolder{11, "C:\\Users\\anna\\Start Menu"},
         Trace::ShellFolder{35, ""},
         Trace::ShellFolder{99, "C:\\x"},
@@ -39,49 +32,31 @@ TEST(PcFacts, HaveWhatTheTraceTells) {
         Trace::UserLocation{"WAL", "D:\\Wal"},
         Trace::UserLocation{"kein", ""},
     });
-    EXPECT_EQ(json, (QJsonObject{
-                        {"shellFolders", QJsonObject{{"startMenu", "C:\\Users\\anna\\Start Menu"}}},
-                        {"volumes", QJsonObject{{"D", "\\\\?\\Volume{1}\\"}}},
-                        {"environment", QJsonObject{{"OculusBase", ""}}},
-                        {"userLocations", QJsonObject{{"wal", "D:\\Wal"}}},
-                    }));
+    EXPECT_EQ(pc.shellFolders, (QMap<int, QString>{{11, "C:\\Users\\anna\\Start Menu"}}));
+    EXPECT_EQ(pc.volumes, (QMap<QChar, QString>{{'D', "\\\\?\\Volume{1}\\"}}));
+    EXPECT_EQ(pc.environment.toStringList(), QStringList{"OculusBase="});
+    EXPECT_EQ(pc.userLocations, (QMap<QString, QString>{{"wal", "D:\\Wal"}}));
 }
 
 TEST(PcFacts, HaveNoPackagesWhereTheSystemKnowsNone) {
-    const Trace::Package none{"a_b", false, "", ""};
-    const Trace::Package missing{"a_b", true, "", ""};
-    EXPECT_FALSE(render({none}).contains("packages"));
-    EXPECT_EQ(render({missing})["packages"], QJsonArray());
+    const Trace::Package none{"a_b", false, "", {}};
+    const Trace::Package missing{"a_b", true, "", {}};
+    EXPECT_FALSE(pcOf({none}).packages);
+    EXPECT_EQ(pcOf({missing}).packages, Recordings::AppPackages());
 }
 
-TEST(PcFacts, HavePackagesOnce) {
-    const Trace::Package package{"Maker.Game_abc", true, "Maker.Game_1_x64__abc", "Maker.Game_abc!App"};
-    const Trace::Package library{"Maker.Lib_abc", true, "Maker.Lib_1_x64__abc", ""};
-    const QJsonArray packages = render({package, library, package})["packages"].toArray();
-    ASSERT_EQ(packages.size(), 2);
-    EXPECT_EQ(packages[0].toObject(), (QJsonObject{{"family", "Maker.Game_abc"},
-                                                   {"fullName", "Maker.Game_1_x64__abc"},
-                                                   {"applicationIds", QJsonArray{"Maker.Game_abc!App"}}}));
-    EXPECT_EQ(packages[1].toObject()["applicationIds"], QJsonArray());
-}
-
-TEST(PcFacts, HaveTheAttributesOfWhatIsInTheStartMenu) {
-    const QJsonObject json =
-        render({Trace::Walk{"C:\\Menu", {}, {"desktop.ini"}, {"desktop.ini", "folder"}, {"desktop.ini"}},
-                Trace::Walk{"\\\\server\\Menu", {}, {}, {"x"}, {}}});
-    EXPECT_EQ(json["hidden"], (QJsonArray{"C:\\Menu\\desktop.ini", "C:\\Menu\\folder"}));
-    EXPECT_EQ(json["system"], QJsonArray{"C:\\Menu\\desktop.ini"});
-}
-
-TEST(PcFacts, HaveNeutralNames) {
-    const NeutralNames names({{"anna", "user"}}, "Users");
-    const QJsonObject json =
-        render({Trace::ShellFolder{11, "C:\\Users\\anna\\Menu"}, Trace::UserLocation{"anna", "D:\\anna\\x"},
-                Trace::Walk{"C:\\Users\\anna", {}, {}, {"x"}, {}}},
-               names);
-    EXPECT_EQ(json["shellFolders"]["startMenu"], "C:\\Users\\user\\Menu");
-    EXPECT_EQ(json["userLocations"].toObject(), (QJsonObject{{"anna", "D:\\user\\x"}})) << "the key is a game's";
-    EXPECT_EQ(json["hidden"], QJsonArray{"C:\\Users\\user\\x"});
+TEST(PcFacts, HavePackagesOnceAndWhereOneLooksForThem) {
+    const Trace::Package package{
+        "Maker.Game_abc", true, "Maker.Game_1_x64__abc", {"Maker.Game_abc!App", "Maker.Game_abc!B"}};
+    const Trace::Package library{"Maker.Lib_abc", true, "Maker.Lib_1_x64__abc", {}};
+    const Recordings::Pc pc = pcOf({package, library, package});
+    EXPECT_EQ(pc.packages, (Recordings::AppPackages{
+                               {"Maker.Game_abc", "Maker.Game_1_x64__abc", {"Maker.Game_abc!App", "Maker.Game_abc!B"}},
+                               {"Maker.Lib_abc", "Maker.Lib_1_x64__abc", {}}}));
+    const auto key = pc.registry.open(Recordings::RegKey::Root::CurrentUser, Host::packagesKey().split('\\'),
+                                      Recordings::RegistryView::Bits64);
+    EXPECT_EQ(Recordings::Registry::subKeys(key),
+              (std::vector<QString>{"Maker.Game_1_x64__abc", "Maker.Lib_1_x64__abc"}));
 }
 
 TEST(IndexEntries, AreThoseOfTheirList) {

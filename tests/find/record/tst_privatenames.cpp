@@ -1,5 +1,8 @@
 #include "find/record/PrivateNames.h"
 
+#include "common/TestPc.h"
+#include "find/cli/Environment.h"
+
 #include "common/QtPrinters.h"
 
 #include <gtest/gtest.h>
@@ -32,27 +35,53 @@ TEST(PrivateNames, ThatAreNeutralAlreadyStay) {
 }
 
 TEST(PrivateNames, ThatAreShortOrWordsOfPlacesAreReplacedInOnePlaceOnly) {
-    EXPECT_EQ(chosen({"al", "C:\\Users\\al", {"Steam"}}), (QStringList{"al=user only beside", "Steam=pc only beside"}));
-    const RecordedTexts texts{{"SOFTWARE\\Maker of Games", "Max Power"}, {}};
+    EXPECT_EQ(chosen({"al", "C:\\Users\\al", {"Steam"}}, {{"Steam"}, {}, {}}),
+              (QStringList{"al=user only beside", "Steam=pc only beside"}));
+    const RecordedTexts texts{{"SOFTWARE\\Maker of Games", "Max Power", "Program Files"}, {}, {}};
     EXPECT_EQ(chosen({"max", "", {"MAKER"}}, texts), (QStringList{"max=user only beside", "MAKER=pc only beside"}));
     EXPECT_EQ(chosen({"maxi", "", {"make"}}, texts), (QStringList{"maxi=user", "make=pc"}));
-    EXPECT_EQ(chosen({"Programmer", "", {}}), QStringList{"Programmer=user only beside"}) << "PROGRA~1";
+    EXPECT_EQ(chosen({"Programmer", "", {}}, texts), QStringList{"Programmer=user only beside"}) << "PROGRA~1";
 }
 
 TEST(PrivateNames, NeverMakeTwoPathsOne) {
-    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna", {}}, {{}, {"C:/Users/anna", "C:/Users/User"}}),
+    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna", {}}, {{}, {"C:/Users/anna", "C:/Users/User"}, {}}),
               QStringList{"anna=user-2"});
-    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna", {}}, {{}, {"D:/x-anna", "D:/X-user", "D:/x-user-2"}}),
+    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna", {}}, {{}, {"D:/x-anna", "D:/X-user", "D:/x-user-2"}, {}}),
               QStringList{"anna=user-3"});
-    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna.KAEFER", {}}, {{}, {"C:/Users/anna", "C:/Users/anna.KAEFER"}}),
+    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna.KAEFER", {}}, {{}, {"C:/Users/anna", "C:/Users/anna.KAEFER"}, {}}),
               (QStringList{"anna.KAEFER=user", "anna=user-2"}));
-    EXPECT_EQ(chosen({"anna", "", {"KAEFER"}}, {{}, {"D:/anna/KAEFER", "D:/user/pc"}}),
+    EXPECT_EQ(chosen({"anna", "", {"KAEFER"}}, {{}, {"D:/anna/KAEFER", "D:/user/pc"}, {}}),
               (QStringList{"anna=user", "KAEFER=pc-2"}));
 }
 
 TEST(PrivateNames, MayMakeTwoNamesOfTheUserOne) {
-    const RecordedTexts texts{{}, {"C:/Users/CHRIST~1/x", "C:/Users/Christopher/x"}};
+    const RecordedTexts texts{{}, {"C:/Users/CHRIST~1/x", "C:/Users/Christopher/x"}, {}};
     EXPECT_EQ(chosen({"", "C:\\Users\\Christopher", {}}, texts), QStringList{"Christopher=user"});
+}
+
+TEST(PrivateNames, AreThoseOfOtherUsersToo) {
+    const RecordedTexts texts{
+        {},
+        {"C:/Users/bert/x", "D:/Users/Anna", "HKEY_USERS\\bert"},
+        {"\"c:\\users\\Christa\\x.exe\"", "C:\\Users\\Public\\x", "C:\\Users\\BERT", "C:\\Users\\user"}};
+    EXPECT_EQ(chosen({"anna", "C:\\Users\\anna", {}}, texts),
+              (QStringList{"anna=user", "bert=user-2 only beside", "Christa=user-3 only beside"}));
+}
+
+TEST(PrivateNames, AreKnownFromTheShellsFoldersToo) {
+    const auto profile = [](const char* folder) {
+        Recordings::Pc pc;
+        pc.shellFolders.insert(11, folder);
+        return Host::nameSources(pc).profile;
+    };
+    const TestPc pc; // whose environment has no names
+    if (Host::isPcItself()) {
+        GTEST_SKIP() << "the environment tells it here";
+    }
+    EXPECT_EQ(profile("C:\\Users\\anna\\AppData\\Roaming\\Microsoft\\Windows\\Start Menu"), "C:/Users/anna");
+    EXPECT_EQ(profile("D:\\Profile\\anna\\appdata\\x"), "D:/Profile/anna");
+    EXPECT_EQ(profile("C:\\users\\anna\\Start Menu"), "C:/users/anna");
+    EXPECT_EQ(profile("C:\\ProgramData\\Start Menu"), "");
 }
 
 } // namespace

@@ -11,43 +11,41 @@ namespace {
 
 constexpr const char* noGames = R"({"games": []})";
 
+QStringList filesIn(const QString& folder) {
+    return QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+}
+
 TEST(RecordCommand, WrongUseIsRefused) {
     const FindProgram program;
     const QString refusal = "luruludri-find: %1\nluruludri-find: try luruludri-find --help\n";
     const auto errors = [&program](const QStringList& arguments) { return program.run(arguments).errors; };
-    EXPECT_EQ(errors({"record"}), refusal.arg("record: the folder is missing"));
     EXPECT_EQ(errors({"record", "a", "b", "c"}), refusal.arg("surplus argument \"c\""));
     EXPECT_EQ(errors({"record", "a", "--json"}), refusal.arg("--json: not with record"));
     EXPECT_EQ(errors({"record", "a", "--game", "x"}), refusal.arg("--game: not with record"));
     EXPECT_EQ(errors({"runtimes", "--keep-names"}), refusal.arg("--keep-names: only with record"));
-    EXPECT_EQ(program.run({"record"}).exitStatus, 2);
+    EXPECT_EQ(program.run({"record", "a", "b", "c"}).exitStatus, 2);
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
 
-TEST(RecordCommand, AFolderThatIsInUseIsLeftAlone) {
+TEST(RecordCommand, AFileThatIsThereIsLeftAlone) {
     const FindProgram program;
     const QString catalogue = program.file("none.json", noGames);
-    const QString full = QFileInfo(program.file("full/x.txt", "mine")).path();
-    const FindRun run = program.run({"record", full, catalogue});
+    const FindRun run = program.run({"record", catalogue});
     EXPECT_EQ(run.exitStatus, 2);
-    EXPECT_EQ(run.errors, "luruludri-find: " + full + ": the folder is not empty\n");
-    EXPECT_EQ(QDir(full).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"x.txt"});
-    EXPECT_EQ(QFileInfo(full + "/x.txt").size(), 4);
-    EXPECT_EQ(program.run({"record", full + "/x.txt", catalogue}).exitStatus, 2);
+    EXPECT_EQ(run.errors, "luruludri-find: " + catalogue + ": the file is there already\n");
     EXPECT_TRUE(program.fakeLog().isEmpty()) << "nothing was asked in vain";
 }
 
-TEST(RecordCommand, APluginThatTellsNothingLeavesNoFolder) {
+TEST(RecordCommand, APluginThatTellsNothingLeavesNoFile) {
     FindProgram program;
     const QString catalogue = program.file("none.json", noGames);
-    const QString folder = program.folder() + "/new";
-    const FindRun run = program.run({"record", folder, catalogue});
+    const QString folder = QFileInfo(program.file("new/x", "")).path();
+    const FindRun run = program.run({"record", folder + "/pc", catalogue});
     EXPECT_EQ(run.exitStatus, 2);
     EXPECT_EQ(run.errors, "luruludri-find: the plug-in did not tell what it read\n");
-    EXPECT_FALSE(QFileInfo::exists(folder));
     program.setFakeMode("no memory");
-    EXPECT_EQ(program.run({"record", folder, catalogue}).errors, "luruludri-find: out of memory\n");
-    EXPECT_FALSE(QFileInfo::exists(folder));
+    EXPECT_EQ(program.run({"record", folder + "/pc", catalogue}).errors, "luruludri-find: out of memory\n");
+    EXPECT_EQ(filesIn(folder), QStringList{"x"});
 }
 
 TEST(RecordCommand, EverythingIsGoneBeforeThePluginIs) {

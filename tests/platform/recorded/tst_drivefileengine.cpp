@@ -81,7 +81,7 @@ TEST_F(DriveFileEngineTest, SeesChangesAtOnce) {
 }
 
 TEST_F(DriveFileEngineTest, FindsNoDriveWithoutARecording) {
-    qunsetenv(Recording::environmentVariable);
+    qunsetenv(Recordings::environmentVariable);
     EXPECT_FALSE(QFileInfo::exists("C:/Games"));
     EXPECT_FALSE(QDir("C:/").exists());
 }
@@ -101,13 +101,12 @@ TEST_F(DriveFileEngineTest, LeavesOtherPathsToTheRealFileSystem) {
 
 // What a file is
 
-TEST_F(DriveFileEngineTest, TellsSizeAndTimes) {
+TEST_F(DriveFileEngineTest, TellsSizeAndNoTimes) {
     QFileInfo file("C:/Games/Käfer/Käfer.exe");
     EXPECT_EQ(file.size(), 5);
     EXPECT_EQ(QFileInfo("C:/Games").size(), 0);
     EXPECT_EQ(QFileInfo("C:/none").size(), 0);
-    EXPECT_LT(qAbs(file.lastModified().secsTo(QDateTime::currentDateTime())), 600);
-    EXPECT_FALSE(QFileInfo("C:/none").lastModified().isValid());
+    EXPECT_FALSE(file.lastModified().isValid());
 }
 
 TEST_F(DriveFileEngineTest, TellsPermissionsAsQtDoesOnWindows) {

@@ -5,8 +5,11 @@
 #include "platform/Registry.h"
 #include "platform/Versions.h"
 #include "platform/recorded/Observer.h"
+#include "recordings/PcFile.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <gmock/gmock.h>
@@ -52,7 +55,7 @@ TEST_F(RecordedPcTest, IsEmptyUntilOneIsChosen) {
     EXPECT_FALSE(hasKey("A"));
     pc.choose();
     EXPECT_TRUE(hasKey("A"));
-    qunsetenv(Recording::environmentVariable);
+    qunsetenv(Recordings::environmentVariable);
     EXPECT_FALSE(hasKey("A"));
 }
 
@@ -61,7 +64,7 @@ TEST_F(RecordedPcTest, FollowsTheVariable) {
     pc.choose();
     RecordingFolder other;
     other.registry("[HKEY_CURRENT_USER\\B]\r\n");
-    qputenv(Recording::environmentVariable, other.path({}));
+    qputenv(Recordings::environmentVariable, other.path({}));
     EXPECT_TRUE(hasKey("B"));
     EXPECT_FALSE(hasKey("A"));
 }
@@ -76,7 +79,7 @@ TEST_F(RecordedPcTest, IsReadOnce) {
 
 TEST_F(RecordedPcTest, CanBeAskedByManyThreads) {
     pc.registry("[HKEY_CURRENT_USER\\A\\1]\r\n[HKEY_CURRENT_USER\\A\\2]\r\n");
-    qputenv(Recording::environmentVariable, pc.path({}));
+    qputenv(Recordings::environmentVariable, pc.path({}));
     Recorded::forgetPc();
     Platform::KeyHandle key;
     ASSERT_EQ(Platform::openKey(RootKey::CurrentUser, "A", Platform::keyRead, key), 0U);
@@ -117,8 +120,11 @@ TEST_F(RecordedPcTest, TellsWhatTheRegistryIsAsked) {
 
 std::vector<QString> problems(const QByteArray& path) {
     std::vector<QString> texts;
-    const auto found = Recording::problems(path);
-    for (const Recording::Problem& problem : found.value()) {
+    const Recordings::Recording recording = Recordings::readRecording(path);
+    if (!recording.fault.isEmpty()) {
+        return {recording.fault};
+    }
+    for (const Recordings::Problem& problem : recording.problems) {
         texts.push_back(QString("%1:%2: %3").arg(problem.file.mid(path.size())).arg(problem.line).arg(problem.message));
     }
     return texts;
@@ -135,8 +141,8 @@ TEST_F(RecordedPcTest, MayLackEverything) {
 }
 
 TEST_F(RecordedPcTest, ReportsAFolderThatIsNotThere) {
-    EXPECT_THAT(problems(pc.path("none")), ElementsAre(":0: there is no such folder"));
-    qputenv(Recording::environmentVariable, pc.path("none"));
+    EXPECT_THAT(problems(pc.path("none")), ElementsAre("no such file or folder"));
+    qputenv(Recordings::environmentVariable, pc.path("none"));
     EXPECT_FALSE(hasKey("A"));
     EXPECT_FALSE(QFile::exists("C:/"));
 }
@@ -151,6 +157,39 @@ TEST_F(RecordedPcTest, ReportsProblemsInTheOrderOfItsFiles) {
                             "/registry/a.reg:3: the line is neither a key nor a value",
                             "/registry/b.reg:1: the first line is not “Windows Registry Editor Version 5.00”",
                             "/registry/c.reg:0: the file cannot be read", "/pc.json:1: an object is expected"));
+}
+
+TEST_F(RecordedPcTest, ReportsNamesThatWindowsCannotHave) {
+    for (const char* const name : {"a:b", "con", "Same", "same", "\xE4", "Käfer"}) {
+        pc.file(QByteArray("drives/D/") + name);
+    }
+    pc.folder("drives/CD");
+    pc.link("drives/D/dead", "nowhere");
+    EXPECT_THAT(problems(pc.path({})), ElementsAre("/drives/CD:0: this is no drive's letter",
+                                                   "/drives/D/a:b:0: no file of Windows can have this name",
+                                                   "/drives/D/con:0: no file of Windows can have this name",
+                                                   "/drives/D/\uFFFD:0: the name is not UTF-8",
+                                                   "/drives/D/same:0: for Windows this is the same name as “Same”",
+                                                   "/drives/D/dead:0: the link leads to no file or folder"));
+}
+
+TEST_F(RecordedPcTest, IsAFileAsWellAsAFolder) {
+    Recordings::Pc recorded;
+    recorded.drives.make(*Recordings::DrivePath::parse("D:/b.txt"), Recordings::File::Kind::File).contents =
+        QByteArray("text");
+    recorded.drives.make(*Recordings::DrivePath::parse("D:/a"), Recordings::File::Kind::Folder).isHidden = true;
+    recorded.registry.make(Recordings::RegKey::Root::CurrentUser, {"A"}, Recordings::RegistryView::Bits64);
+    pc.file("one.json", Recordings::renderPcFile(recorded));
+    qputenv(Recordings::environmentVariable, pc.path("one.json"));
+    EXPECT_TRUE(hasKey("A"));
+    QFile file("d:\\B.TXT");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "text");
+    EXPECT_TRUE(QFileInfo("D:/a").isDir() && QFileInfo("D:/a").isHidden());
+    QDir folder("D:/");
+    folder.setSorting(QDir::Unsorted);
+    EXPECT_THAT(folder.entryList(QDir::AllEntries | QDir::Hidden), ElementsAre("b.txt", "a"))
+        << "in the recorded order";
 }
 
 // Folders, volumes, environment, host

@@ -22,7 +22,8 @@ class RecordedRegistryTest : public ::testing::Test {
 protected:
     void record(const QByteArray& lines) {
         pc.registry(lines);
-        EXPECT_THAT(pc.choose()->problems(), IsEmpty());
+        pc.choose();
+        EXPECT_THAT(Recordings::readRecording(pc.path({})).problems, IsEmpty());
     }
 
     /// Opens the key of a value "a" that has the given form in a .reg file.
@@ -190,6 +191,15 @@ TEST_F(RecordedRegistryTest, ConvertsTextToTheAnsiCodePage) {
     size = 6;
     EXPECT_EQ(Platform::queryValueNarrow(key, "a", type, buffer.data(), size), Platform::errorMoreData);
     EXPECT_EQ(size, 7U);
+}
+
+TEST_F(RecordedRegistryTest, ConvertsTextToTheCodePageThatThePcHas) {
+    pc.describe(R"({"codePage": 1250})");
+    const KeyHandle key = keyWith("\"ŁÖ\"");
+    QByteArray buffer(3, 'x');
+    size = 3;
+    EXPECT_EQ(Platform::queryValueNarrow(key, "a", type, buffer.data(), size), Platform::errorSuccess);
+    EXPECT_EQ(buffer, QByteArray("\xA3\xD6\0", 3));
 }
 
 TEST_F(RecordedRegistryTest, GivesNumbersByAsciiNames) {

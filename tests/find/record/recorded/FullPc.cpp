@@ -1,7 +1,7 @@
 #include "recorded/FullPc.h"
 
 #include "FindProgram.h"
-#include "find/record/ShellLinkWriter.h"
+#include "recordings/ShellLink.h"
 
 #include <QFileInfo>
 
@@ -52,7 +52,7 @@ constexpr const char* description = R"({
 "environment": {"USERNAME": "Anneliese Ö", "USERPROFILE": "C:\\Users\\Anneliese Ö", "COMPUTERNAME": "KAEFER-PC",
                 "TOKEN": "GEHEIM"},
 "packages": [{"family": "Maker.Krake_abc", "fullName": "Maker.Krake_1.0_x64__abc",
-              "applicationIds": ["Maker.Krake_abc!App", "GEHEIM"]},
+              "applicationIds": ["Maker.Krake_abc!App", "Maker.Krake_abc!Beta"]},
              {"family": "GEHEIM_abc", "fullName": "GEHEIM_1.0_x64__abc"}],
 "userLocations": {"krabbe": "C:\\Users\\user\\Spiele", "tang": "D:\\Spiele von Anneliese Ö\\Tang"},
 "hidden": ["C:\\Users\\Anneliese Ö\\Start Menu\\desktop.ini", "D:\\GEHEIM.txt"]
@@ -105,7 +105,7 @@ constexpr const char* emptyFiles[] = {
 const QString FullPc::secret = "GEHEIM";
 
 const QString FullPc::summary =
-    "  registry        11 keys, 11 values\n"
+    "  registry        7 keys, 11 values\n"
     "  drives          35 folders, 20 file names (13 executables), 1 shortcut, the contents of 2 files\n"
     "  app packages    1\n"
     "  user's choices  2\n";
@@ -127,5 +127,5 @@ FullPc::FullPc(const FindProgram& program)
     program.file(drives + "C/ProgramData/Epic/EpicGamesLauncher/Data/Manifests/1.item", epicManifest);
     program.file(drives + "C/ProgramData/Epic/EpicGamesLauncher/Data/Manifests/2.txt", "GEHEIM");
     program.file(drives + "C/Users/Anneliese Ö/Start Menu/Anneliese Ö/Aal.lnk",
-                 Host::shellLinkTo("D:\\Spiele von Anneliese Ö\\aal.exe") + "GEHEIM");
+                 Recordings::renderShellLink("D:\\Spiele von Anneliese Ö\\aal.exe") + "GEHEIM");
 }

@@ -2,45 +2,20 @@
 #include "recorded/FullPc.h"
 
 #include "common/QtPrinters.h"
+#include "recordings/PcFile.h"
+#include "recordings/Recording.h"
+#include "recordings/ShellLink.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QMap>
+#include <QRegularExpression>
 
 namespace {
 
 constexpr const char* noGames = R"({"games": []})";
-
-/// The names and contents of all files and folders below `folder`, by name.
-QMap<QString, QByteArray> filesBelow(const QString& folder) {
-    QMap<QString, QByteArray> files;
-    QDirIterator walk(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (walk.hasNext()) {
-        QFile file(walk.next());
-        const bool isFile = walk.fileInfo().isFile() && file.open(QIODevice::ReadOnly);
-        files.insert(QDir(folder).relativeFilePath(walk.filePath()), isFile ? file.readAll() : QByteArray());
-    }
-    return files;
-}
-
-/// The files below `folder` that have the text in their names or their bytes, as UTF-8, UTF-16 or in the ANSI code
-/// page.
-QStringList filesWith(const QString& text, const QString& folder) {
-    const QByteArray utf16(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
-    QStringList found;
-    const QMap<QString, QByteArray> files = filesBelow(folder);
-    for (auto file = files.begin(); file != files.end(); ++file) {
-        if (file.key().contains(text, Qt::CaseInsensitive) || file->contains(text.toUtf8()) || file->contains(utf16) ||
-            file->contains(text.toLatin1())) {
-            found.append(file.key());
-        }
-    }
-    return found;
-}
 
 class RecordTest : public ::testing::Test {
 protected:
@@ -51,7 +26,18 @@ protected:
 
     QString path(const QString& name) const { return program.folder() + '/' + name; }
 
-    /// Records `pc` as the folder of that name in the test's.
+    /// The text of the recording of that name.
+    QString contents(const QString& name) const {
+        QFile file(path(name) + ".json");
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(file.readAll());
+    }
+
+    bool tells(const QString& name, const QString& text) const {
+        return contents(name).contains(text, Qt::CaseInsensitive);
+    }
+
+    /// Records `pc` as the file of that name in the test's.
     FindRun record(const QString& pc, const QString& name, const QString& catalogue, const QStringList& options = {}) {
         return program.runBare(QStringList{"--pc", pc, "record", path(name), catalogue} + options);
     }
@@ -72,20 +58,20 @@ TEST_F(RecordTest, TheSamplePcAnswersAsItDid) {
     const FindRun run = record(samplePc, "käfer-pc", sampleCatalogue, {"--keep-names"});
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors, "");
-    EXPECT_EQ(answers(path("käfer-pc"), sampleCatalogue), answers(samplePc, sampleCatalogue));
+    EXPECT_EQ(answers(path("käfer-pc.json"), sampleCatalogue), answers(samplePc, sampleCatalogue));
 }
 
 TEST_F(RecordTest, TheUsersNameIsReplaced) {
     ASSERT_EQ(record(samplePc, "pc", sampleCatalogue).exitStatus, 0);
     QString expected = answers(samplePc, sampleCatalogue);
-    EXPECT_EQ(answers(path("pc"), sampleCatalogue), expected.replace("Jördis", "user"));
-    EXPECT_EQ(filesWith("Jördis", path("pc")), QStringList());
+    EXPECT_EQ(answers(path("pc.json"), sampleCatalogue), expected.replace("Jördis", "user"));
+    EXPECT_FALSE(tells("pc", "Jördis"));
 }
 
 TEST_F(RecordTest, ARecordingOfARecordingIsTheSame) {
     ASSERT_EQ(record(samplePc, "1", sampleCatalogue).exitStatus, 0);
-    ASSERT_EQ(record(path("1"), "2", sampleCatalogue).exitStatus, 0);
-    EXPECT_EQ(filesBelow(path("1")), filesBelow(path("2")));
+    ASSERT_EQ(record(path("1.json"), "2", sampleCatalogue).exitStatus, 0);
+    EXPECT_EQ(contents("1"), contents("2"));
 }
 
 TEST_F(RecordTest, GamesThatNobodyKnewWhileRecordingAreFound) {
@@ -94,16 +80,15 @@ TEST_F(RecordTest, GamesThatNobodyKnewWhileRecordingAreFound) {
     EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
     const QString expected = answers(pc.folder(), pc.catalogue());
     EXPECT_EQ(expected.count("\"found\": true"), FullPc::games) << expected.toStdString();
-    EXPECT_EQ(answers(path("pc"), pc.catalogue()), expected);
+    EXPECT_EQ(answers(path("pc.json"), pc.catalogue()), expected);
 }
 
 TEST_F(RecordTest, NothingIsTakenThatNoFinderReads) {
     const FullPc pc(program);
-    ASSERT_NE(filesWith(FullPc::secret, pc.folder()), QStringList()) << "the test looks for the wrong thing";
     for (const QStringList& options : {QStringList{}, QStringList{"--keep-names"}}) {
         const QString name = QString("pc%1").arg(options.size());
         ASSERT_EQ(record(pc.folder(), name, pc.catalogue(), options).exitStatus, 0);
-        EXPECT_EQ(filesWith(FullPc::secret, path(name)), QStringList());
+        EXPECT_FALSE(tells(name, FullPc::secret)) << contents(name).toStdString();
     }
 }
 
@@ -114,24 +99,24 @@ TEST_F(RecordTest, TheUserAndTheMachineAreNamedNowhere) {
     EXPECT_TRUE(run.output.contains("\"Anneliese Ö\" is now \"user-2\", \"KAEFER-PC\" is now \"pc\""))
         << run.output.toStdString();
     for (const char* const name : {"Anneliese", "ANNELI~1", "KAEFER"}) {
-        EXPECT_EQ(filesWith(name, path("pc")), QStringList()) << name;
+        EXPECT_FALSE(tells("pc", name)) << name << contents("pc").toStdString();
     }
     QString expected = answers(pc.folder(), pc.catalogue());
     expected.replace("Anneliese Ö", "user-2").replace("ANNELI~1", "user-2").replace("KAEFER-PC", "pc");
-    EXPECT_EQ(answers(path("pc"), pc.catalogue()), expected);
+    EXPECT_EQ(answers(path("pc.json"), pc.catalogue()), expected);
 }
 
 TEST_F(RecordTest, TellsWhatItTookAndHowToReplayIt) {
     const FullPc pc(program);
     const FindRun run = record(pc.folder(), "pc", pc.catalogue(), {"--keep-names"});
-    EXPECT_EQ(run.output, "Recorded into " + path("pc") + ":\n" + FullPc::summary + "  names           kept\n" +
-                              "Replay it on Linux with: ./run --pc " + path("pc") + '\n');
+    EXPECT_EQ(run.output, "Recorded into " + path("pc.json") + ":\n" + FullPc::summary + "  names           kept\n" +
+                              "Replay it on Linux with: ./run --pc " + path("pc.json") + '\n');
 }
 
 TEST_F(RecordTest, TellsAFolderWithBlanksAsAShellWantsIt) {
     const FullPc pc(program);
     const FindRun run = record(pc.folder(), "Anna's PC", pc.catalogue());
-    EXPECT_TRUE(run.output.endsWith("./run --pc '" + path("Anna'\\''s PC") + "'\n")) << run.output.toStdString();
+    EXPECT_TRUE(run.output.endsWith("./run --pc '" + path("Anna'\\''s PC.json") + "'\n")) << run.output.toStdString();
 }
 
 TEST_F(RecordTest, ANameThatIsAWordOfPlacesStaysElsewhereAndIsTold) {
@@ -147,6 +132,7 @@ TEST_F(RecordTest, ANameThatIsAWordOfPlacesStaysElsewhereAndIsTold) {
         << run.errors.toStdString();
     EXPECT_TRUE(run.output.contains("\"Games\" is now \"user\" (as a user's folder only)\n"))
         << run.output.toStdString();
+    EXPECT_EQ(program.runBare({"unpack", path("new.json"), path("new")}).exitStatus, 0);
     EXPECT_TRUE(QFileInfo::exists(path("new/drives/C/Users/user/G/g.exe")));
     EXPECT_TRUE(QFileInfo::exists(path("new/drives/C/Games/H/h.exe")));
 }
@@ -161,6 +147,104 @@ TEST_F(RecordTest, WhatIsOnNoDriveIsTold) {
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors.count("not recorded: "), 2) << run.errors.toStdString();
     EXPECT_TRUE(run.errors.contains("luruludri-find: not recorded: " + game + '\n')) << run.errors.toStdString();
+}
+
+/// A PC with a secret, which has the word GEHEIM in it, in every place that a recording could take it from.
+void plantSecrets(const FindProgram& program) {
+    const QString pc = "secret/";
+    program.file(pc + "registry/x.reg", R"(Windows Registry Editor Version 5.00
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Token]
+"DisplayName"="Aal"
+"InstallLocation"="D:\\Aal"
+"UninstallString"="\"D:\\Aal\\u.exe\" --token=GEHEIM anna@GEHEIM.example"
+"RegOwner"="GEHEIM"
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Plain]
+"DisplayName"="Barsch"
+"UninstallString"="D:\\Barsch\\u.exe --key=GEHEIM"
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Serial]
+"DisplayName"="Butt"
+"UninstallString"="MsiExec.exe /X{GEHEIM} PIDKEY=GEHEIM"
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Types]
+"DisplayName"=hex(1):44,00,00,00,47,00,45,00,48,00,45,00,49,00,4d,00,00,00
+"InstallLocation"=hex(2):47,00,45,00,48,00,45,00,49,00,4d,00,00,00
+"UninstallString"=hex:47,45,48,45,49,4d
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Other user]
+"DisplayName"="Dorsch"
+"InstallLocation"="C:\\Users\\GEHEIM-berta\\Dorsch"
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\GEHEIM-anna_is1]
+"DisplayName"="Hecht"
+"InstallLocation"="D:\\Spiele auf GEHEIM-PC\\Hecht"
+
+[HKEY_CLASSES_ROOT\steam\Shell\Open\Command]
+@="\"D:\\Steam\\steam.exe\" -- \"%1\""
+
+[HKEY_CURRENT_USER\Software\GEHEIM]
+)");
+    program.file(pc + "pc.json", R"({"shellFolders": {"commonAppData": "C:\\ProgramData", "personal": "C:\\GEHEIM",
+        "startMenu": "C:\\Users\\GEHEIM-anna\\AppData\\Roaming\\Microsoft\\Windows\\Start Menu"},
+        "environment": {"TOKEN": "GEHEIM", "COMPUTERNAME": "GEHEIM-PC"},
+        "volumes": {"E": "\\\\?\\Volume{GEHEIM}\\"}, "packages": [{"family": "GEHEIM_a", "fullName": "GEHEIM_1_a"}],
+        "host": {"executable": "C:\\GEHEIM\\host.exe", "version": "1.2.3.4"}, "system": ["D:\\GEHEIM.txt"]})");
+    const QString drives = pc + "drives/";
+    program.file(drives + "C/ProgramData/Epic/EpicGamesLauncher/Data/Manifests/1.item",
+                 R"({"AppName": "E", "DisplayName": "Muschel", "InstallLocation": "D:\\Muschel", "AccountId": "GEHEIM",
+                     "Auth": {"Token": "GEHEIM"}, "OwnershipToken": "GEHEIM", "InstallTags": ["GEHEIM"]})");
+    program.file(drives + "C/ProgramData/Epic/EpicGamesLauncher/Data/Manifests/2.item", "no JSON: GEHEIM");
+    program.file(drives + "D/Steam/steamapps/libraryfolders.vdf",
+                 "\"0\"\n{\n\"path\" \"D:\\\\Steam\"\n\"label\" \"GEHEIM\"\n\"contentid\" \"GEHEIM\"\n}\n");
+    program.file(drives + "D/Steam/steamapps/appmanifest_7.acf", "\"LastOwner\" \"GEHEIM\"");
+    program.file(drives + "C/Users/GEHEIM-anna/AppData/Roaming/Microsoft/Windows/Start Menu/GEHEIM-anna/Aal.lnk",
+                 Recordings::renderShellLink("C:\\Users\\GEHEIM-anna\\aal.exe") + "--token=GEHEIM");
+    for (const char* const file : {"D/Aal/aal.exe", "D/Aal/GEHEIM.txt", "D/Muschel/m.exe", "D/GEHEIM.txt",
+                                   "D/Spiele auf GEHEIM-PC/Hecht/h.exe", "C/Users/GEHEIM-berta/Dorsch/d.exe"}) {
+        program.file(drives + file, "GEHEIM");
+    }
+}
+
+TEST_F(RecordTest, SecretsOfEveryKindStayWhereTheyAre) {
+    plantSecrets(program);
+    const QString catalogue = program.file("games.json", R"({"games": [
+        {"name": "Aal", "finders": [{"type": "uninstall", "displayName": "Aal", "executables": ["aal.exe"]}]},
+        {"name": "Dorsch", "finders": [{"type": "uninstall", "displayName": "Dorsch", "executables": ["d.exe"]}]},
+        {"name": "Hecht", "finders": [{"type": "uninstall", "displayName": "Hecht", "executables": ["h.exe"]}]},
+        {"name": "Muschel", "finders": [{"type": "epicStore", "name": "Muschel", "executables": ["m.exe"]}]}]})");
+    const FindRun run = record(path("secret"), "pc", catalogue);
+    ASSERT_EQ(run.exitStatus, 0) << run.errors.toStdString();
+    EXPECT_FALSE(tells("pc", "GEHEIM")) << contents("pc").toStdString();
+    EXPECT_EQ(answers(path("pc.json"), catalogue).count("\"found\": true"), 4);
+}
+
+/// The answers with one word for the name and for what stands in its place.
+QString withoutNames(QString answers, const QString& name) {
+    const QRegularExpression names("\\b(" + name + "|user(-[0-9]+)?|pc(-[0-9]+)?)\\b",
+                                   QRegularExpression::CaseInsensitiveOption);
+    return answers.replace(names, "*");
+}
+
+TEST_F(RecordTest, AnswersAreTheSameWhateverUserAndMachineAreCalled) {
+    const QString sample = QString::fromUtf8(Recordings::renderPcFile(Recordings::readRecording(samplePc.toUtf8()).pc));
+    int found = 0;
+    for (const QString name :
+         {"STEAMVR", "CACHE",    "Games", "Program", "7",         "Lantern", "Users",   "steamapps", "exe",  "common",
+          "Data",    "Software", "path",  "Marmor",  "Manifests", "lnk",     "Windows", "bin",       "user", "PC"}) {
+        QString pc = sample;
+        pc.replace("Jördis", name)
+            .replace("\"environment\": {", "\"environment\": {\"COMPUTERNAME\": \"" + name + "\",");
+        const QString file = program.file(name + "-named.json", pc.toUtf8());
+        ASSERT_EQ(record(file, "of " + name, sampleCatalogue).exitStatus, 0) << name.toStdString();
+        const QString expected = answers(file, sampleCatalogue);
+        EXPECT_EQ(withoutNames(answers(path("of " + name + ".json"), sampleCatalogue), name),
+                  withoutNames(expected, name))
+            << name.toStdString();
+        found += expected.count("\"found\": true");
+    }
+    EXPECT_EQ(found, 20 * 14);
 }
 
 } // namespace

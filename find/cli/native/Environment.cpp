@@ -1,0 +1,15 @@
+#include "find/cli/Environment.h"
+
+#include <QFile>
+
+namespace Host {
+
+bool setEnvironmentVariable(const char* name, const QString& value) {
+    return value.isEmpty() ? qunsetenv(name) : qputenv(name, QFile::encodeName(value));
+}
+
+bool isPcItself() {
+    return false;
+}
+
+} // namespace Host

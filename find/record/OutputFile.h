@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QSaveFile>
+#include <QString>
+
+namespace Host {
+
+/// A new file that a recording is written into. It appears under its name when it is complete and not before.
+class OutputFile {
+public:
+    /// `wanted` is the file as the user named it; an ending is added where it has none. A folder, or nothing, gets a
+    /// file named after the day. `fault` says why it can't be written: one that is there is left alone.
+    OutputFile(const QString& wanted, QString& fault);
+
+    const QString& name() const { return m_name; }
+
+    /// False when that failed; the file is then not there.
+    bool write(const QByteArray& contents);
+
+private:
+    Q_DISABLE_COPY_MOVE(OutputFile)
+
+    QString m_name;
+    QSaveFile m_file;
+};
+
+} // namespace Host

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "find/cli/Program.h"
+
+namespace Host {
+
+struct Options;
+
+/// Makes a folder of the recorded PC in the file that the options name.
+ExitStatus unpackPc(const Options& options);
+
+} // namespace Host

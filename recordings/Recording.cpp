@@ -1,0 +1,151 @@
+#include "recordings/Recording.h"
+
+#include "recordings/DriveFolders.h"
+#include "recordings/HostFiles.h"
+#include "recordings/PcFile.h"
+#include "recordings/PcJson.h"
+#include "recordings/RegFileWriter.h"
+
+namespace Recordings {
+
+namespace {
+
+constexpr const char* registryFolder = "/registry";
+constexpr const char* drivesFolder = "/drives";
+constexpr const char* descriptionFile = "/pc.json";
+
+QString displayed(const QByteArray& path) {
+    return QString::fromUtf8(path);
+}
+
+bool isRecordingFolder(const QByteArray& folder) {
+    return HostFiles::isFolder(folder + registryFolder) || HostFiles::isFolder(folder + drivesFolder) ||
+           HostFiles::isFile(folder + descriptionFile);
+}
+
+class FolderReader {
+public:
+    explicit FolderReader(Recording& recording)
+        : m_recording(recording) {}
+
+    void read(const QByteArray& folder);
+
+private:
+    void readRegistry(const QByteArray& folder);
+    void readDescription(const QByteArray& file);
+    void report(const QByteArray& path, int line, const QString& message);
+
+    Recording& m_recording;
+};
+
+void FolderReader::read(const QByteArray& folder) {
+    if (HostFiles::isFolder(folder + registryFolder)) {
+        readRegistry(folder + registryFolder);
+    }
+    // The drives first, as the description speaks of files; their problems last.
+    std::vector<Problem> problems;
+    if (HostFiles::isFolder(folder + drivesFolder)) {
+        m_recording.pc.drives = readDriveFolders(folder + drivesFolder, problems);
+    }
+    if (HostFiles::isFile(folder + descriptionFile) || HostFiles::isFolder(folder + descriptionFile)) {
+        readDescription(folder + descriptionFile);
+    }
+    m_recording.problems.insert(m_recording.problems.end(), problems.begin(), problems.end());
+}
+
+void FolderReader::readRegistry(const QByteArray& folder) {
+    const auto entries = HostFiles::list(folder);
+    if (!entries) {
+        report(folder, 0, QStringLiteral("the folder cannot be read"));
+        return;
+    }
+    for (const HostFiles::Entry& entry : *entries) {
+        if (!entry.name.toLower().endsWith(".reg")) {
+            continue;
+        }
+        const QByteArray path = folder + '/' + entry.name;
+        const std::optional<QByteArray> bytes = HostFiles::read(path);
+        if (!bytes) {
+            report(path, 0, QStringLiteral("the file cannot be read"));
+            continue;
+        }
+        const RegFile file = parseRegFile(*bytes, displayed(path));
+        m_recording.pc.registry.apply(file.keys);
+        m_recording.problems.insert(m_recording.problems.end(), file.problems.begin(), file.problems.end());
+    }
+}
+
+void FolderReader::readDescription(const QByteArray& file) {
+    const std::optional<QByteArray> bytes = HostFiles::read(file);
+    JsonFault fault;
+    if (!bytes) {
+        report(file, 0, QStringLiteral("the file cannot be read"));
+    } else if (const std::optional<JsonValue> json = parseJson(*bytes, fault)) {
+        readPcJson(*json, displayed(file), m_recording.pc, m_recording.problems);
+    } else {
+        report(file, fault.line, fault.message);
+    }
+}
+
+void FolderReader::report(const QByteArray& path, int line, const QString& message) {
+    m_recording.problems.push_back({displayed(path), line, message});
+}
+
+QString noRecording() {
+    return QStringLiteral("no recorded PC here");
+}
+
+void readFile(const QByteArray& path, Recording& recording) {
+    const std::optional<QByteArray> bytes = HostFiles::read(path);
+    JsonFault fault;
+    const std::optional<JsonValue> json = bytes ? parseJson(*bytes, fault) : std::nullopt;
+    if (!bytes) {
+        recording.fault = QStringLiteral("the file cannot be read");
+    } else if (!json && bytes->trimmed().startsWith('{')) {
+        recording.fault = QStringLiteral("line %1: %2").arg(QString::number(fault.line), fault.message);
+    } else if (!json || !isPcFile(*json)) {
+        recording.fault = noRecording();
+    } else {
+        recording.pc = readPcFile(*json, displayed(path), recording.fault, recording.problems);
+    }
+}
+
+} // namespace
+
+Recording readRecording(const QByteArray& path) {
+    Recording recording;
+    if (HostFiles::isFile(path)) {
+        readFile(path, recording);
+    } else if (isRecordingFolder(path)) {
+        FolderReader(recording).read(path);
+    } else {
+        recording.fault = HostFiles::isFolder(path) ? noRecording() : QStringLiteral("no such file or folder");
+    }
+    return recording;
+}
+
+std::vector<QByteArray> recordingsIn(const QByteArray& folder) {
+    std::vector<QByteArray> names;
+    for (const HostFiles::Entry& entry : HostFiles::list(folder).value_or(std::vector<HostFiles::Entry>())) {
+        const QByteArray path = folder + '/' + entry.name;
+        const bool isFile = entry.name.toLower().endsWith(".json") && HostFiles::isFile(path);
+        if (isRecordingFolder(path) || (isFile && readRecording(path).fault.isEmpty())) {
+            names.push_back(entry.name);
+        }
+    }
+    return names;
+}
+
+QByteArray writeRecordingFolder(const Pc& pc, const QByteArray& folder, QStringList& leftOut) {
+    const QByteArray registry = QByteArray(registryFolder) + "/recorded.reg";
+    if (!HostFiles::write(folder + registry, renderRegFile(pc.registry, leftOut))) {
+        return folder + registry;
+    }
+    if (!HostFiles::write(folder + descriptionFile, renderJson(pcJson(pc)))) {
+        return folder + descriptionFile;
+    }
+    return HostFiles::makeFolder(folder + drivesFolder) ? writeDriveFolders(pc.drives, folder + drivesFolder)
+                                                        : folder + drivesFolder;
+}
+
+} // namespace Recordings

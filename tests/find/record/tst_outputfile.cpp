@@ -1,0 +1,73 @@
+#include "find/record/OutputFile.h"
+
+#include "common/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+using Host::OutputFile;
+
+class OutputFileTest : public ::testing::Test {
+protected:
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+
+    QString nameFor(const QString& wanted) {
+        fault.clear();
+        return OutputFile(wanted, fault).name();
+    }
+
+    QStringList files() const { return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+
+    const QString nameOfTheDay = "luruludri-pc-" + QDate::currentDate().toString(Qt::ISODate) + ".json";
+    QString fault;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(OutputFileTest, IsNamedAsTheUserSaidWithItsEnding) {
+    EXPECT_EQ(nameFor(path("my-pc.json")), path("my-pc.json"));
+    EXPECT_EQ(nameFor(path("my-pc.JSON")), path("my-pc.JSON"));
+    EXPECT_EQ(nameFor(path("my-pc")), path("my-pc.json"));
+    EXPECT_EQ(fault, "");
+}
+
+TEST_F(OutputFileTest, IsNamedAfterTheDayWhereTheUserNamedAFolderOrNothing) {
+    EXPECT_EQ(nameFor(path("")), path(nameOfTheDay));
+    EXPECT_EQ(fault, "");
+    EXPECT_EQ(nameFor(path("none/")), path("none/" + nameOfTheDay));
+    EXPECT_EQ(fault, path("none/" + nameOfTheDay) + ": the file cannot be made");
+    EXPECT_TRUE(nameFor("").endsWith(nameOfTheDay));
+}
+
+TEST_F(OutputFileTest, IsThereWhenItIsComplete) {
+    OutputFile file(path("x"), fault);
+    EXPECT_EQ(files(), QStringList());
+    EXPECT_TRUE(file.write("all of it"));
+    EXPECT_EQ(files(), QStringList{"x.json"});
+    QFile written(path("x.json"));
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_EQ(written.readAll(), "all of it");
+}
+
+TEST_F(OutputFileTest, ThatIsThereIsLeftAlone) {
+    ASSERT_TRUE(OutputFile(path("x.json"), fault).write("mine"));
+    EXPECT_EQ(fault, "");
+    nameFor(path("x"));
+    EXPECT_EQ(fault, path("x.json") + ": the file is there already");
+}
+
+TEST_F(OutputFileTest, ThatCannotBeWrittenIsNotThere) {
+    OutputFile file(path("x.json"), fault);
+    QDir().mkdir(path("x.json")); // in the meantime
+    EXPECT_FALSE(file.write("x"));
+    EXPECT_EQ(files(), QStringList{"x.json"});
+}
+
+} // namespace

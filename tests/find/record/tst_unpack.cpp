@@ -1,0 +1,49 @@
+#include "FindProgram.h"
+#include "recordings/OddPc.h"
+#include "recordings/PcFile.h"
+#include "recordings/Recording.h"
+
+#include "common/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <QFileInfo>
+
+namespace {
+
+TEST(Unpack, MakesAFolderThatIsTheSamePc) {
+    const FindProgram program;
+    const QString file = program.file("käfer.json", Recordings::renderPcFile(OddPc::make(true)));
+    const QString folder = program.folder() + "/pc";
+    const FindRun run = program.run({"unpack", file, folder});
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_TRUE(Recordings::readRecording(folder.toUtf8()).pc == OddPc::make(true));
+}
+
+TEST(Unpack, TellsWhatAFolderCannotHave) {
+    const FindProgram program;
+    Recordings::Pc pc;
+    pc.registry.make(Recordings::RegKey::Root::Users, {"a\nb"}, Recordings::RegistryView::Bits64);
+    const FindRun run =
+        program.run({"unpack", program.file("pc.json", Recordings::renderPcFile(pc)), program.folder() + "/pc"});
+    EXPECT_EQ(run.exitStatus, 2);
+    EXPECT_TRUE(run.errors.contains("no registry file can have this name: HKEY_USERS\\a")) << run.errors.toStdString();
+}
+
+TEST(Unpack, WrongUseIsRefused) {
+    const FindProgram program;
+    const QString refusal = "luruludri-find: %1\nluruludri-find: try luruludri-find --help\n";
+    EXPECT_EQ(program.run({"unpack"}).errors, refusal.arg("unpack: the name of the file is missing"));
+    EXPECT_EQ(program.run({"unpack", "a"}).errors, refusal.arg("unpack: the folder is missing"));
+    const QString games = program.file("games.json", R"({"games": []})");
+    const FindRun run = program.run({"unpack", games, program.folder() + "/pc"});
+    EXPECT_EQ(run.errors, "luruludri-find: " + games + ": no recorded PC here\n");
+    EXPECT_EQ(run.exitStatus, 2);
+    EXPECT_FALSE(QFileInfo::exists(program.folder() + "/pc"));
+    const QString file = program.file("pc.json", Recordings::renderPcFile({}));
+    EXPECT_EQ(program.run({"unpack", file, program.folder()}).errors,
+              "luruludri-find: " + program.folder() + ": the folder is not empty\n");
+}
+
+} // namespace
