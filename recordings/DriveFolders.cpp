@@ -4,6 +4,8 @@
 #include "recordings/Utf8Text.h"
 #include "recordings/WindowsNames.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
@@ -38,12 +40,14 @@ public:
 private:
     void readFolder(const DrivePath& path, const QByteArray& folder);
     void read(const DrivePath& path, const Child& child);
+    quint64 identityOf(const QByteArray& realPath);
     std::vector<Child> childrenOf(const QByteArray& folder);
     void report(const QByteArray& path, const QString& message);
 
     Drives& m_drives;
     std::vector<Problem>& m_problems;
-    std::vector<QByteArray> m_way; ///< the folders from the drive's to the one that is read, links resolved
+    QHash<QByteArray, quint64> m_identities; ///< by path, links resolved
+    std::vector<QByteArray> m_way;           ///< the folders from the drive's to the one that is read, links resolved
 };
 
 void Reader::readDrives(const QByteArray& folder) {
@@ -66,12 +70,18 @@ void Reader::readFolder(const DrivePath& path, const QByteArray& folder) {
     m_way.pop_back();
 }
 
+quint64 Reader::identityOf(const QByteArray& realPath) {
+    quint64& identity = m_identities[realPath];
+    identity = identity == 0 ? static_cast<quint64>(m_identities.size()) : identity;
+    return identity;
+}
+
 void Reader::read(const DrivePath& path, const Child& child) {
+    const QByteArray realPath =
+        child.isLink ? canonical(child.path) : m_way.back() + child.path.mid(child.path.lastIndexOf('/'));
     if (HostFiles::isFolder(child.path)) {
-        const bool leadsBack =
-            child.isLink && std::find(m_way.begin(), m_way.end(), canonical(child.path)) != m_way.end();
-        if (!leadsBack) {
-            m_drives.make(path, File::Kind::Folder);
+        if (!child.isLink || std::find(m_way.begin(), m_way.end(), realPath) == m_way.end()) {
+            m_drives.make(path, File::Kind::Folder).identity = identityOf(realPath);
             readFolder(path, child.path);
         }
         return;
@@ -84,6 +94,7 @@ void Reader::read(const DrivePath& path, const Child& child) {
         return;
     }
     File& file = m_drives.make(path, File::Kind::File);
+    file.identity = identityOf(realPath);
     if (size > 0) {
         file.contents = Contents::ofFile(child.path, static_cast<qint64>(size));
     }

@@ -22,6 +22,7 @@ struct File {
     bool isSystem = false;
     Contents contents;
     std::vector<QString> names; ///< of a folder: what is in it, in the file system's order
+    quint64 identity = 0;       ///< one number for a file that links lead to by several names; 0 for one of its own
 
     bool isFolder() const { return kind == Kind::Folder; }
 

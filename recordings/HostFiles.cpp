@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <new>
 #include <system_error>
 
 namespace Recordings::HostFiles {
@@ -15,10 +14,6 @@ constexpr qint64 longestFile = qint64{256} * 1024 * 1024;
 
 fs::path pathOf(const QByteArray& path) {
     return fs::u8path(path.constData());
-}
-
-QByteArray bytesOf(const fs::path& path) {
-    return QByteArray::fromStdString(path.u8string());
 }
 
 } // namespace
@@ -64,21 +59,10 @@ bool isFolder(const QByteArray& path) {
 }
 
 std::optional<std::vector<Entry>> list(const QByteArray& folder) {
-    std::error_code error;
-    fs::directory_iterator entry(pathOf(folder), error);
-    std::vector<Entry> entries;
-    while (!error && entry != fs::directory_iterator()) {
-        std::error_code unknown;
-        entries.push_back({bytesOf(entry->path().filename()), entry->is_symlink(unknown)});
-        entry.increment(error);
+    std::optional<std::vector<Entry>> entries = entriesOf(folder);
+    if (entries) {
+        std::sort(entries->begin(), entries->end(), [](const Entry& a, const Entry& b) { return a.name < b.name; });
     }
-    if (error == std::errc::not_enough_memory) {
-        throw std::bad_alloc(); // lest a folder that is there counts as missing from now on
-    }
-    if (error) {
-        return std::nullopt;
-    }
-    std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) { return a.name < b.name; });
     return entries;
 }
 

@@ -30,4 +30,7 @@ struct Entry {
 /// The entries of a folder in the order of their bytes. No value when it cannot be read.
 std::optional<std::vector<Entry>> list(const QByteArray& folder);
 
+/// The same in no order, as each system tells it.
+std::optional<std::vector<Entry>> entriesOf(const QByteArray& folder);
+
 } // namespace Recordings::HostFiles

@@ -25,7 +25,7 @@ struct JsonValue {
     static JsonValue object(const QString& name);
 
     /// The member of that name; null when there is none, or this is no object.
-    const JsonValue* member(QLatin1String name) const;
+    const JsonValue* member(QLatin1String wanted) const;
 };
 
 struct JsonFault {

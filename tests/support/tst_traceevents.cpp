@@ -86,7 +86,7 @@ const Case cases[] = {
     {Trace::Volume{"D:\\", "\\\\?\\Volume{1}\\"}, R"({"drive":"D:\\","event":"volume","name":"\\\\?\\Volume{1}\\"})"},
     {Trace::Environment{"X", QString("")}, R"({"event":"environment","name":"X","value":""})"},
     {Trace::Environment{"X", std::nullopt}, R"({"event":"environment","name":"X"})"},
-    {Trace::Package{"F", true, "F1", "F!A"},
+    {Trace::Package{"F", true, "F1", {"F!A", "F!B"}},
      R"({"applicationIds":["F!A","F!B"],"event":"package","family":"F","fullName":"F1","supported":true})"},
     {Trace::UserLocation{"wal", "D:\\Wal"}, R"({"event":"userLocation","key":"wal","path":"D:\\Wal"})"},
     {Trace::Entry{"Wal", "D:\\Wal"}, R"({"event":"entry","folder":"D:\\Wal","name":"Wal"})"},

@@ -3,6 +3,8 @@
 #include "platform/recorded/Observer.h"
 #include "platform/recorded/RecordedPc.h"
 
+#include <cstdint>
+
 namespace Platform {
 
 namespace {
@@ -67,7 +69,8 @@ bool fileIdentity(const QString& path, FileIdentity& identity) {
     if (!file) {
         return false;
     }
-    identity = {1, reinterpret_cast<std::uintptr_t>(file)};
+    identity =
+        file->identity != 0 ? FileIdentity{1, file->identity} : FileIdentity{2, reinterpret_cast<std::uintptr_t>(file)};
     return true;
 }
 
