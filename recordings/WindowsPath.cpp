@@ -34,6 +34,16 @@ int endOfName(const QString& text, int from) {
     return end < 0 ? text.size() : end;
 }
 
+// The length of the drive or share of an absolute path; 0 when it has none.
+int driveLength(const QString& text) {
+    if (!isNetwork(text)) {
+        return hasDrive(text) && text.at(0).isLetter() ? 2 : 0;
+    }
+    const int server = endOfName(text, 2);
+    const int share = endOfName(text, server + 1);
+    return share > server + 1 ? share : 0;
+}
+
 // A name that a separator follows loses a single dot at its end, the last name of a path all dots and spaces.
 QString trimmedName(QString name, bool isLast) {
     if (!isLast) {
@@ -131,21 +141,25 @@ QString Path::full(QChar currentDrive) const {
     return joined(drive + slash, m_text.mid(hasDrive(m_text) ? 2 : 0));
 }
 
-// To Windows a share is a root.
+// To Windows a share is a root, and so is the list of all devices.
 QString Path::fullOnNetwork() const {
+    if (m_text.startsWith(QLatin1String("//./")) || m_text.startsWith(QLatin1String("//?/"))) {
+        const QString path = joined(m_text.left(4), m_text.mid(4));
+        return path.at(2) == QLatin1Char('?') ? path.mid(4) : path;
+    }
     const int server = endOfName(m_text, 2);
     const int share = endOfName(m_text, server + 1);
     if (share >= m_text.size()) {
         return m_text;
     }
-    const QString path = joined(m_text.left(share + 1), m_text.mid(share));
-    return path.startsWith(QLatin1String("//?/")) ? path.mid(4) : path;
+    return joined(m_text.left(share + 1), m_text.mid(share));
 }
 
 QString Path::folderOf(const QString& path) {
     const int last = path.lastIndexOf(slash);
     if (last < 0) {
-        return hasDrive(path) ? path.left(2) : QString(dot);
+        const QString nothing = path.isEmpty() ? path : QString(dot);
+        return hasDrive(path) ? path.left(2) : nothing;
     }
     const bool isRoot = last == 0 || (last == 2 && hasDrive(path));
     return path.left(isRoot ? last + 1 : last);
@@ -157,6 +171,40 @@ QString Path::asFolder() const {
     }
     const bool isDriveRoot = m_text.size() == 3 && hasDrive(m_text) && m_text.at(0).isLetter();
     return m_text.size() > 1 && m_text.endsWith(slash) && !isDriveRoot ? m_text.left(m_text.size() - 1) : m_text;
+}
+
+QString Path::absoluteFolder(QChar currentDrive) const {
+    const Path folder(asFolder());
+    const bool isAsWritten = !folder.isRelative() && folder.isClean();
+    return isAsWritten ? folder.text() : Path(folder.absolute(currentDrive)).cleaned();
+}
+
+QString Path::absoluteFile(const QString& name, QChar currentDrive) const {
+    const Path path(name);
+    if (path.isAbsolute() || (name.contains(colon) && !path.isRelative())) {
+        return name;
+    }
+    const QString folder = absoluteFolder(currentDrive);
+    if (path.text().startsWith(slash)) {
+        const int drive = driveLength(folder);
+        return drive > 0 ? folder.left(drive) + name : QString();
+    }
+    const bool needsNoSlash = name.isEmpty() || folder.endsWith(slash);
+    return needsNoSlash ? folder + name : folder + slash + name;
+}
+
+std::optional<QString> Path::entered(const QString& name) const {
+    const QString folder = asFolder();
+    if (!Path(name).isRelative()) {
+        return Path(Path(name).cleaned()).asFolder();
+    }
+    const Path path(folder.endsWith(slash) ? folder + name : folder + slash + name);
+    if (!name.contains(slash) && name != QLatin1String("..") && folder != dot) {
+        return path.asFolder();
+    }
+    const Path clean(path.cleaned());
+    const bool isAboveRoot = !clean.isRelative() && clean.text().split(slash).contains(QLatin1String(".."));
+    return isAboveRoot ? std::nullopt : std::make_optional(clean.asFolder());
 }
 
 QStringList Path::workedOut(const QString& below) {

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace Recordings {
 
 /// A path as text, by the rules that Qt 5.15 follows on Windows, and Windows itself where Qt asks it. Nothing is looked
@@ -31,11 +33,20 @@ public:
     /// QFileInfo::path, of a path that QFileInfo::absoluteFilePath gave too.
     static QString folderOf(const QString& path);
 
+    // Of a folder's path:
+
     /// QDir::path.
     QString asFolder() const;
 
-    /// Whether "." , ".." and doubled separators are worked out already.
-    bool isClean() const;
+    /// QDir::absolutePath.
+    QString absoluteFolder(QChar currentDrive) const;
+
+    /// QDir::absoluteFilePath.
+    QString absoluteFile(const QString& name, QChar currentDrive) const;
+
+    /// QDir::cd of a name but "" and ".": the QDir::path of the folder to enter, if it is there. Empty when it would be
+    /// above a root.
+    std::optional<QString> entered(const QString& name) const;
 
     /// The names of a path below its root with "." and ".." worked out, and without the dots and spaces that Windows
     /// drops at the end of a name.
@@ -46,6 +57,9 @@ public:
     static QString unknownFolder() { return QStringLiteral("//<current folder>"); }
 
 private:
+    /// Whether "." , ".." and doubled separators are worked out already.
+    bool isClean() const;
+
     int rootLength() const;
     QString full(QChar currentDrive) const;
     QString fullOnNetwork() const;

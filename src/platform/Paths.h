@@ -15,6 +15,10 @@ QString writtenFolder(const QString& folder);                             // QDi
 QString absoluteFolder(const QString& folder);                            // QDir(folder).absolutePath
 QString absoluteFilePath(const QString& folder, const QString& fileName); // QDir(folder).absoluteFilePath
 
+/// What Qt's file classes have to be asked for to learn of `path`: itself. Over a recorded PC always a path on a drive,
+/// so that they answer out of the recording and never look beyond it.
+QString pathOnPc(const QString& path);
+
 /// QDir(folder).cd(name). False when there is no such folder; `folder` is then untouched.
 bool changeFolder(QString& folder, const QString& name);
 

@@ -19,11 +19,11 @@ bool told(const QString& path, bool found) {
 } // namespace
 
 bool exists(const QString& path) {
-    return told(path, QFile::exists(path));
+    return told(path, QFile::exists(Platform::pathOnPc(path)));
 }
 
 bool folderExists(const QString& folder) {
-    return told(Platform::writtenFolder(folder), QDir(folder).exists());
+    return told(Platform::writtenFolder(folder), QDir(Platform::pathOnPc(folder)).exists());
 }
 
 bool enter(QString& folder, const QString& name) {
@@ -32,20 +32,21 @@ bool enter(QString& folder, const QString& name) {
 
 QStringList names(const QString& folder, const QString& pattern) {
     // Unsorted, as QDir::NoSort means "as the QDir is told to sort by itself".
-    const QStringList names = QDir(folder).entryList({pattern}, QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
+    const QStringList names =
+        QDir(Platform::pathOnPc(folder)).entryList({pattern}, QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
     Trace::tell([&] { return Trace::List{Paths::toNative(folder), pattern, names}; });
     return names;
 }
 
 QByteArray readWholeFile(const QString& path) {
-    QFile file(path);
+    QFile file(Platform::pathOnPc(path));
     const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     Trace::tell([&] { return Trace::Read{Paths::toNative(path), bytes.size()}; });
     return bytes;
 }
 
 QString shortcutTarget(const QString& path) {
-    const QString target = QFileInfo(path).symLinkTarget();
+    const QString target = QFileInfo(Platform::pathOnPc(path)).symLinkTarget();
     Trace::tell([&] { return Trace::Shortcut{Paths::toNative(path), Paths::toNative(target)}; });
     return target;
 }

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QStringList>
 
-/// What finders ask of the file system: Qt's own questions, each told to the trace. Names of files come in the file
-/// system's order.
+/// What finders ask of the PC's file system: Qt's own questions, each told to the trace. Names of files come in the
+/// file system's order.
 namespace Files {
 
 /// QFile::exists: a file or a folder of this name is there; for a shortcut, what it leads to.

@@ -2,14 +2,13 @@
 
 #include "catalogue/UninstallIndex.h"
 #include "support/Logger.h"
+#include "support/Paths.h"
 
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "core/Locations.h"
 #include "platform/Registry.h"
-
-#include <QDir>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -148,7 +147,7 @@ TEST_F(UninstallFinderTest, ACommandOfAQuoteAloneLeadsNowhere) {
 TEST_F(UninstallFinderTest, ACommandWithoutAFolderStandsForTheCurrentOne) {
     addProgram(pc, {"1", "X", {}, "unins000.exe"});
     EXPECT_FALSE(find("X", {"no such game.exe"}));
-    EXPECT_EQ(location, failedIn(QDir::currentPath()));
+    EXPECT_EQ(location, failedIn(Paths::absoluteFolder(".")));
 }
 
 TEST_F(UninstallFinderTest, SomeCommandsTellNoFolderOfTheGame) {

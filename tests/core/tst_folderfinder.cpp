@@ -106,16 +106,6 @@ TEST_F(FolderFinderTest, ADirectoryOfTheRightNameCountsAsWell) {
     EXPECT_EQ(location.launchCommand, "C:\\Games\\X\\a.exe");
 }
 
-TEST_F(FolderFinderTest, AnEmptyFolderIsTheCurrentDirectory) {
-    const QString current = QDir::toNativeSeparators(QDir::currentPath());
-    const QString program = QDir::current().relativeFilePath(QCoreApplication::applicationFilePath());
-    EXPECT_TRUE(find("", {program}));
-    EXPECT_EQ(location.installFolder, current);
-    location = usedLocation();
-    EXPECT_FALSE(find("", {"no such program.exe"}));
-    EXPECT_EQ(location, GameLocation()) << "it was searched like any other";
-}
-
 TEST_F(FolderFinderTest, LooksAgainAtEverySearch) {
     pc.folder("C:\\Games\\X");
     Finders::FolderFinder finder(&logger, "C:\\Games\\X", {"a.exe"});

@@ -66,6 +66,14 @@ foreach(file IN LISTS files)
        AND text MATCHES "QFile[ :(]|QFileInfo::exists|[.]exists\\(\\)\\)|entryList|entryInfoList|symLinkTarget")
         list(APPEND faults "${file}: asks the file system past the trace: ${CMAKE_MATCH_0}")
     endif()
+    # What the system has a say in, the current folder and what a separator is, goes through the seam, as do the user's
+    # settings.
+    if(file MATCHES "^src/"
+       AND NOT layer MATCHES "^(support|platform.*)$"
+       AND text MATCHES
+           "[.]cd\\(|cdUp|cleanPath|[a-z]NativeSeparators|QDir::separator|[.)]absolute(File)?Path\\(\\)|currentPath|QSettings[ :(]")
+        list(APPEND faults "${file}: works a path or settings out past the seam: ${CMAKE_MATCH_0}")
+    endif()
 endforeach()
 
 list(LENGTH files count)

@@ -3,8 +3,6 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 
-#include <QDir>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -109,10 +107,6 @@ TEST_F(SteamLibraryFoldersTest, AnyEncodingButUtf8FindsNoFolder) {
 TEST_F(SteamLibraryFoldersTest, ListsALibraryAsOftenAsTheFileDoes) {
     EXPECT_THAT(parse("\"path\" \"D:\\\\SteamLibrary\"\n\"path\" \"D:\\\\SteamLibrary\"\n"),
                 ElementsAre("D:/SteamLibrary/steamapps", "D:/SteamLibrary/steamapps"));
-}
-
-TEST_F(SteamLibraryFoldersTest, AnEmptyPathIsTheCurrentFolder) {
-    EXPECT_THAT(parse("\"path\" \"\""), ElementsAre(QDir::currentPath() + "/steamapps"));
 }
 
 } // namespace

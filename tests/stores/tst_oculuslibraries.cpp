@@ -1,5 +1,6 @@
 #include "stores/OculusLibraries.h"
 
+#include "support/Files.h"
 #include "support/Logger.h"
 
 #include "common/OculusStore.h"
@@ -130,7 +131,9 @@ TEST_F(OculusLibrariesTest, AVolumesNameCountsOnlyAtTheBeginningAndWhole) {
 TEST_F(OculusLibrariesTest, ALibraryWithoutAPathIsTheCurrentFolder) {
     pc.key({RootKey::CurrentUser, oculusKeyPath + "\\{1}", View::view64});
     EXPECT_THAT(oculusLibraryFolders(logger), IsEmpty());
-    EXPECT_THAT(pc.messages("Test"), ElementsAre(rejected("", "", "1, 0, 0")));
+    // Which on a recorded PC is not there.
+    const QString tests = Files::folderExists(".") ? "1, 0, 0" : "0, 0, 0";
+    EXPECT_THAT(pc.messages("Test"), ElementsAre(rejected("", "", tests)));
 }
 
 TEST_F(OculusLibrariesTest, AFileNamedManifestsLeavesTheLibraryItself) {

@@ -1,7 +1,7 @@
 #include "platform/Listing.h"
 
 #include "platform/recorded/Observer.h"
-#include "platform/recorded/RecordedPc.h"
+#include "platform/recorded/PcPaths.h"
 
 #include <cstdint>
 
@@ -39,8 +39,8 @@ void ListingCloser::operator()(void* listing) const noexcept {
 }
 
 ListingHandle firstEntry(const QString& folder, FolderEntry& entry) {
-    const std::optional<Recordings::DrivePath> path = Recordings::DrivePath::parse(folder);
     const std::shared_ptr<const Recorded::RecordedPc> pc = Recorded::currentPc();
+    const std::optional<Recordings::DrivePath> path = Recordings::DrivePath::parse(Recorded::pathOnDrive(*pc, folder));
     const Recordings::File* const file = path ? pc->drives().find(*path) : nullptr;
     if (!file || !file->isFolder()) {
         return nullptr;
@@ -63,8 +63,8 @@ bool nextEntry(const ListingHandle& listing, FolderEntry& entry) {
 }
 
 bool fileIdentity(const QString& path, FileIdentity& identity) {
-    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
     const std::shared_ptr<const Recorded::RecordedPc> pc = Recorded::currentPc();
+    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(Recorded::pathOnDrive(*pc, path));
     const Recordings::File* const file = parsed ? pc->drives().find(*parsed) : nullptr;
     if (!file) {
         return false;

@@ -33,6 +33,10 @@ QString absoluteFilePath(const QString& folder, const QString& fileName) {
     return QDir(folder).absoluteFilePath(fileName);
 }
 
+QString pathOnPc(const QString& path) {
+    return path;
+}
+
 bool changeFolder(QString& folder, const QString& name) {
     QDir dir(folder);
     const bool isThere = dir.cd(name);

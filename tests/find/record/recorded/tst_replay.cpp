@@ -138,15 +138,13 @@ TEST_F(RecordTest, ANameThatIsAWordOfPlacesStaysElsewhereAndIsTold) {
 }
 
 TEST_F(RecordTest, WhatIsOnNoDriveIsTold) {
-    const QString game = program.file("outside/x.exe", "");
-    const QString catalogue = program.file("games.json", QString(R"({"games": [{"name": "X", "finders": [
-            {"type": "folder", "folder": "%1", "executables": ["x.exe"]}]}]})")
-                                                             .arg(path("outside"))
-                                                             .toUtf8());
+    const QString catalogue = program.file("games.json", R"({"games": [{"name": "X", "finders": [
+        {"type": "folder", "folder": "\\Games\\Burgfried 1412", "executables": ["Burgfried.exe"]}]}]})");
     const FindRun run = record(samplePc, "pc", catalogue);
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors.count("not recorded: "), 2) << run.errors.toStdString();
-    EXPECT_TRUE(run.errors.contains("luruludri-find: not recorded: " + game + '\n')) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.contains("luruludri-find: not recorded: \\Games\\Burgfried 1412\\Burgfried.exe\n"))
+        << run.errors.toStdString();
 }
 
 /// A PC with a secret, which has the word GEHEIM in it, in every place that a recording could take it from.
