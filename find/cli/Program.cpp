@@ -16,6 +16,9 @@
 #include "find/record/RecordCommand.h"
 #include "find/record/UnpackCommand.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <memory>
 #include <new>
 #include <optional>
@@ -143,6 +146,17 @@ ExitStatus askPlugin(const Options& options, const Catalogue& games) {
     }
 }
 
+/// Why the user's choice cannot be changed; empty when it can.
+QString refusalToChoose(const Options& options, const std::optional<Recordings::Recording>& recording) {
+    const bool isChange = options.command == Command::Locate || options.command == Command::Forget;
+    if (!isChange || !recording) {
+        return {};
+    }
+    const QString pc = options.pc.value_or(qEnvironmentVariable(Recordings::environmentVariable));
+    const QString file = QFileInfo(pc).isDir() ? QDir(pc).filePath(QStringLiteral("pc.json")) : pc;
+    return QStringLiteral("a recorded PC is never written to; to try a folder, change \"userLocations\" in ") + file;
+}
+
 ExitStatus run(const Options& options) {
     if (options.command == Command::Unpack) {
         return unpackPc(options);
@@ -153,6 +167,9 @@ ExitStatus run(const Options& options) {
     }
     QString fault;
     const std::optional<Recordings::Recording> pc = chooseRecordedPc(options.pc, fault);
+    if (fault.isEmpty()) {
+        fault = refusalToChoose(options, pc);
+    }
     if (!fault.isEmpty()) {
         return fail(fault);
     }

@@ -1,17 +1,13 @@
 #include "find/record/UserChoices.h"
 
-#include "platform/Folders.h"
-
-#include <QSettings>
+#include "platform/Settings.h"
 
 namespace Host {
 
 QStringList userChoiceKeys() {
-    QSettings settings(QSettings::UserScope, QStringLiteral("Veltrane"), QStringLiteral("Quorvan"));
-    settings.beginGroup(QStringLiteral("UserProvidedLocations"));
-    QStringList keys = settings.allKeys() + Platform::recordedUserLocationKeys();
-    keys.removeDuplicates();
-    return keys;
+    return Platform::openUserSettings(QStringLiteral("Veltrane"), QStringLiteral("Quorvan"),
+                                      QStringLiteral("UserProvidedLocations"))
+        ->allKeys();
 }
 
 } // namespace Host

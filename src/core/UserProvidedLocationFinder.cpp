@@ -7,13 +7,11 @@
 #include "support/Paths.h"
 #include "support/Trace.h"
 
-#include <QSettings>
-
 namespace Finders {
 
 namespace {
 
-using Choices = UserChoices<QSettings>;
+using Choices = UserChoices;
 
 QStringList trimmedNames(const QStringList& names) {
     QStringList trimmed;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <QtGlobal>
 
 /// The shell's folders and the volumes of drives.
@@ -25,11 +24,5 @@ qint32 ownFolderPath(int csidl, char16_t* buffer);
 
 /// GetVolumeNameForVolumeMountPointW with a buffer of maxPath characters. False on failure.
 bool volumeName(const QString& mountPoint, char16_t* buffer);
-
-/// The folders that the user of a recorded PC chose for games, which on Windows are in the user's settings: by the key
-/// of the game, letter case ignored as there. Empty when there is none, and always on Windows.
-QString recordedUserLocation(const QString& key);
-
-QStringList recordedUserLocationKeys();
 
 } // namespace Platform

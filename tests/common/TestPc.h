@@ -48,6 +48,9 @@ public:
 
     void environment(const QString& name, const QString& value);
 
+    /// The folder that the user chose for the game with this key.
+    void userChoice(const QString& key, const QString& folder);
+
     /// The name of the volume that is mounted as this drive ("\\\\?\\Volume{…}\\").
     QString volume(QChar drive) const;
 

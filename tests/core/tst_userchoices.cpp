@@ -3,7 +3,6 @@
 #include "common/QtPrinters.h"
 
 #include <QStringList>
-#include <QVariant>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,51 +12,47 @@ namespace {
 using ::testing::ElementsAre;
 
 /// Settings that note what is done with them.
-class NotingSettings {
+class NotingSettings final : public Platform::UserSettings {
 public:
-    NotingSettings(QSettings::Scope scope, const QString& organization, const QString& application) {
-        notes.append("open " + organization + ' ' + application +
-                     (scope == QSettings::UserScope ? " user" : " system"));
-    }
+    explicit NotingSettings(QStringList& notes)
+        : m_notes(notes) {}
 
-    ~NotingSettings() { notes.append("close"); }
+    ~NotingSettings() override { m_notes.append("close"); }
 
-    void beginGroup(const QString& name) { notes.append("group " + name); }
+    QStringList allKeys() const override { return {}; }
 
-    void sync() { notes.append("sync"); }
-
-    void setValue(const QString& key, const QVariant& value) { notes.append("set " + key + ' ' + value.toString()); }
-
-    void remove(const QString& key) { notes.append("remove " + key); }
-
-    QVariant value(const QString& key, const QVariant& otherwise) const {
-        notes.append("value " + key + " or '" + otherwise.toString() + '\'');
+    QString value(const QString& key, const QString& fallback) const override {
+        m_notes.append("value " + key + " or '" + fallback + '\'');
         return "D:\\X";
     }
 
-    static QStringList notes;
+    void setValue(const QString& key, const QString& value) override { m_notes.append("set " + key + ' ' + value); }
+
+    void remove(const QString& key) override { m_notes.append("remove " + key); }
+
+    void sync() override { m_notes.append("sync"); }
 
 private:
-    Q_DISABLE_COPY_MOVE(NotingSettings)
+    QStringList& m_notes;
 };
 
-QStringList NotingSettings::notes;
-
-using Choices = Finders::UserChoices<NotingSettings>;
+template <class Use>
+QStringList notesOf(Use use) {
+    QStringList notes;
+    {
+        Finders::UserChoices choices(std::make_unique<NotingSettings>(notes));
+        use(choices);
+    }
+    return notes;
+}
 
 TEST(UserChoicesTest, EachUseEndsWithTheSettingsWrittenOut) {
-    NotingSettings::notes.clear();
-    Choices().setValue("K", "D:\\X");
-    EXPECT_THAT(NotingSettings::notes, ElementsAre("open Veltrane Quorvan user", "group UserProvidedLocations",
-                                                   "set K D:\\X", "sync", "close"));
-    NotingSettings::notes.clear();
-    Choices().remove("K");
-    EXPECT_THAT(NotingSettings::notes,
-                ElementsAre("open Veltrane Quorvan user", "group UserProvidedLocations", "remove K", "sync", "close"));
-    NotingSettings::notes.clear();
-    EXPECT_EQ(Choices().value("K"), "D:\\X");
-    EXPECT_THAT(NotingSettings::notes, ElementsAre("open Veltrane Quorvan user", "group UserProvidedLocations",
-                                                   "value K or ''", "sync", "close"));
+    using Finders::UserChoices;
+    EXPECT_THAT(notesOf([](UserChoices& choices) { choices.setValue("K", "D:\\X"); }),
+                ElementsAre("set K D:\\X", "sync", "close"));
+    EXPECT_THAT(notesOf([](UserChoices& choices) { choices.remove("K"); }), ElementsAre("remove K", "sync", "close"));
+    EXPECT_THAT(notesOf([](UserChoices& choices) { EXPECT_EQ(choices.value("K"), "D:\\X"); }),
+                ElementsAre("value K or ''", "sync", "close"));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "core/GameLocation.h"
 #include "core/MultiFinder.h"
+#include "platform/Settings.h"
 #include "support/Logger.h"
 
 #include "common/PluginUnderTest.h"
@@ -9,8 +10,6 @@
 #include "common/TestPc.h"
 #include "core/Locations.h"
 #include "core/ScriptedFinder.h"
-
-#include <QSettings>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -25,24 +24,20 @@ const QString server = "bin\\win64\\vrserver.exe";
 
 class UserProvidedLocationFinderTest : public ::testing::Test {
 protected:
-    ~UserProvidedLocationFinderTest() override { settings().clear(); }
+    ~UserProvidedLocationFinderTest() override {
+        for (const QString& key : settings()->allKeys()) {
+            settings()->remove(key);
+        }
+    }
 
-    /// The settings as the host opens them.
-    struct Settings : QSettings {
-        Settings()
-            : QSettings(QSettings::UserScope, "Veltrane", "Quorvan") {}
-    };
-
-    static Settings settings() { return {}; }
+    static std::unique_ptr<Platform::UserSettings> settings() {
+        return Platform::openUserSettings("Veltrane", "Quorvan", "UserProvidedLocations");
+    }
 
     /// What is stored under a key; "(nothing)" where there is no value.
-    static QString stored(const QString& key) {
-        return settings().value("UserProvidedLocations/" + key, "(nothing)").toString();
-    }
+    static QString stored(const QString& key) { return settings()->value(key, "(nothing)"); }
 
-    static void store(const QString& key, const QString& folder) {
-        settings().setValue("UserProvidedLocations/" + key, folder);
-    }
+    static void store(const QString& key, const QString& folder) { settings()->setValue(key, folder); }
 
     Finders::UserProvidedLocationFinder finder(const QString& key, const QStringList& executables) {
         return {&logger, key, executables};
@@ -102,7 +97,7 @@ TEST_F(UserProvidedLocationFinderTest, AnEmptyKeySwitchesItOff) {
         EXPECT_FALSE(off.find(location));
         EXPECT_EQ(location, GameLocation());
     }
-    EXPECT_THAT(settings().allKeys(), IsEmpty()) << "nothing is written";
+    EXPECT_THAT(settings()->allKeys(), IsEmpty()) << "nothing is written";
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
@@ -215,7 +210,6 @@ TEST_F(UserProvidedLocationFinderTest, TheFactoryMakesIt) {
     factory->createUserProvidedLocationFinder("K", {"bin\\a.exe"})->setUserLocation("D:\\X\\bin");
     const auto later = plugin.create()->createUserProvidedLocationFinder(" K", {"bin\\a.exe"});
     EXPECT_EQ(later->userLocation(), "D:/X");
-    EXPECT_EQ(stored("K"), "D:/X");
     const auto finder = factory->createUserProvidedLocationFinder("K", {"bin\\a.exe"});
     EXPECT_TRUE(finder->find(location));
     EXPECT_EQ(location.launchCommand, "D:/X\\bin\\a.exe");

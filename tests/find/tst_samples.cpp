@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -100,13 +102,12 @@ TEST(Samples, HaveAGameThatTheUserCanLocate) {
     }
     FindProgram program;
     program.setVariable("XDG_DATA_HOME", program.folder());
-    program.setVariable(Recordings::environmentVariable, LURULUDRI_SAMPLES "/pc");
-    const QString catalogue = LURULUDRI_SAMPLES "/catalogue.json";
-    const FindRun located = program.runBare({"locate", "moosgarten", "D:\\Eigene Spiele\\Moosgarten\\bin", catalogue});
-    EXPECT_EQ(located.output, "moosgarten: D:/Eigene Spiele/Moosgarten\n") << located.errors.toStdString();
-    EXPECT_EQ(foldersOf(runSamples(program, {"--json"})).value("Moosgarten"), "D:/Eigene Spiele/Moosgarten");
-    EXPECT_EQ(program.runBare({"forget", "moosgarten"}).exitStatus, 0);
-    EXPECT_EQ(foldersOf(runSamples(program, {"--json"})).value("Moosgarten"), "");
+    const QString folder = "D:\\Eigene Spiele\\Moosgarten";
+    const QJsonObject description{{"userLocations", QJsonObject{{"moosgarten", folder}}}};
+    const QString pc = QFileInfo(program.file("pc/pc.json", QJsonDocument(description).toJson())).path();
+    ASSERT_TRUE(QFile::link(LURULUDRI_SAMPLES "/pc/drives", pc + "/drives"));
+    const FindRun run = program.runBare({"--pc", pc, "--json", LURULUDRI_SAMPLES "/catalogue.json"});
+    EXPECT_EQ(foldersOf(run).value("Moosgarten"), folder) << run.errors.toStdString();
 }
 
 TEST(Samples, HaveAGameWithTwoExecutables) {

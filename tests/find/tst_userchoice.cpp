@@ -1,4 +1,5 @@
 #include "find/answers/UserChoice.h"
+#include "recordings/Recording.h"
 
 #include "FindProgram.h"
 
@@ -7,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 
@@ -96,6 +98,29 @@ TEST(UserChoice, AMissingCatalogueIsToldBeforeAnythingIsRemembered) {
     const FindProgram program;
     EXPECT_EQ(program.run({"locate", "Käfer", "D:\\Spiele", program.folder() + "/none.json"}).exitStatus, 2);
     EXPECT_TRUE(program.fakeLog().isEmpty());
+}
+
+TEST(UserChoice, OfARecordedPcIsChangedInTheRecording) {
+    if (!Recording::problems(QDir::tempPath())) {
+        GTEST_SKIP() << "this build knows no recordings";
+    }
+    FindProgram program;
+    const QString catalogue = program.file("g.json", games);
+    const QString pc = QFileInfo(program.file("pc/pc.json", "{}")).path();
+    const QString refusal =
+        "luruludri-find: a recorded PC is never written to; to try a folder, change \"userLocations\" in " + pc +
+        "/pc.json\n";
+    const std::vector<QStringList> commands{{"--pc", pc, "locate", "Käfer", "D:\\Spiele", catalogue},
+                                            {"--pc", pc, "forget", "Käfer"}};
+    for (const QStringList& command : commands) {
+        const FindRun run = program.run(command);
+        EXPECT_EQ(run.exitStatus, 2);
+        EXPECT_EQ(run.errors, refusal);
+        EXPECT_EQ(run.output, "");
+    }
+    program.setVariable("LURULUDRI_PC", pc);
+    EXPECT_EQ(program.run({"forget", "Käfer"}).errors, refusal);
+    EXPECT_TRUE(program.fakeLog().isEmpty()) << "the plug-in is not asked";
 }
 
 TEST(UserChoice, TheRealPluginRemembersFindsAndForgets) {

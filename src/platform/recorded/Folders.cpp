@@ -1,11 +1,9 @@
 #include "platform/Folders.h"
 
 #include "platform/recorded/RecordedPc.h"
-#include "recordings/WindowsNames.h"
 
 #include <QStandardPaths>
 
-#include <algorithm>
 #include <cstring>
 
 namespace Platform {
@@ -40,19 +38,6 @@ bool volumeName(const QString& mountPoint, char16_t* buffer) {
         return false;
     }
     return copyPath(Recorded::currentPc()->description().volumes.value(mountPoint.at(0).toUpper()), buffer);
-}
-
-QString recordedUserLocation(const QString& key) {
-    const auto pc = Recorded::currentPc();
-    const QMap<QString, QString>& locations = pc->description().userLocations;
-    const auto found = std::find_if(locations.keyBegin(), locations.keyEnd(), [&key](const QString& known) {
-        return Recordings::foldName(known) == Recordings::foldName(key);
-    });
-    return found != locations.keyEnd() ? locations.value(*found) : QString();
-}
-
-QStringList recordedUserLocationKeys() {
-    return Recorded::currentPc()->description().userLocations.keys();
 }
 
 } // namespace Platform

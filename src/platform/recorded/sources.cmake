@@ -15,6 +15,7 @@ target_sources(
             platform/recorded/PlainFile.cpp
             platform/recorded/Process.cpp
             platform/recorded/Registry.cpp
+            platform/recorded/Settings.cpp
             platform/recorded/SystemFunctions.cpp
             platform/recorded/TextStream.cpp
             platform/recorded/Versions.cpp)

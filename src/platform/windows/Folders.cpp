@@ -22,12 +22,4 @@ bool volumeName(const QString& mountPoint, char16_t* buffer) {
     return ::GetVolumeNameForVolumeMountPointW(wide(mountPoint), reinterpret_cast<wchar_t*>(buffer), maxPath) != 0;
 }
 
-QString recordedUserLocation(const QString& /*key*/) {
-    return {};
-}
-
-QStringList recordedUserLocationKeys() {
-    return {};
-}
-
 } // namespace Platform

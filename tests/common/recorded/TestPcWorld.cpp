@@ -180,6 +180,10 @@ void TestPc::environment(const QString& name, const QString& value) {
     m_world->describe();
 }
 
+void TestPc::userChoice(const QString& key, const QString& folder) {
+    m_world->describe("userLocations", key, folder);
+}
+
 QString TestPc::volume(QChar drive) const {
     return World::volume(drive);
 }

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QProcess>
+#include <QSettings>
 #include <QThread>
 
 #include <windows.h>
@@ -77,6 +78,9 @@ public:
     World() = default;
 
     ~World() {
+        for (const QString& choice : m_choices) {
+            m_settings.remove(choice);
+        }
         for (const QByteArray& variable : m_variables) {
             qunsetenv(variable.constData());
         }
@@ -142,6 +146,12 @@ public:
 
     void rememberLink(const QString& path) { m_links.push_back(path); }
 
+    void chooseFolder(const QString& setting, const QString& folder) {
+        m_settings.setValue(setting, folder);
+        m_settings.sync();
+        m_choices.push_back(setting);
+    }
+
     void setVariable(const QByteArray& name, const QByteArray& value) {
         qputenv(name.constData(), value);
         m_variables.push_back(name);
@@ -161,6 +171,8 @@ private:
     std::vector<QString> m_paths;
     std::vector<QString> m_links;
     std::vector<QByteArray> m_variables;
+    QSettings m_settings{QSettings::UserScope, "Veltrane", "Quorvan"}; // as the host opens them
+    QStringList m_choices;
 };
 
 bool TestPc::mayBeChanged() {
@@ -243,6 +255,10 @@ void TestPc::shellFolder(int csidl, const QString& path) {
 
 void TestPc::environment(const QString& name, const QString& value) {
     m_world->setVariable(name.toLocal8Bit(), value.toLocal8Bit());
+}
+
+void TestPc::userChoice(const QString& key, const QString& folder) {
+    m_world->chooseFolder("UserProvidedLocations/" + key, folder);
 }
 
 QString TestPc::volume(QChar drive) const {

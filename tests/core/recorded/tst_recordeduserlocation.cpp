@@ -1,10 +1,12 @@
 #include "core/GameLocation.h"
 #include "core/UserProvidedLocationFinder.h"
-#include "platform/Folders.h"
+#include "platform/Settings.h"
 #include "support/Logger.h"
 
 #include "common/QtPrinters.h"
 #include "common/recorded/RecordingFolder.h"
+
+#include <QSettings>
 
 #include <gtest/gtest.h>
 
@@ -35,14 +37,47 @@ TEST_F(RecordedUserLocation, IsFoundLetterCaseIgnored) {
     }
     EXPECT_EQ(finder("Hai").userLocation(), "");
     EXPECT_FALSE(finder("Hai").userLocation().isNull());
-    EXPECT_EQ(Platform::recordedUserLocationKeys(), QStringList{"Wal"});
 }
 
-TEST_F(RecordedUserLocation, GivesWayToTheUsersOwn) {
-    finder("Wal").setUserLocation("D:\\Neu");
+TEST_F(RecordedUserLocation, IsNeverThatOfWhoReplaysThePc) {
+    QSettings own(QSettings::UserScope, "Veltrane", "Quorvan");
+    own.setValue("UserProvidedLocations/Wal", "D:\\Neu");
+    own.setValue("UserProvidedLocations/Hai", "D:\\Neu");
+    own.sync();
+    EXPECT_EQ(finder("Wal").userLocation(), "D:\\Wal");
+    EXPECT_EQ(finder("Hai").userLocation(), "");
+    own.clear();
+}
+
+TEST_F(RecordedUserLocation, CanBeChangedForAsLongAsThePcIsChosen) {
+    finder("wal").setUserLocation("D:\\Neu");
     EXPECT_EQ(finder("Wal").userLocation(), "D:\\Neu");
     finder("Wal").setUserLocation("");
-    EXPECT_EQ(finder("Wal").userLocation(), "D:\\Wal");
+    EXPECT_EQ(finder("Wal").userLocation(), "");
+    pc.choose();
+    EXPECT_EQ(finder("Wal").userLocation(), "D:\\Wal") << "the recording is as it was";
+    const QSettings own(QSettings::UserScope, "Veltrane", "Quorvan");
+    EXPECT_EQ(own.allKeys(), QStringList()) << "and so are the settings of who replays it";
+}
+
+TEST_F(RecordedUserLocation, IsListedAsItWasWritten) {
+    const auto settings = [] { return Platform::openUserSettings("Veltrane", "Quorvan", "UserProvidedLocations"); };
+    EXPECT_EQ(settings()->allKeys(), QStringList{"Wal"});
+    settings()->setValue("WAL", "D:\\Neu");
+    settings()->setValue("Hai", "D:\\Hai");
+    EXPECT_EQ(settings()->allKeys(), (QStringList{"Hai", "Wal"}));
+    EXPECT_EQ(Platform::openUserSettings("Veltrane", "Other", "UserProvidedLocations")->allKeys(), QStringList());
+    settings()->remove("hai");
+    EXPECT_EQ(settings()->allKeys(), QStringList{"Wal"});
+}
+
+TEST(WithoutARecording, TheUsersChoiceIsInTheUsersSettings) {
+    Logger logger = Logger::create("Quorvan.Test.User");
+    UserProvidedLocationFinder(&logger, "Wal", {}).setUserLocation("/opt/wal");
+    QSettings own(QSettings::UserScope, "Veltrane", "Quorvan");
+    EXPECT_EQ(own.value("UserProvidedLocations/Wal").toString(), "/opt/wal");
+    EXPECT_EQ(UserProvidedLocationFinder(&logger, "Wal", {}).userLocation(), "/opt/wal");
+    own.clear();
 }
 
 } // namespace

@@ -8,8 +8,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QSettings>
-
 namespace {
 
 using ::testing::Contains;
@@ -136,12 +134,9 @@ TEST(Explanation, OfTheStoresTellsThatNoneHasTheGame) {
 
 TEST(Explanation, TellsThatTheUsersChoiceEndsTheSearch) {
     TestPc pc;
-    QSettings settings(QSettings::UserScope, "Veltrane", "Quorvan");
-    settings.setValue("UserProvidedLocations/rennen", "D:\\Weg");
-    settings.sync();
+    pc.userChoice("rennen", "D:\\Weg");
     const QStringList lines = explained(R"({"type": "userProvidedLocation", "key": "rennen", "executables": ["a.exe"]},
                                            {"type": "folder", "folder": "D:\\Nichts", "executables": ["a.exe"]})");
-    settings.remove("UserProvidedLocations/rennen");
     EXPECT_EQ(
         lines,
         QStringList({"Käferrennen: not found", R"(1. userProvidedLocation: key "rennen", executables ["a.exe"])",
