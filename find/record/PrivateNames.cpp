@@ -139,7 +139,7 @@ NameSources nameSources(const Recordings::Pc& pc) {
 std::vector<PrivateName> choosePrivateNames(const NameSources& sources, const RecordedTexts& texts) {
     const QString profilesFolder = profilesFolderName(sources);
     std::vector<PrivateName> chosen;
-    const auto choose = [&](PrivateName name, int number) {
+    const auto choose = [&](const PrivateName& name, int number) {
         const QString base = name.neutral;
         chosen.push_back(name);
         const auto setNumber = [&] { chosen.back().neutral = base + QLatin1Char('-') + QString::number(number); };
