@@ -38,7 +38,7 @@ TEST_F(PcFiles, AreFoundByEverySpellingOfTheirPath) {
           "\\\\.\\C:\\Luruludri Test\\a.txt", "//./C:/Luruludri Test/a.txt", "C:Luruludri Test\\a.txt",
           "\\Luruludri Test\\a.txt", "/Luruludri Test/a.txt"}) {
         EXPECT_TRUE(Files::exists(path)) << path;
-        EXPECT_EQ(Files::readAll(path), "abc") << path;
+        EXPECT_EQ(Files::readWholeFile(path), "abc") << path;
     }
 }
 
@@ -47,7 +47,7 @@ TEST_F(PcFiles, AreNotFoundByPathsThatQtDoesNotKnow) {
          {"//?/C:/Luruludri Test/a.txt", "\\\\?\\UNC\\C:\\Luruludri Test\\a.txt", "/C:/Luruludri Test/a.txt",
           "\\\\no such computer\\Luruludri Test\\a.txt", "D:Luruludri Test\\a.txt", "C:\\Luruludri Test\\a.txt ", ""}) {
         EXPECT_FALSE(Files::exists(path)) << path;
-        EXPECT_EQ(Files::readAll(path), "") << path;
+        EXPECT_EQ(Files::readWholeFile(path), "") << path;
     }
 }
 

@@ -181,7 +181,8 @@ void TestPc::environment(const QString& name, const QString& value) {
 }
 
 void TestPc::userChoice(const QString& key, const QString& folder) {
-    m_world->describe("userLocations", key, folder);
+    m_world->pc().userLocations.insert(key, folder);
+    m_world->describe();
 }
 
 QString TestPc::volume(QChar drive) const {

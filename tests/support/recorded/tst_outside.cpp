@@ -41,7 +41,7 @@ TEST_F(OutsideTheRecording, NoFileIsThere) {
           own.filePath("game.exe"), '/' + own.filePath("game.exe"), "file://" + own.filePath("game.exe"),
           ':' + own.filePath("game.exe"), "\\\\?" + own.filePath("game.exe"), "Z:" + own.filePath("game.exe")}) {
         EXPECT_FALSE(Files::exists(path)) << path.toStdString();
-        EXPECT_EQ(Files::readAll(path), "") << path.toStdString();
+        EXPECT_EQ(Files::readWholeFile(path), "") << path.toStdString();
     }
     EXPECT_EQ(Files::shortcutTarget(own.filePath("game.exe")), "");
 }
@@ -67,7 +67,7 @@ TEST_F(OutsideTheRecording, APathWithoutADriveIsOnTheHostsOrElseOnC) {
     pc.file("drives/C/Games/x.exe", "wrong");
     pc.describe(R"({"host": {"executable": "d:\\Host\\host.exe", "version": "1.0.0.0"}})");
     pc.choose();
-    EXPECT_EQ(Files::readAll("\\Games\\x.exe"), "abc");
+    EXPECT_EQ(Files::readWholeFile("\\Games\\x.exe"), "abc");
     EXPECT_EQ(Paths::absoluteFolderOf("/Games/x.exe"), "D:/Games");
     Platform::FolderEntry entry;
     EXPECT_TRUE(Platform::firstEntry("\\Games", entry));
@@ -94,7 +94,7 @@ TEST(WithoutARecording, FilesAreTheSystemsOwn) {
     const QTemporaryDir own;
     QFile file(own.filePath("game.exe"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("own") == 3 && file.flush());
-    EXPECT_EQ(Files::readAll(own.filePath("game.exe")), "own");
+    EXPECT_EQ(Files::readWholeFile(own.filePath("game.exe")), "own");
     EXPECT_TRUE(Files::folderExists(own.path()));
     QString folder = "/";
     EXPECT_TRUE(Files::enter(folder, own.path().mid(1)));
