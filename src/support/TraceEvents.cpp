@@ -1,5 +1,7 @@
 #include "support/TraceEvents.h"
 
+#include "support/JsonLine.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -155,42 +157,37 @@ void list(IndexEnd& event, Fields& fields) {
     fields("entries", event.entries);
 }
 
-// Objects are filled by insert(): what a list in braces becomes takes part in Qt's binary interface, and depends on the
-// C++ library that Qt was built with.
-
 class Writer {
 public:
     explicit Writer(const EventName& name) {
-        insert("event", QLatin1String(name.event));
+        m_line.add("event", QString::fromLatin1(name.event));
         if (name.what != nullptr) {
-            insert("what", QLatin1String(name.what));
+            m_line.add("what", QString::fromLatin1(name.what));
         }
     }
 
-    void operator()(const char* name, const QString& text) { insert(name, text); }
+    void operator()(const char* name, const QString& text) { m_line.add(name, text); }
 
-    void operator()(const char* name, bool flag) { insert(name, flag); }
+    void operator()(const char* name, const QStringList& texts) { m_line.add(name, texts); }
 
-    void operator()(const char* name, int number) { insert(name, number); }
+    void operator()(const char* name, bool flag) { m_line.add(name, flag); }
 
-    void operator()(const char* name, quint32 number) { insert(name, static_cast<qint64>(number)); }
+    void operator()(const char* name, int number) { m_line.add(name, qint64{number}); }
 
-    void operator()(const char* name, const QStringList& texts) { insert(name, QJsonArray::fromStringList(texts)); }
+    void operator()(const char* name, quint32 number) { m_line.add(name, qint64{number}); }
 
-    void operator()(const char* name, const QByteArray& bytes) { insert(name, QString::fromLatin1(bytes.toHex())); }
+    void operator()(const char* name, const QByteArray& bytes) { m_line.add(name, QString::fromLatin1(bytes.toHex())); }
 
     void operator()(const char* name, const std::optional<QString>& text) {
         if (text) {
-            insert(name, *text);
+            m_line.add(name, *text);
         }
     }
 
-    QByteArray line() const { return QJsonDocument(m_json).toJson(QJsonDocument::Compact) + '\n'; }
+    QByteArray line() const { return m_line.end(); }
 
 private:
-    void insert(const char* name, const QJsonValue& value) { m_json.insert(QLatin1String(name), value); }
-
-    QJsonObject m_json;
+    JsonLine m_line;
 };
 
 /// 0 for a number that the type can't hold.
