@@ -1,7 +1,9 @@
 #include "recordings/HostFiles.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
+#include <new>
 #include <system_error>
 
 namespace Recordings::HostFiles {
@@ -24,7 +26,12 @@ std::optional<QByteArray> read(const QByteArray& path) {
     if (error || size < 0 || size > longestFile) {
         return std::nullopt;
     }
-    std::ifstream stream(pathOf(path), std::ios::binary);
+    std::ifstream stream;
+    stream.rdbuf()->pubsetbuf(nullptr, 0); // takes no memory, whose want the stream would keep to itself
+    stream.open(pathOf(path), std::ios::binary);
+    if (!stream.is_open() && errno == ENOMEM) {
+        throw std::bad_alloc(); // lest a file that is there counts as unreadable from now on
+    }
     QByteArray bytes(static_cast<int>(size), Qt::Uninitialized);
     if (!stream.is_open() || (size > 0 && !stream.read(bytes.data(), size) && !stream.eof())) {
         return std::nullopt;

@@ -1,4 +1,5 @@
 #include "allocation/FailingAllocation.h"
+#include "allocation/SystemMemory.h"
 #include "catalogue/GamesExplorerIndex.h"
 #include "catalogue/StartMenuIndex.h"
 #include "catalogue/UninstallIndex.h"
@@ -66,13 +67,16 @@ protected:
     /// False when the build made no more allocations than it was granted.
     template <class Index>
     static bool failsToBuild(Index& index, int countdown) {
-        const FailingAllocation failing(countdown);
-        try {
-            index.entries();
-        } catch (const std::bad_alloc&) {
-            return true;
-        }
-        return failing.hasFailed();
+        bool hasFailed = false;
+        SystemMemory::run([&] {
+            const FailingAllocation failing(countdown);
+            try {
+                index.entries();
+            } catch (const std::bad_alloc&) {
+            }
+            hasFailed = failing.hasFailed();
+        });
+        return hasFailed;
     }
 
     TestPc pc;

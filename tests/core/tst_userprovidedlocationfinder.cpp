@@ -177,12 +177,14 @@ TEST_F(UserProvidedLocationFinderTest, NothingIsKeptInTheFinder) {
     EXPECT_EQ(early.userLocation(), "");
     finder("K", {}).setUserLocation("D:\\X");
     EXPECT_EQ(early.userLocation(), "D:\\X") << "another finder's choice";
+    pc.file("D:\\Y\\a.exe"); // a recorded PC that is changed is another one, without what was set in the first
     store("K", "D:\\Y");
     EXPECT_EQ(early.userLocation(), "D:\\Y") << "the host's choice";
-    pc.file("D:\\Y\\a.exe");
     EXPECT_TRUE(early.find(location));
     pc.removeFile("D:\\Y\\a.exe");
+    store("K", "D:\\Y");
     EXPECT_FALSE(early.find(location));
+    EXPECT_EQ(location.installFolder, "D:\\Y");
 }
 
 TEST_F(UserProvidedLocationFinderTest, AMultiFinderStopsAtARememberedFolderThatFails) {

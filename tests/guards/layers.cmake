@@ -5,8 +5,8 @@ cmake_minimum_required(VERSION 3.25)
 
 set(faults "")
 
-# What the files of a folder may include besides their own folder's: the folders below it, or single headers of them. core/plugin alone knows all
-# finders; a finder folder knows no other, but for steam, which reads two of the catalogue's indexes.
+# What the files of a folder may include besides their own folder's: the folders below it, or single headers of them.
+# core/plugin alone knows all finders; a finder folder knows no other, but for steam, which reads two of the catalogue's indexes.
 set(may_core_plugin catalogue core platform runtimes steam stores support)
 set(may_steam catalogue core platform support)
 set(may_catalogue core platform support)
@@ -18,7 +18,7 @@ set(may_platform "")
 set(may_platform_recorded platform recordings)
 set(may_platform_windows platform)
 set(may_recordings "")
-set(may_find core platform recordings support/TraceEvents.h)
+set(may_find core platform recordings support/ForeignFiles.h support/TraceEvents.h support/UninstallCommand.h)
 
 file(GLOB_RECURSE files RELATIVE "${SOURCE}" "${SOURCE}/src/*.h" "${SOURCE}/src/*.cpp" "${SOURCE}/find/*.h"
      "${SOURCE}/find/*.cpp" "${SOURCE}/recordings/*.h" "${SOURCE}/recordings/*.cpp")
