@@ -29,32 +29,33 @@ MultiFinder::MultiFinder(std::unique_ptr<IGameFinder>&& finder1, std::unique_ptr
                          std::unique_ptr<IGameFinder>&& finder11) {
     constexpr std::size_t mostFinders = 11;
     m_finders.reserve(mostFinders); // so that nothing can throw once the first finder is taken over
-    takeOver(m_finders, std::move(finder11));
-    takeOver(m_finders, std::move(finder10));
-    takeOver(m_finders, std::move(finder9));
-    takeOver(m_finders, std::move(finder8));
-    takeOver(m_finders, std::move(finder7));
-    takeOver(m_finders, std::move(finder6));
-    takeOver(m_finders, std::move(finder5));
-    takeOver(m_finders, std::move(finder4));
-    takeOver(m_finders, std::move(finder3));
-    takeOver(m_finders, std::move(finder2));
     takeOver(m_finders, std::move(finder1));
+    takeOver(m_finders, std::move(finder2));
+    takeOver(m_finders, std::move(finder3));
+    takeOver(m_finders, std::move(finder4));
+    takeOver(m_finders, std::move(finder5));
+    takeOver(m_finders, std::move(finder6));
+    takeOver(m_finders, std::move(finder7));
+    takeOver(m_finders, std::move(finder8));
+    takeOver(m_finders, std::move(finder9));
+    takeOver(m_finders, std::move(finder10));
+    takeOver(m_finders, std::move(finder11));
 }
 
 MultiFinder::~MultiFinder() {
-    while (!m_finders.empty()) {
-        m_finders.pop_back();
+    // First to last: some vectors begin with the last.
+    for (std::unique_ptr<IGameFinder>& finder : m_finders) {
+        finder.reset();
     }
 }
 
 bool MultiFinder::find(GameLocation& location) {
     std::size_t number = 0;
-    for (auto finder = m_finders.rbegin(); finder != m_finders.rend(); ++finder) {
-        if (tracedFind(**finder, ++number, location)) {
+    for (const std::unique_ptr<IGameFinder>& finder : m_finders) {
+        if (tracedFind(*finder, ++number, location)) {
             return true;
         }
-        if (!(*finder)->userLocation().isEmpty()) {
+        if (!finder->userLocation().isEmpty()) {
             Trace::note("The user has chosen a folder for this game, so no other finder is asked.");
             return false;
         }
@@ -64,8 +65,8 @@ bool MultiFinder::find(GameLocation& location) {
 
 QString MultiFinder::userLocation() {
     QString location;
-    for (auto finder = m_finders.rbegin(); finder != m_finders.rend(); ++finder) {
-        location = (*finder)->userLocation();
+    for (const std::unique_ptr<IGameFinder>& finder : m_finders) {
+        location = finder->userLocation();
         if (!location.isEmpty()) {
             break;
         }
@@ -74,8 +75,8 @@ QString MultiFinder::userLocation() {
 }
 
 void MultiFinder::setUserLocation(const QString& path) {
-    for (auto finder = m_finders.rbegin(); finder != m_finders.rend(); ++finder) {
-        (*finder)->setUserLocation(path);
+    for (const std::unique_ptr<IGameFinder>& finder : m_finders) {
+        finder->setUserLocation(path);
     }
 }
 

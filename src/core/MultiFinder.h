@@ -18,6 +18,7 @@ public:
                 std::unique_ptr<IGameFinder>&& finder9, std::unique_ptr<IGameFinder>&& finder10,
                 std::unique_ptr<IGameFinder>&& finder11);
 
+    /// The first member goes first.
     ~MultiFinder() override;
 
     /// A member that rests on the user's choice and fails ends the search: once the user has chosen a folder, no other
@@ -31,8 +32,6 @@ public:
     void setUserLocation(const QString& path) override;
 
 private:
-    /// The last member first: from its end alone a vector gives up one element after the other, and the first member
-    /// must go first.
     std::vector<std::unique_ptr<IGameFinder>> m_finders;
 };
 
