@@ -23,6 +23,10 @@ public:
     Descriptor(Descriptor&& other) noexcept
         : m_fd(std::exchange(other.m_fd, -1)) {}
 
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor& operator=(Descriptor&&) = delete;
+
     ~Descriptor() {
         if (isOpen()) {
             ::close(m_fd);
@@ -34,9 +38,6 @@ public:
     int get() const { return m_fd; }
 
 private:
-    Q_DISABLE_COPY(Descriptor)
-    Descriptor& operator=(Descriptor&&) = delete;
-
     int m_fd;
 };
 
