@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 #include <cstddef>
 #include <functional>
 
@@ -17,5 +19,15 @@ void run(const std::function<void()>& work);
 
 /// What the build's leak checker says so far; true without one.
 bool nothingLeaked();
+
+/// While it lives, the leak checker looks away from what this thread allocates.
+class UncheckedLeaks {
+public:
+    UncheckedLeaks();
+    ~UncheckedLeaks();
+
+private:
+    Q_DISABLE_COPY_MOVE(UncheckedLeaks)
+};
 
 } // namespace SystemMemory

@@ -19,6 +19,8 @@ void* LURULUDRI_REAL(malloc)(std::size_t size);
 void* LURULUDRI_REAL(calloc)(std::size_t count, std::size_t size);
 void* LURULUDRI_REAL(realloc)(void* memory, std::size_t size);
 int __lsan_do_recoverable_leak_check() __attribute__((weak));
+void __lsan_disable() __attribute__((weak));
+void __lsan_enable() __attribute__((weak));
 
 __attribute__((visibility("default"))) void* malloc(std::size_t size) {
     if (SystemMemory::mayAllocate()) {
@@ -78,4 +80,16 @@ void SystemMemory::run(const std::function<void()>& work) {
 
 bool SystemMemory::nothingLeaked() {
     return __lsan_do_recoverable_leak_check == nullptr || __lsan_do_recoverable_leak_check() == 0;
+}
+
+SystemMemory::UncheckedLeaks::UncheckedLeaks() {
+    if (__lsan_disable != nullptr) {
+        __lsan_disable();
+    }
+}
+
+SystemMemory::UncheckedLeaks::~UncheckedLeaks() {
+    if (__lsan_enable != nullptr) {
+        __lsan_enable();
+    }
 }

@@ -15,3 +15,7 @@ void SystemMemory::run(const std::function<void()>& work) {
 bool SystemMemory::nothingLeaked() {
     return true;
 }
+
+SystemMemory::UncheckedLeaks::UncheckedLeaks() = default;
+
+SystemMemory::UncheckedLeaks::~UncheckedLeaks() = default;
