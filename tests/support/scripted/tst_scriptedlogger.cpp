@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -35,7 +35,7 @@ protected:
             EXPECT_EQ(name, "LogLevel");
             EXPECT_EQ(length, 4U);
             const Level& level = opened.back() == Platform::RootKey::CurrentUser ? user : machine;
-            std::memcpy(data, level.bytes.data(), level.bytes.size());
+            std::copy(level.bytes.begin(), level.bytes.end(), static_cast<uchar*>(data));
             return level.result;
         };
     }
