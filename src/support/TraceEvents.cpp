@@ -242,7 +242,7 @@ private:
 
 template <class OneEvent>
 bool readAs(const Reader& reader, std::optional<Event>& event) {
-    OneEvent one;
+    OneEvent one{};
     if (!reader.isNamed(OneEvent::inTrace)) {
         return false;
     }
