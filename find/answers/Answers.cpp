@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -73,4 +73,4 @@ Answers ask(IGameFinderFactory& factory, const Catalogue& games, Progress& progr
     return answers;
 }
 
-} // namespace Host
+} // namespace Find

@@ -10,7 +10,7 @@
 
 class IGameFinderFactory;
 
-namespace Host {
+namespace Find {
 
 class Progress;
 
@@ -41,4 +41,4 @@ GameAnswer askForGame(IGameFinderFactory& factory, const Game& game);
 /// Asks for every game, in order, and for the runtimes. Every finder is gone afterwards.
 Answers ask(IGameFinderFactory& factory, const Catalogue& games, Progress& progress);
 
-} // namespace Host
+} // namespace Find

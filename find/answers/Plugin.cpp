@@ -4,7 +4,7 @@
 
 #include <QFileInfo>
 
-namespace Host {
+namespace Find {
 
 Plugin::Plugin(const QString& file)
     // A name without a folder would be searched for among the system's libraries.
@@ -31,4 +31,4 @@ std::unique_ptr<IGameFinderFactory> Plugin::createFactory(QString& fault) {
     return factory;
 }
 
-} // namespace Host
+} // namespace Find

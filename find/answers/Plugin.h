@@ -8,7 +8,7 @@
 
 class IGameFinderFactory;
 
-namespace Host {
+namespace Find {
 
 /// The plug-in's file in memory. Unloads it at its end: everything that came out of the plug-in must be gone by then,
 /// texts included, because they may lie in the file.
@@ -27,4 +27,4 @@ private:
     QLibrary m_library;
 };
 
-} // namespace Host
+} // namespace Find

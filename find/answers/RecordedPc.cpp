@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -67,4 +67,4 @@ std::optional<Recordings::Recording> chooseRecordedPc(const std::optional<QStrin
     return recording;
 }
 
-} // namespace Host
+} // namespace Find

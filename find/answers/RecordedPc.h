@@ -7,7 +7,7 @@
 
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 /// Chooses the recorded PC at `path`, a file or a folder, for this process and reads it. Without a path the choice of
 /// the environment stands. `fault` says why it cannot be used. No value when there is none, or none was chosen. To be
@@ -17,4 +17,4 @@ std::optional<Recordings::Recording> chooseRecordedPc(const std::optional<QStrin
 /// What in the recording at `path` cannot be read, as "FILE:LINE: message", the files named as the user named the path.
 QStringList describeProblems(const QString& path, const std::vector<Recordings::Problem>& problems);
 
-} // namespace Host
+} // namespace Find

@@ -7,7 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -91,4 +91,4 @@ QString renderJson(const Answers& answers) {
     return QString::fromUtf8(QJsonDocument(root).toJson());
 }
 
-} // namespace Host
+} // namespace Find

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-namespace Host {
+namespace Find {
 
 struct Answers;
 
@@ -14,4 +14,4 @@ QString renderTables(const Answers& answers, const Terminal& terminal = {});
 /// The answers for programs: a JSON object, described in docs/json.md.
 QString renderJson(const Answers& answers);
 
-} // namespace Host
+} // namespace Find

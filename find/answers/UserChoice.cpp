@@ -6,7 +6,7 @@
 
 #include <functional>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -66,4 +66,4 @@ bool forgetChoice(IGameFinderFactory& factory, const QString& key) {
     return finder->userLocation().isEmpty();
 }
 
-} // namespace Host
+} // namespace Find

@@ -7,7 +7,7 @@
 
 class IGameFinderFactory;
 
-namespace Host {
+namespace Find {
 
 /// What the user's choice of a folder came to. Its texts may lie in the plug-in, so it must go before that is unloaded.
 struct UserChoice {
@@ -30,4 +30,4 @@ bool hasKey(const Catalogue& games, const QString& key);
 /// The executables of all finders in the catalogue that ask for the user's choice under this key, each once.
 QStringList executablesFor(const Catalogue& games, const QString& key);
 
-} // namespace Host
+} // namespace Find

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -110,4 +110,4 @@ QStringList namesLike(const Catalogue& catalogue, const QString& text) {
     return names;
 }
 
-} // namespace Host
+} // namespace Find

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 struct FinderType;
 
@@ -53,4 +53,4 @@ std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringLi
 /// The names of games that contain the text or are contained in it, letter case ignored; the first three.
 QStringList namesLike(const Catalogue& catalogue, const QString& text);
 
-} // namespace Host
+} // namespace Find

@@ -11,7 +11,7 @@
 #include <cmath>
 #include <limits>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -222,4 +222,4 @@ bool CatalogueReader::fail(const QString& place, const QString& message) {
     return false;
 }
 
-} // namespace Host
+} // namespace Find

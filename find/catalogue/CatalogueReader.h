@@ -11,7 +11,7 @@ class QJsonDocument;
 class QJsonObject;
 class QJsonValue;
 
-namespace Host {
+namespace Find {
 
 struct FinderField;
 
@@ -44,4 +44,4 @@ private:
     QString m_fault;
 };
 
-} // namespace Host
+} // namespace Find

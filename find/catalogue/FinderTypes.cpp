@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <array>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -153,4 +153,4 @@ std::unique_ptr<IGameFinder> makeMultiFinder(IGameFinderFactory& factory, const 
                                      std::move(f[8]), std::move(f[9]), std::move(f[10]));
 }
 
-} // namespace Host
+} // namespace Find

@@ -9,7 +9,7 @@
 
 class IGameFinderFactory;
 
-namespace Host {
+namespace Find {
 
 struct Inventory;
 
@@ -48,4 +48,4 @@ const FinderType* findFinderType(const QString& name);
 /// not give is left out.
 std::unique_ptr<IGameFinder> makeMultiFinder(IGameFinderFactory& factory, const std::vector<FinderEntry>& entries);
 
-} // namespace Host
+} // namespace Find

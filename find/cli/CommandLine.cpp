@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -193,4 +193,4 @@ CommandLine parseCommandLine(const QStringList& arguments) {
     return {CommandLine::Action::Run, readOptions(form, words, parser, declared), {}};
 }
 
-} // namespace Host
+} // namespace Find

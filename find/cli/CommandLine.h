@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 /// What the program does.
 enum class Command {
@@ -46,4 +46,4 @@ struct CommandLine {
 /// Needs the application object. The first argument is the program's own name.
 CommandLine parseCommandLine(const QStringList& arguments);
 
-} // namespace Host
+} // namespace Find

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <cstdio>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -59,4 +59,4 @@ void Console::complainOfQtMessages() {
     });
 }
 
-} // namespace Host
+} // namespace Find

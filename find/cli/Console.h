@@ -7,7 +7,7 @@
 
 #include <memory>
 
-namespace Host {
+namespace Find {
 
 enum class Stream { Output, Errors };
 
@@ -48,4 +48,4 @@ private:
     std::unique_ptr<Before> m_before; ///< how the terminal was, where it has to be put back
 };
 
-} // namespace Host
+} // namespace Find

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace Host {
+namespace Find {
 
 /// Sets a variable in the environment of this process, for the plug-in too; an empty value removes it. The value can
 /// be any text: Qt's own function would lose, on Windows, what is outside the ANSI code page. False when it failed.
@@ -11,4 +11,4 @@ bool setEnvironmentVariable(const char* name, const QString& value);
 /// Whether the library answers from the PC it runs on, and knows no recorded ones.
 bool isPcItself();
 
-} // namespace Host
+} // namespace Find

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cctype>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -80,4 +80,4 @@ TextPosition textPosition(const QByteArray& utf8, int offset) {
     return position;
 }
 
-} // namespace Host
+} // namespace Find

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 /// A fault in a JSON text, with the byte where it was noticed.
 struct JsonFault {
@@ -26,4 +26,4 @@ struct TextPosition {
 /// Where in the UTF-8 text a byte is.
 TextPosition textPosition(const QByteArray& utf8, int offset);
 
-} // namespace Host
+} // namespace Find

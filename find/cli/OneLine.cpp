@@ -2,7 +2,7 @@
 
 #include <QChar>
 
-namespace Host {
+namespace Find {
 
 QString oneLine(const QString& text) {
     QString line = text;
@@ -16,4 +16,4 @@ QString oneLine(const QString& text) {
     return line;
 }
 
-} // namespace Host
+} // namespace Find

@@ -2,10 +2,10 @@
 
 #include <QString>
 
-namespace Host {
+namespace Find {
 
 /// The text with a space for each character that would leave the line or steer the terminal: names come out of
 /// registries and files, where anything can stand.
 QString oneLine(const QString& text);
 
-} // namespace Host
+} // namespace Find

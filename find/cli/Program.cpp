@@ -23,7 +23,7 @@
 #include <new>
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -203,4 +203,4 @@ ExitStatus runProgram(const QStringList& arguments) {
     return fail(QStringLiteral("try luruludri-find --help"));
 }
 
-} // namespace Host
+} // namespace Find

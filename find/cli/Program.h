@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-namespace Host {
+namespace Find {
 
 enum ExitStatus {
     allFound = 0,
@@ -16,4 +16,4 @@ ExitStatus runProgram(const QStringList& arguments);
 /// Tells the user that memory ran out, which is how `runProgram` and its caller end on std::bad_alloc.
 ExitStatus failForMemory();
 
-} // namespace Host
+} // namespace Find

@@ -9,7 +9,7 @@
 
 #include <utility>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -76,4 +76,4 @@ void Progress::finish() {
     }
 }
 
-} // namespace Host
+} // namespace Find

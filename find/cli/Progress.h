@@ -5,7 +5,7 @@
 
 #include <functional>
 
-namespace Host {
+namespace Find {
 
 /// Shows how far a task is ("asking 12/340: Käferrennen") on one line of the error stream that it rewrites and, at the
 /// end, erases. Shows nothing when that is not a terminal, nothing of a quick task, and not every step of a fast one.
@@ -40,4 +40,4 @@ private:
     bool m_isShown = false;
 };
 
-} // namespace Host
+} // namespace Find

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -129,4 +129,4 @@ QString renderTable(const Table& table, const Terminal& terminal) {
     return lines.text();
 }
 
-} // namespace Host
+} // namespace Find

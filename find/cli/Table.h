@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 /// What a cell says at a glance. Shown by colour, so that the text has to say it too.
 enum class Tone { Plain, Heading, Good, Bad };
@@ -32,4 +32,4 @@ struct Table {
 /// possible have to be broken into several lines; those that are go on two columns further in. Nothing is left out.
 QString renderTable(const Table& table, const Terminal& terminal = {});
 
-} // namespace Host
+} // namespace Find

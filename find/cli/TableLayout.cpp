@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -112,4 +112,4 @@ TableLayout chooseLayout(const CellWidths& cells, std::size_t leading, int width
     return best;
 }
 
-} // namespace Host
+} // namespace Find

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 constexpr int gapBetweenColumns = 2;
 
@@ -17,4 +17,4 @@ struct TableLayout {
 /// other the better. `leading` columns always do. All do when `width` is 0, for no limit.
 TableLayout chooseLayout(const std::vector<std::vector<int>>& cells, std::size_t leading, int width);
 
-} // namespace Host
+} // namespace Find

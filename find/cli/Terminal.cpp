@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -32,4 +32,4 @@ Terminal describeTerminal(const TerminalFacts& facts, const QProcessEnvironment&
     return terminal;
 }
 
-} // namespace Host
+} // namespace Find

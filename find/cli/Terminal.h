@@ -2,7 +2,7 @@
 
 class QProcessEnvironment;
 
-namespace Host {
+namespace Find {
 
 /// What the system says of a stream.
 struct TerminalFacts {
@@ -26,4 +26,4 @@ Terminal describeTerminal(const TerminalFacts& facts, const QProcessEnvironment&
 /// Less has no room for a table.
 constexpr int leastWidth = 20;
 
-} // namespace Host
+} // namespace Find

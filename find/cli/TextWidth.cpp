@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -95,4 +95,4 @@ int fittingLength(const QString& text, int start, int width) {
     return end - start;
 }
 
-} // namespace Host
+} // namespace Find

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace Host {
+namespace Find {
 
 /// The columns that a text takes on a terminal: two for East Asian wide characters, none for marks that combine with
 /// the character before them and for invisible ones.
@@ -12,4 +12,4 @@ int displayWidth(const QString& text);
 /// its marks, so that one can go on behind it; 0 only at the text's end.
 int fittingLength(const QString& text, int start, int width);
 
-} // namespace Host
+} // namespace Find

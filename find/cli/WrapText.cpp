@@ -4,7 +4,7 @@
 
 #include <QLatin1String>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -47,4 +47,4 @@ QStringList wrapText(const QString& text, int firstWidth, int width) {
     return lines;
 }
 
-} // namespace Host
+} // namespace Find

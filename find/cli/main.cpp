@@ -7,14 +7,14 @@
 #include <new>
 
 int main(int argc, char* argv[]) {
-    const Host::Console console;
-    Host::Console::complainOfQtMessages();
+    const Find::Console console;
+    Find::Console::complainOfQtMessages();
     try {
         QCoreApplication application(argc, argv);
         QCoreApplication::setApplicationName(QStringLiteral("luruludri-find"));
         QCoreApplication::setApplicationVersion(QLatin1String(LURULUDRI_VERSION));
-        return Host::runProgram(QCoreApplication::arguments());
+        return Find::runProgram(QCoreApplication::arguments());
     } catch (const std::bad_alloc&) {
-        return Host::failForMemory();
+        return Find::failForMemory();
     }
 }

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <variant>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -198,4 +198,4 @@ bool isOfLogLevel(const TraceEvent& event) {
     return value != nullptr && value->place.key.startsWith(loggers);
 }
 
-} // namespace Host
+} // namespace Find

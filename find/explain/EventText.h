@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace Host {
+namespace Find {
 
 /// What an event of the trace says, for people: one line, some more where names are listed. Empty for an event that
 /// tells nothing of the PC.
@@ -14,4 +14,4 @@ QStringList describeEvent(const TraceEvent& event);
 /// Whether the event is one of the library's own looking up how much it should write to its log files.
 bool isOfLogLevel(const TraceEvent& event);
 
-} // namespace Host
+} // namespace Find

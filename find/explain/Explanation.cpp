@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -162,4 +162,4 @@ QString explain(const Game& game, const GameAnswer& answer, const TraceEvents& e
     return explainer.text();
 }
 
-} // namespace Host
+} // namespace Find

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-namespace Host {
+namespace Find {
 
 struct Game;
 struct GameAnswer;
@@ -13,4 +13,4 @@ struct GameAnswer;
 /// saw and why it went on. In full when `isFull`; otherwise long lists are told in brief.
 QString explain(const Game& game, const GameAnswer& answer, const TraceEvents& events, bool isFull);
 
-} // namespace Host
+} // namespace Find

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -102,4 +102,4 @@ QStringList similarNames(const TraceSection& section, const QStringList& words) 
     return names;
 }
 
-} // namespace Host
+} // namespace Find

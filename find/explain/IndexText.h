@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-namespace Host {
+namespace Find {
 
 struct TraceSection;
 
@@ -13,4 +13,4 @@ QStringList describeIndex(const TraceSection& index, const QStringList& words);
 /// The names in the lists made within a section that mention one of the words, each with the list's name and folder.
 QStringList similarNames(const TraceSection& section, const QStringList& words);
 
-} // namespace Host
+} // namespace Find

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QVariant>
 
-namespace Host {
+namespace Find {
 
 PluginTrace::PluginTrace() {
     m_lines.open(QIODevice::WriteOnly);
@@ -18,4 +18,4 @@ TraceEvents PluginTrace::events() const {
     return parseTrace(m_lines.data());
 }
 
-} // namespace Host
+} // namespace Find

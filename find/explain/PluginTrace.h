@@ -5,7 +5,7 @@
 #include <QBuffer>
 #include <QtGlobal>
 
-namespace Host {
+namespace Find {
 
 /// Has the plug-in tell a trace of what it asks of the PC, to the memory of this process: also in a process that runs
 /// as administrator, where the plug-in does not go by the environment, and without a file that would hold private
@@ -24,4 +24,4 @@ private:
     QBuffer m_lines;
 };
 
-} // namespace Host
+} // namespace Find

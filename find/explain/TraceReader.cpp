@@ -2,7 +2,7 @@
 
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 TraceEvents parseTrace(const QByteArray& lines) {
     TraceEvents events;
@@ -19,4 +19,4 @@ TraceEvents parseTrace(const QByteArray& lines) {
     return events;
 }
 
-} // namespace Host
+} // namespace Find

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 /// One event of the library's trace (docs/trace.md).
 using TraceEvent = Trace::Event;
@@ -16,4 +16,4 @@ using TraceEvents = std::vector<TraceEvent>;
 /// over, the last one too while it is being written.
 TraceEvents parseTrace(const QByteArray& lines);
 
-} // namespace Host
+} // namespace Find

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -77,4 +77,4 @@ TraceSection traceTree(const TraceEvents& events) {
     return whole;
 }
 
-} // namespace Host
+} // namespace Find

@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 /// What was told between a beginning and its end in a trace.
 struct TraceSection {
@@ -27,4 +27,4 @@ struct TraceSection {
 /// The events with what belongs together put together. A section whose end was lost ends with the one around it.
 TraceSection traceTree(const TraceEvents& events);
 
-} // namespace Host
+} // namespace Find

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -49,4 +49,4 @@ bool mentions(const QString& text, const QStringList& words) {
                        [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
-} // namespace Host
+} // namespace Find

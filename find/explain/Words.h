@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace Host {
+namespace Find {
 
 struct Game;
 
@@ -14,4 +14,4 @@ QStringList searchWords(const Game& game);
 /// Whether the text has any of the words in it, letter case ignored.
 bool mentions(const QString& text, const QStringList& words);
 
-} // namespace Host
+} // namespace Find

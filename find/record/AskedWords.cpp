@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -193,4 +193,4 @@ QStringList askedWords(const TraceEvents& events, const Recordings::Pc& pc, cons
     return words;
 }
 
-} // namespace Host
+} // namespace Find

@@ -5,11 +5,11 @@
 
 #include <QStringList>
 
-namespace Host {
+namespace Find {
 
 /// The names that finders asked for and did not read anywhere on the PC: their own constants, and what they were asked
 /// for. Names of keys, values, variables and files, and what patterns are made of.
 /// What stands behind the folder that holds the users' profiles is none.
 QStringList askedWords(const TraceEvents& events, const Recordings::Pc& pc, const QString& profilesFolder);
 
-} // namespace Host
+} // namespace Find

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -46,4 +46,4 @@ bool isRealFolder(const Platform::FolderEntry& entry) {
     return (entry.attributes & Platform::attributeFolder) != 0 && (entry.attributes & Platform::attributeLink) == 0;
 }
 
-} // namespace Host
+} // namespace Find

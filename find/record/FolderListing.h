@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 /// What is in a folder, but "." and "..": links and shortcuts themselves. Empty when it has no drive letter or can't be
 /// listed.
@@ -19,4 +19,4 @@ QStringList subFoldersOf(const QString& folder);
 /// Whether the entry is a folder that is not a link to one.
 bool isRealFolder(const Platform::FolderEntry& entry);
 
-} // namespace Host
+} // namespace Find

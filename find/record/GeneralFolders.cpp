@@ -7,7 +7,7 @@
 #include <iterator>
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -105,4 +105,4 @@ bool GeneralFolders::isOfProfile(const QString& path) const {
     });
 }
 
-} // namespace Host
+} // namespace Find

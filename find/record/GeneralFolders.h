@@ -6,7 +6,7 @@
 #include <QSet>
 #include <QString>
 
-namespace Host {
+namespace Find {
 
 /// The folders that hold much more than a game, so that what is below them is nobody's business who looks for a game's
 /// executables: a drive's root, Windows' own folders, those of all programs, of the users and of their documents. An
@@ -29,4 +29,4 @@ private:
     QSet<QString> m_profiles;
 };
 
-} // namespace Host
+} // namespace Find

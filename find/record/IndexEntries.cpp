@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -51,4 +51,4 @@ std::vector<IndexEntry> IndexEntries::onePerFolder(const char* index) const {
     return entries;
 }
 
-} // namespace Host
+} // namespace Find

@@ -7,7 +7,7 @@
 #include <map>
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 /// One entry of a list of what is installed: the name by which finders look it up, and the folder that it tells.
 struct IndexEntry {
@@ -30,4 +30,4 @@ private:
     std::map<QString, std::vector<IndexEntry>> m_entries;
 };
 
-} // namespace Host
+} // namespace Find

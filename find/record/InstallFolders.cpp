@@ -9,7 +9,7 @@
 #include <iterator>
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -124,4 +124,4 @@ void InstallFolders::listExecutables(const GeneralFolders& general, Recordings::
     }
 }
 
-} // namespace Host
+} // namespace Find

@@ -10,7 +10,7 @@
 #include <map>
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 class Progress;
 
@@ -35,4 +35,4 @@ private:
 /// Whether Windows starts a file of this name.
 bool isExecutableName(const QString& name);
 
-} // namespace Host
+} // namespace Find

@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -57,4 +57,4 @@ QStringList installedPackageFamilies() {
     return families;
 }
 
-} // namespace Host
+} // namespace Find

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace Host {
+namespace Find {
 
 /// The families of the app packages that are registered for the user, each once. Whether they are installed, the
 /// system's package functions say.
@@ -15,4 +15,4 @@ QString packagesKey();
 /// "Maker.Game_1.2.3.0_x64__hash" belongs to "Maker.Game_hash". Empty when that is no package's full name.
 QString familyOfPackage(const QString& fullName);
 
-} // namespace Host
+} // namespace Find

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 /// What finders can be asked for on a PC, as far as it is known.
 struct Inventory {
@@ -17,4 +17,4 @@ struct Inventory {
     QStringList userChoiceKeys;
 };
 
-} // namespace Host
+} // namespace Find

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -157,4 +157,4 @@ QByteArray NeutralNames::utf16(const QByteArray& bytes) const {
     return toUtf16(text(units)) + bytes.mid(units.size() * 2);
 }
 
-} // namespace Host
+} // namespace Find

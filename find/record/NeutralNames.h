@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 /// A name that tells whose PC it is, and what stands in its place in a recording.
 struct PrivateName {
@@ -55,4 +55,4 @@ bool containsWord(const QString& text, const QString& word);
 /// needs none.
 QString shortFormOf(const QString& name);
 
-} // namespace Host
+} // namespace Find

@@ -3,7 +3,7 @@
 #include "find/record/UsedParts.h"
 #include "recordings/ShellLink.h"
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -76,4 +76,4 @@ Recordings::Pc neutralPc(const Recordings::Pc& pc, const NeutralNames& names) {
     return neutral;
 }
 
-} // namespace Host
+} // namespace Find

@@ -7,7 +7,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -48,4 +48,4 @@ bool OutputFile::write(const QByteArray& contents) {
     return m_file.open(QIODevice::WriteOnly) && m_file.write(contents) == contents.size() && m_file.commit();
 }
 
-} // namespace Host
+} // namespace Find

@@ -4,7 +4,7 @@
 #include <QSaveFile>
 #include <QString>
 
-namespace Host {
+namespace Find {
 
 /// A new file that a recording is written into. It appears under its name when it is complete and not before.
 class OutputFile {
@@ -25,4 +25,4 @@ private:
     QSaveFile m_file;
 };
 
-} // namespace Host
+} // namespace Find

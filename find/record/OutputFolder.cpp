@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -35,4 +35,4 @@ OutputFolder::~OutputFolder() {
     }
 }
 
-} // namespace Host
+} // namespace Find

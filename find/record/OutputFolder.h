@@ -3,7 +3,7 @@
 #include <QString>
 #include <QtGlobal>
 
-namespace Host {
+namespace Find {
 
 /// A new folder that a recording is written into. Removed again, with what is in it, unless it is kept.
 class OutputFolder {
@@ -25,4 +25,4 @@ private:
     bool m_isToBeRemoved = false;
 };
 
-} // namespace Host
+} // namespace Find

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -69,4 +69,4 @@ void addFact(const TraceEvent& event, Recordings::Pc& pc) {
     }
 }
 
-} // namespace Host
+} // namespace Find

@@ -13,7 +13,7 @@
 
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -124,4 +124,4 @@ void PcRecord::leaveOut(const QString& path) {
     }
 }
 
-} // namespace Host
+} // namespace Find

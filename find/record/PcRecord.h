@@ -6,7 +6,7 @@
 
 #include <QStringList>
 
-namespace Host {
+namespace Find {
 
 class Progress;
 
@@ -36,4 +36,4 @@ private:
     QStringList m_leftOut;
 };
 
-} // namespace Host
+} // namespace Find

@@ -14,7 +14,7 @@
 #include <iterator>
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -173,4 +173,4 @@ QString profilesFolderName(const NameSources& sources) {
                                                 : QString::fromLatin1(usualProfilesFolder);
 }
 
-} // namespace Host
+} // namespace Find

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 /// Where the names stand that tell whose PC it is; each empty when unknown.
 struct NameSources {
@@ -36,4 +36,4 @@ std::vector<PrivateName> choosePrivateNames(const NameSources& sources, const Re
 /// The name of the folder that holds the users' profiles ("Users").
 QString profilesFolderName(const NameSources& sources);
 
-} // namespace Host
+} // namespace Find

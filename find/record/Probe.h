@@ -2,11 +2,11 @@
 
 #include <QString>
 
-namespace Host {
+namespace Find {
 
 /// The name of an executable that no game has: who looks for it looks everywhere and never stops early.
 inline QString probeName() {
     return QStringLiteral("luruludri-record-probe");
 }
 
-} // namespace Host
+} // namespace Find

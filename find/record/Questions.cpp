@@ -13,7 +13,7 @@
 
 #include <memory>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -89,4 +89,4 @@ void askEverything(IGameFinderFactory& factory, const Catalogue& games, const Re
         {findersOf(games), IndexEntries(readTrace()), installedPackageFamilies(), userChoiceKeys()});
 }
 
-} // namespace Host
+} // namespace Find

@@ -7,7 +7,7 @@
 
 class IGameFinderFactory;
 
-namespace Host {
+namespace Find {
 
 class Progress;
 
@@ -19,4 +19,4 @@ using ReadTrace = std::function<TraceEvents()>;
 /// not. The answers do not matter, but what the trace tells afterwards.
 void askEverything(IGameFinderFactory& factory, const Catalogue& games, const ReadTrace& readTrace, Progress& progress);
 
-} // namespace Host
+} // namespace Find

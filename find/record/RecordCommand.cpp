@@ -17,7 +17,7 @@
 
 #include <new>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -90,4 +90,4 @@ ExitStatus recordPc(const Options& options, const Catalogue& games, const Record
     return write(pc, record.leftOut(), names, options.keepNames, file);
 }
 
-} // namespace Host
+} // namespace Find

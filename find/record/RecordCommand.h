@@ -4,7 +4,7 @@
 #include "find/cli/Program.h"
 #include "recordings/Pc.h"
 
-namespace Host {
+namespace Find {
 
 struct Options;
 
@@ -12,4 +12,4 @@ struct Options;
 /// it answers from, null for the PC itself.
 ExitStatus recordPc(const Options& options, const Catalogue& games, const Recordings::Pc* chosen);
 
-} // namespace Host
+} // namespace Find

@@ -4,7 +4,7 @@
 #include "find/record/AskedWords.h"
 #include "recordings/RegValues.h"
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -42,4 +42,4 @@ RecordedTexts collectTexts(const TraceEvents& events, const Catalogue& games, co
     return texts;
 }
 
-} // namespace Host
+} // namespace Find

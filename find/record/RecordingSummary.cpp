@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -109,4 +109,4 @@ QStringList describeLosses(const QStringList& leftOut, const std::vector<Private
     return lines;
 }
 
-} // namespace Host
+} // namespace Find

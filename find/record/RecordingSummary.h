@@ -8,7 +8,7 @@
 
 #include <vector>
 
-namespace Host {
+namespace Find {
 
 /// What a recording took, for who made it: some lines of text.
 QString summarize(const Recordings::Pc& pc, const std::vector<PrivateName>& names, const QString& file,
@@ -17,4 +17,4 @@ QString summarize(const Recordings::Pc& pc, const std::vector<PrivateName>& name
 /// What could not be recorded, and which names could not be replaced everywhere, one line each.
 QStringList describeLosses(const QStringList& leftOut, const std::vector<PrivateName>& names);
 
-} // namespace Host
+} // namespace Find

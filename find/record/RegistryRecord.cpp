@@ -2,7 +2,7 @@
 
 #include "find/record/UsedParts.h"
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -46,4 +46,4 @@ void addToRegistry(const TraceEvent& event, Recordings::Registry& registry) {
     }
 }
 
-} // namespace Host
+} // namespace Find

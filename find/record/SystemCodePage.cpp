@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace Host {
+namespace Find {
 
 int systemCodePage() {
     const QString path = QStringLiteral(R"(SYSTEM\CurrentControlSet\Control\Nls\CodePage)");
@@ -21,4 +21,4 @@ int systemCodePage() {
     return Recordings::isKnownCodePage(number) ? number : Recordings::westernCodePage;
 }
 
-} // namespace Host
+} // namespace Find

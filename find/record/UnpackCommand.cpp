@@ -7,7 +7,7 @@
 
 #include <QFileInfo>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -44,4 +44,4 @@ ExitStatus unpackPc(const Options& options) {
     return recording.problems.empty() && leftOut.isEmpty() ? allFound : failed;
 }
 
-} // namespace Host
+} // namespace Find

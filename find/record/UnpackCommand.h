@@ -2,11 +2,11 @@
 
 #include "find/cli/Program.h"
 
-namespace Host {
+namespace Find {
 
 struct Options;
 
 /// Makes a folder of the recorded PC in the file that the options name.
 ExitStatus unpackPc(const Options& options);
 
-} // namespace Host
+} // namespace Find

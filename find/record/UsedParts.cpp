@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -75,4 +75,4 @@ Recordings::RegValue usedValue(const Recordings::RegValue& value, const MapText&
     return used;
 }
 
-} // namespace Host
+} // namespace Find

@@ -8,7 +8,7 @@
 #include <functional>
 #include <optional>
 
-namespace Host {
+namespace Find {
 
 /// Gives what a recording has in the place of a text that a finder uses.
 using MapText = std::function<QString(const QString& text)>;
@@ -20,4 +20,4 @@ std::optional<QByteArray> usedContents(const QString& path, const QByteArray& co
 /// Of a value only what finders use: a string up to its end; of a type that they only see as "?" the type and the size.
 Recordings::RegValue usedValue(const Recordings::RegValue& value, const MapText& map);
 
-} // namespace Host
+} // namespace Find

@@ -2,7 +2,7 @@
 
 #include "platform/Settings.h"
 
-namespace Host {
+namespace Find {
 
 QStringList userChoiceKeys() {
     return Platform::openUserSettings(QStringLiteral("Veltrane"), QStringLiteral("Quorvan"),
@@ -10,4 +10,4 @@ QStringList userChoiceKeys() {
         ->allKeys();
 }
 
-} // namespace Host
+} // namespace Find

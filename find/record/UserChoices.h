@@ -2,9 +2,9 @@
 
 #include <QStringList>
 
-namespace Host {
+namespace Find {
 
 /// The keys of all games for which the user chose a folder.
 QStringList userChoiceKeys();
 
-} // namespace Host
+} // namespace Find

@@ -44,7 +44,7 @@ public:
     QStringList fakeLog() const;
 
 private:
-    Host::Console m_console; // lets this process, too, make files whose names are not ASCII
+    Find::Console m_console; // lets this process, too, make files whose names are not ASCII
     QTemporaryDir m_folder;
     QString m_outputFile;
     QString m_errorFile;

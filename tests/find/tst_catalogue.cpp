@@ -7,7 +7,7 @@
 
 namespace {
 
-using namespace Host;
+using namespace Find;
 
 std::string faultOf(const QByteArray& json) {
     CatalogueFault fault;

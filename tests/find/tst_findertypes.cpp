@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
-using namespace Host;
+using namespace Find;
 
 namespace {
 

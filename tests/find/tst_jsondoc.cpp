@@ -47,7 +47,7 @@ QStringList shapeOf(const QJsonObject& object) {
 }
 
 TEST(JsonDoc, ItsExamplesAreWhatTheProgramPrintsOfTheSamplePc) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     ASSERT_EQ(examples().size(), 2);

@@ -8,12 +8,12 @@ namespace {
 
 /// The offset and the message of the text's first fault; empty when it has none.
 std::string faultIn(const char* json) {
-    const auto fault = Host::findStringFault(QByteArray(json));
+    const auto fault = Find::findStringFault(QByteArray(json));
     return fault ? std::to_string(fault->offset) + " " + fault->message.toStdString() : "";
 }
 
 std::string positionIn(const char* text, int offset) {
-    const Host::TextPosition position = Host::textPosition(QByteArray(text), offset);
+    const Find::TextPosition position = Find::textPosition(QByteArray(text), offset);
     return std::to_string(position.line) + ":" + std::to_string(position.column);
 }
 

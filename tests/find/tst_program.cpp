@@ -33,7 +33,7 @@ void expectRefusal(const FindRun& run, const QString& complaint) {
 }
 
 bool worldKnowsRecordings() {
-    return !Host::isPcItself();
+    return !Find::isPcItself();
 }
 
 TEST(Program, TheExitStatusTellsWhetherAllWereFound) {

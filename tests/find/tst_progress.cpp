@@ -9,7 +9,7 @@
 
 namespace {
 
-using Host::Progress;
+using Find::Progress;
 
 /// A progress with a clock that the test sets, and the lines that it showed.
 struct Shown {

@@ -28,21 +28,21 @@ void expectShown(const QStringList& arguments) {
 }
 
 TEST(Readme, ShowsWhatTheProgramPrintsOfTheSamples) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     expectShown({LURULUDRI_SAMPLES "/catalogue.json"});
 }
 
 TEST(Readme, ShowsWhatIsExplainedOfAGameOfTheSamples) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     expectShown({"explain", "Tiefseelicht", LURULUDRI_SAMPLES "/catalogue.json"});
 }
 
 TEST(Readme, ShowsWhatIsSaidOfARecordingOfTheSamples) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     expectShown({"record", "my-pc", LURULUDRI_SAMPLES "/catalogue.json"});

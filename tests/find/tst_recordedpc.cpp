@@ -8,7 +8,7 @@
 
 namespace {
 
-using Host::describeProblems;
+using Find::describeProblems;
 
 std::string describe(const char* folder, const QString& file, int line) {
     const QString given = QString::fromUtf8(folder);

@@ -13,7 +13,7 @@
 
 namespace {
 
-using namespace Host;
+using namespace Find;
 
 GameAnswer beetle() {
     GameAnswer game;

@@ -33,7 +33,7 @@ QMap<QString, QString> foldersOf(const FindRun& run) {
 }
 
 TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -46,7 +46,7 @@ TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
 }
 
 TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -66,7 +66,7 @@ TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
 }
 
 TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -81,7 +81,7 @@ TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
 }
 
 TEST(Samples, HaveAllRuntimes) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -97,7 +97,7 @@ TEST(Samples, HaveAllRuntimes) {
 }
 
 TEST(Samples, HaveAGameThatTheUserCanLocate) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
@@ -111,7 +111,7 @@ TEST(Samples, HaveAGameThatTheUserCanLocate) {
 }
 
 TEST(Samples, HaveAGameWithTwoExecutables) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;

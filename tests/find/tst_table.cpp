@@ -14,7 +14,7 @@
 
 namespace {
 
-using namespace Host;
+using namespace Find;
 
 TableRow rowOf(const QStringList& texts) {
     return TableRow(texts.begin(), texts.end());

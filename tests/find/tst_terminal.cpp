@@ -8,7 +8,7 @@
 
 namespace {
 
-using namespace Host;
+using namespace Find;
 
 constexpr TerminalFacts wideTerminal = {true, 132, true};
 

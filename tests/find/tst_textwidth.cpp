@@ -7,7 +7,7 @@
 
 namespace {
 
-using namespace Host;
+using namespace Find;
 
 TEST(DisplayWidth, LettersTakeOneColumn) {
     EXPECT_EQ(displayWidth(""), 0);

@@ -22,12 +22,12 @@ constexpr const char* games = R"({"games": [
         {"type": "userProvidedLocation", "key": "installed", "executables": ["w.exe"]}]}]}]})";
 
 TEST(UserChoice, TheCatalogueSaysWhatTheExecutablesAre) {
-    Host::CatalogueFault fault;
-    const auto catalogue = Host::parseCatalogue(games, fault);
+    Find::CatalogueFault fault;
+    const auto catalogue = Find::parseCatalogue(games, fault);
     ASSERT_TRUE(catalogue) << fault.message.toStdString();
-    EXPECT_EQ(Host::executablesFor(*catalogue, "Käfer"), (QStringList{"bin\\k.exe", "k.exe", "wal.exe"}));
-    EXPECT_EQ(Host::executablesFor(*catalogue, "installed "), QStringList{"w.exe"});
-    EXPECT_EQ(Host::executablesFor(*catalogue, "käfer"), QStringList());
+    EXPECT_EQ(Find::executablesFor(*catalogue, "Käfer"), (QStringList{"bin\\k.exe", "k.exe", "wal.exe"}));
+    EXPECT_EQ(Find::executablesFor(*catalogue, "installed "), QStringList{"w.exe"});
+    EXPECT_EQ(Find::executablesFor(*catalogue, "käfer"), QStringList());
 }
 
 TEST(UserChoice, AFolderReachesThePlugin) {
@@ -102,7 +102,7 @@ TEST(UserChoice, AMissingCatalogueIsToldBeforeAnythingIsRemembered) {
 }
 
 TEST(UserChoice, OfARecordedPcIsChangedInTheRecording) {
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "this build knows no recordings";
     }
     FindProgram program;

@@ -5,7 +5,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-namespace Host {
+namespace Find {
 
 struct Console::Before {};
 
@@ -32,4 +32,4 @@ bool Console::write(Stream stream, const QString& text) {
     return writeUtf8(stream, text);
 }
 
-} // namespace Host
+} // namespace Find

@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-namespace Host {
+namespace Find {
 
 bool setEnvironmentVariable(const char* name, const QString& value) {
     return value.isEmpty() ? qunsetenv(name) : qputenv(name, QFile::encodeName(value));
@@ -12,4 +12,4 @@ bool isPcItself() {
     return false;
 }
 
-} // namespace Host
+} // namespace Find

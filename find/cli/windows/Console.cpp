@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace Host {
+namespace Find {
 
 namespace {
 
@@ -98,4 +98,4 @@ bool Console::write(Stream stream, const QString& text) {
     return true;
 }
 
-} // namespace Host
+} // namespace Find

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string>
 
-namespace Host {
+namespace Find {
 
 bool setEnvironmentVariable(const char* name, const QString& value) {
     return _wputenv_s(QString::fromLatin1(name).toStdWString().c_str(), value.toStdWString().c_str()) == 0;
@@ -13,4 +13,4 @@ bool isPcItself() {
     return true;
 }
 
-} // namespace Host
+} // namespace Find

@@ -14,16 +14,16 @@
 /// What is told, line by line, of a game "Käferrennen" with these finders, after the PC under test was really asked.
 inline QStringList explained(const QByteArray& finders, bool isFull = false) {
     const QString json = QString("{\"games\": [{\"name\": \"Käferrennen\", \"finders\": [%1]}]}");
-    Host::CatalogueFault fault;
-    const auto catalogue = Host::parseCatalogue(json.arg(QString::fromUtf8(finders)).toUtf8(), fault);
+    Find::CatalogueFault fault;
+    const auto catalogue = Find::parseCatalogue(json.arg(QString::fromUtf8(finders)).toUtf8(), fault);
     EXPECT_TRUE(catalogue) << fault.message.toStdString();
     if (!catalogue) {
         return {};
     }
     const TraceLog trace;
     Finders::FindersFactory factory;
-    const Host::Game& game = catalogue->front();
-    const Host::GameAnswer answer = Host::askForGame(factory, game);
-    const Host::TraceEvents events = Host::parseTrace(trace.bytes());
-    return Host::explain(game, answer, events, isFull).split('\n', Qt::SkipEmptyParts);
+    const Find::Game& game = catalogue->front();
+    const Find::GameAnswer answer = Find::askForGame(factory, game);
+    const Find::TraceEvents events = Find::parseTrace(trace.bytes());
+    return Find::explain(game, answer, events, isFull).split('\n', Qt::SkipEmptyParts);
 }

@@ -7,9 +7,9 @@
 namespace {
 
 QStringList describe(const QByteArray& line) {
-    const Host::TraceEvents events = Host::parseTrace(line);
+    const Find::TraceEvents events = Find::parseTrace(line);
     EXPECT_EQ(events.size(), 1U) << line.toStdString();
-    return events.empty() ? QStringList() : Host::describeEvent(events.front());
+    return events.empty() ? QStringList() : Find::describeEvent(events.front());
 }
 
 TEST(EventText, ShowsTextsAndNumbersAsTheRegistryEditorDoes) {

@@ -15,18 +15,18 @@ QObject* deviceOfApplication() {
 }
 
 TEST(PluginTrace, TakesWhatIsToldToTheApplicationsDevice) {
-    const Host::PluginTrace trace;
+    const Find::PluginTrace trace;
     EXPECT_TRUE(trace.events().empty()) << "nothing was told yet";
     auto* const device = qobject_cast<QIODevice*>(deviceOfApplication());
     ASSERT_NE(device, nullptr);
     device->write("{\"event\":\"note\",\"text\":\"1\"}\n");
-    const Host::TraceEvents events = trace.events();
+    const Find::TraceEvents events = trace.events();
     ASSERT_EQ(events.size(), 1U);
     EXPECT_EQ(std::get<Trace::Note>(events.front()).text, "1");
 }
 
 TEST(PluginTrace, EndsWithItself) {
-    { const Host::PluginTrace trace; }
+    { const Find::PluginTrace trace; }
     EXPECT_EQ(deviceOfApplication(), nullptr);
 }
 

@@ -7,9 +7,9 @@
 
 namespace {
 
-using Host::parseTrace;
-using Host::TraceEvents;
-using Host::TraceSection;
+using Find::parseTrace;
+using Find::TraceEvents;
+using Find::TraceSection;
 
 TEST(TraceReader, ReadsOneEventALine) {
     const TraceEvents events = parseTrace("{\"event\":\"trace\",\"library\":\"Luruludri\",\"version\":1}\n"
@@ -33,7 +33,7 @@ const TraceSection& inner(const TraceSection& section, std::size_t part) {
 
 TEST(TraceTree, PutsTogetherWhatIsWithinABeginningAndItsEnd) {
     const TraceSection whole =
-        Host::traceTree({Trace::Note{"1"}, Trace::FinderBegin{2}, Trace::IndexBegin{"SteamLibraries"}, Trace::Note{"2"},
+        Find::traceTree({Trace::Note{"1"}, Trace::FinderBegin{2}, Trace::IndexBegin{"SteamLibraries"}, Trace::Note{"2"},
                          Trace::IndexEnd{"SteamLibraries", 3}, Trace::FinderEnd{2, true}, Trace::Note{"3"}});
     ASSERT_EQ(whole.parts.size(), 3U);
     const TraceSection& finder = inner(whole, 1);
@@ -49,7 +49,7 @@ TEST(TraceTree, PutsTogetherWhatIsWithinABeginningAndItsEnd) {
 
 TEST(TraceTree, ASectionWhoseEndWasLostEndsWithTheOneAroundIt) {
     const TraceSection whole =
-        Host::traceTree({Trace::FinderBegin{1}, Trace::IndexBegin{"EpicManifests"}, Trace::FinderEnd{1, false},
+        Find::traceTree({Trace::FinderBegin{1}, Trace::IndexBegin{"EpicManifests"}, Trace::FinderEnd{1, false},
                          Trace::FinderBegin{2}, Trace::Note{"1"}, Trace::FinderEnd{2, true}});
     ASSERT_EQ(whole.parts.size(), 2U);
     EXPECT_EQ(inner(whole, 1).number, 2);
@@ -58,7 +58,7 @@ TEST(TraceTree, ASectionWhoseEndWasLostEndsWithTheOneAroundIt) {
 
 TEST(TraceTree, AnEndWithoutItsBeginningSaysNothing) {
     const TraceSection whole =
-        Host::traceTree({Trace::FinderEnd{1, true}, Trace::IndexBegin{"Uninstall"}, Trace::IndexEnd{"StartMenu", 7},
+        Find::traceTree({Trace::FinderEnd{1, true}, Trace::IndexBegin{"Uninstall"}, Trace::IndexEnd{"StartMenu", 7},
                          Trace::Note{"1"}, Trace::IndexEnd{"Uninstall", 2}});
     ASSERT_EQ(whole.parts.size(), 1U);
     EXPECT_EQ(inner(whole, 0).parts.size(), 1U);

@@ -106,7 +106,7 @@ TEST_F(OnTerminal, ALongCatalogueShowsProgressAndErasesItBeforeTheAnswers) {
     const QRegularExpression step("^asking ([0-9]+)/10: Spiel \\1 ?$");
     const auto isStep = [&](const QString& line) { return step.match(line).hasMatch(); };
     EXPECT_TRUE(std::all_of(lines.begin() + 1, lines.end() - 2, isStep)) << terminal.text().toStdString();
-    EXPECT_EQ(lines.at(lines.size() - 2), QString(Host::displayWidth(lines.at(lines.size() - 3)), ' '));
+    EXPECT_EQ(lines.at(lines.size() - 2), QString(Find::displayWidth(lines.at(lines.size() - 3)), ' '));
     EXPECT_TRUE(withoutColours(lines.last()).startsWith("Game      Found  Folder")) << lines.last().toStdString();
 }
 

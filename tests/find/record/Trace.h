@@ -8,12 +8,12 @@
 /// Events as the library tells them, for tests to describe what was read.
 namespace TestTrace {
 
-inline Host::TraceEvent key(const char* root, int view, const QString& path, quint32 error = 0) {
+inline Find::TraceEvent key(const char* root, int view, const QString& path, quint32 error = 0) {
     return Trace::Key{{root, view, path}, error};
 }
 
 /// A value that was read.
-inline Host::TraceEvent value(const char* root, int view, const QString& path, const QString& name, quint32 type,
+inline Find::TraceEvent value(const char* root, int view, const QString& path, const QString& name, quint32 type,
                               const QByteArray& data) {
     return Trace::Value{{root, view, path}, name, 0, type, data};
 }
@@ -23,12 +23,12 @@ inline QByteArray stored(const QString& text) {
     return QByteArray(reinterpret_cast<const char*>(text.utf16()), (text.size() + 1) * 2);
 }
 
-inline Host::TraceEvent text(const char* root, int view, const QString& path, const QString& name,
+inline Find::TraceEvent text(const char* root, int view, const QString& path, const QString& name,
                              const QString& text) {
     return value(root, view, path, name, 1, stored(text));
 }
 
-inline Host::TraceEvent exists(const QString& path, bool found) {
+inline Find::TraceEvent exists(const QString& path, bool found) {
     return Trace::Exists{path, found};
 }
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-using Host::GeneralFolders;
+using Find::GeneralFolders;
 
 QProcessEnvironment environmentOf(std::initializer_list<std::pair<const char*, const char*>> variables) {
     QProcessEnvironment environment;
@@ -68,11 +68,11 @@ TEST(GeneralFolders, AreThoseThatAreAdded) {
 
 class InstallFoldersTest : public ::testing::Test {
 protected:
-    void probe(const QString& folder) { folders.add(TestTrace::exists(folder + '\\' + Host::probeName(), false)); }
+    void probe(const QString& folder) { folders.add(TestTrace::exists(folder + '\\' + Find::probeName(), false)); }
 
     QStringList executables() {
         Recordings::Drives drives;
-        Host::Progress progress(
+        Find::Progress progress(
             "testing", 0, [] { return qint64{0}; }, [](const QString&) {});
         folders.listExecutables(GeneralFolders(QProcessEnvironment()), drives, progress);
         QStringList files;
@@ -86,7 +86,7 @@ protected:
     }
 
     TestPc pc;
-    Host::InstallFolders folders;
+    Find::InstallFolders folders;
 };
 
 TEST_F(InstallFoldersTest, GiveTheExecutablesBelowThem) {

@@ -6,7 +6,7 @@
 
 namespace {
 
-using Host::NeutralNames;
+using Find::NeutralNames;
 
 const NeutralNames names({{"Jördis", "user"}, {"KAEFER-PC", "pc"}}, "Users");
 
@@ -43,9 +43,9 @@ TEST(NeutralNames, TheShortFormOfANameIsTheName) {
     EXPECT_EQ(longName.text("C:\\Users\\CHRIST~1\\Temp"), "C:\\Users\\user\\Temp");
     EXPECT_EQ(longName.text("C:\\Users\\christ~3"), "C:\\Users\\user");
     EXPECT_EQ(longName.text("CHRIST~12 CHRIST~"), "CHRIST~12 CHRIST~");
-    EXPECT_EQ(Host::shortFormOf("Anna Lena"), "AnnaLe~");
-    EXPECT_EQ(Host::shortFormOf("a.b"), "ab~");
-    EXPECT_EQ(Host::shortFormOf("Annalena"), "") << "eight letters are short enough";
+    EXPECT_EQ(Find::shortFormOf("Anna Lena"), "AnnaLe~");
+    EXPECT_EQ(Find::shortFormOf("a.b"), "ab~");
+    EXPECT_EQ(Find::shortFormOf("Annalena"), "") << "eight letters are short enough";
 }
 
 TEST(NeutralNames, ANameThatIsAWordOfPlacesIsReplacedBesideTheProfileOnly) {

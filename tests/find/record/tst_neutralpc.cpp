@@ -39,8 +39,8 @@ Recordings::Pc pcOf(const QString& name) {
 }
 
 TEST(NeutralPc, HasNeutralNamesInEveryText) {
-    const Host::NeutralNames names({{"anna", "user"}}, "Users");
-    const Recordings::Pc neutral = Host::neutralPc(pcOf("Anna"), names);
+    const Find::NeutralNames names({{"anna", "user"}}, "Users");
+    const Recordings::Pc neutral = Find::neutralPc(pcOf("Anna"), names);
     EXPECT_EQ(Recordings::renderPcFile(neutral), Recordings::renderPcFile(pcOf("user")));
     EXPECT_THAT(neutral.drives.list(path("C:/Users/user")),
                 ::testing::ElementsAre("z", "b of user", "libraryfolders.vdf", "x.lnk"))
@@ -48,7 +48,7 @@ TEST(NeutralPc, HasNeutralNamesInEveryText) {
 }
 
 TEST(NeutralPc, IsTheSameWithoutNames) {
-    EXPECT_TRUE(Host::neutralPc(pcOf("Anna"), {}) == pcOf("Anna"));
+    EXPECT_TRUE(Find::neutralPc(pcOf("Anna"), {}) == pcOf("Anna"));
 }
 
 } // namespace

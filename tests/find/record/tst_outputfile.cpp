@@ -11,7 +11,7 @@
 
 namespace {
 
-using Host::OutputFile;
+using Find::OutputFile;
 
 class OutputFileTest : public ::testing::Test {
 protected:

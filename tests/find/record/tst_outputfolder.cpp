@@ -12,7 +12,7 @@
 
 namespace {
 
-using Host::OutputFolder;
+using Find::OutputFolder;
 
 class OutputFolderTest : public ::testing::Test {
 protected:

@@ -12,10 +12,10 @@
 
 namespace {
 
-Recordings::Pc pcOf(std::initializer_list<Host::TraceEvent> events) {
+Recordings::Pc pcOf(std::initializer_list<Find::TraceEvent> events) {
     Recordings::Pc pc;
-    for (const Host::TraceEvent& one : events) {
-        Host::addFact(one, pc);
+    for (const Find::TraceEvent& one : events) {
+        Find::addFact(one, pc);
     }
     return pc;
 }
@@ -53,7 +53,7 @@ TEST(PcFacts, HavePackagesOnceAndWhereOneLooksForThem) {
     EXPECT_EQ(pc.packages, (Recordings::AppPackages{
                                {"Maker.Game_abc", "Maker.Game_1_x64__abc", {"Maker.Game_abc!App", "Maker.Game_abc!B"}},
                                {"Maker.Lib_abc", "Maker.Lib_1_x64__abc", {}}}));
-    const auto key = pc.registry.open(Recordings::RegKey::Root::CurrentUser, Host::packagesKey().split('\\'),
+    const auto key = pc.registry.open(Recordings::RegKey::Root::CurrentUser, Find::packagesKey().split('\\'),
                                       Recordings::RegistryView::Bits64);
     EXPECT_EQ(Recordings::Registry::subKeys(key),
               (std::vector<QString>{"Maker.Game_1_x64__abc", "Maker.Lib_1_x64__abc"}));
@@ -61,13 +61,13 @@ TEST(PcFacts, HavePackagesOnceAndWhereOneLooksForThem) {
 
 TEST(IndexEntries, AreThoseOfTheirList) {
     using Trace::Entry;
-    const Host::IndexEntries entries(
+    const Find::IndexEntries entries(
         {Entry{"lost", "0"}, Trace::IndexBegin{"SteamLibraries"}, Trace::FinderBegin{1}, Entry{"1", "D:/a"},
          Entry{"2", "D:/a"}, Entry{"1", "D:/b"}, Trace::IndexEnd{"SteamLibraries", 3}, Entry{"lost", "0"},
          Trace::IndexBegin{"EpicManifests"}, Entry{"epic", "E:/"}, Trace::IndexEnd{"EpicManifests", 1}});
-    const auto texts = [](const std::vector<Host::IndexEntry>& list) {
+    const auto texts = [](const std::vector<Find::IndexEntry>& list) {
         QStringList lines;
-        for (const Host::IndexEntry& one : list) {
+        for (const Find::IndexEntry& one : list) {
             lines.append(one.name + '@' + one.folder);
         }
         return lines;
@@ -79,11 +79,11 @@ TEST(IndexEntries, AreThoseOfTheirList) {
 }
 
 TEST(InstalledPackages, TheFamilyIsThePackagesNameAndItsPublisher) {
-    EXPECT_EQ(Host::familyOfPackage("Maker.Game_1.2.3.0_x64__8wekyb3d8bbwe"), "Maker.Game_8wekyb3d8bbwe");
-    EXPECT_EQ(Host::familyOfPackage("Maker.Game_1.2.3.0_neutral_split.scale-100_8wekyb3d8bbwe"),
+    EXPECT_EQ(Find::familyOfPackage("Maker.Game_1.2.3.0_x64__8wekyb3d8bbwe"), "Maker.Game_8wekyb3d8bbwe");
+    EXPECT_EQ(Find::familyOfPackage("Maker.Game_1.2.3.0_neutral_split.scale-100_8wekyb3d8bbwe"),
               "Maker.Game_8wekyb3d8bbwe");
     for (const char* const name : {"", "Maker.Game", "a_b_c_d", "_1_x64__b", "a_1_x64__", "a_1_x64___b"}) {
-        EXPECT_EQ(Host::familyOfPackage(name), "") << name;
+        EXPECT_EQ(Find::familyOfPackage(name), "") << name;
     }
 }
 

@@ -9,13 +9,13 @@
 
 namespace {
 
-using Host::NameSources;
-using Host::RecordedTexts;
+using Find::NameSources;
+using Find::RecordedTexts;
 
 /// The names that are chosen, as "anna=user"; one that is not replaced everywhere as "anna=user only beside".
 QStringList chosen(const NameSources& sources, const RecordedTexts& texts = {}) {
     QStringList names;
-    for (const Host::PrivateName& name : Host::choosePrivateNames(sources, texts)) {
+    for (const Find::PrivateName& name : Find::choosePrivateNames(sources, texts)) {
         names.append(name.name + '=' + name.neutral + (name.isEverywhere ? "" : " only beside"));
     }
     return names;
@@ -26,8 +26,8 @@ TEST(PrivateNames, AreTheUsersTheProfilesAndTheMachines) {
     EXPECT_EQ(chosen({"anna", "D:/profiles/Anna", {"Kaefer", "KAEFER"}}), (QStringList{"Anna=user", "Kaefer=pc"}));
     EXPECT_EQ(chosen({}), QStringList());
     EXPECT_EQ(chosen({"", "C:\\", {""}}), QStringList());
-    EXPECT_EQ(Host::profilesFolderName({"", "D:\\Profile\\anna", {}}), "Profile");
-    EXPECT_EQ(Host::profilesFolderName({}), "Users");
+    EXPECT_EQ(Find::profilesFolderName({"", "D:\\Profile\\anna", {}}), "Profile");
+    EXPECT_EQ(Find::profilesFolderName({}), "Users");
 }
 
 TEST(PrivateNames, ThatAreNeutralAlreadyStay) {
@@ -72,10 +72,10 @@ TEST(PrivateNames, AreKnownFromTheShellsFoldersToo) {
     const auto profile = [](const char* folder) {
         Recordings::Pc pc;
         pc.shellFolders.insert(11, folder);
-        return Host::nameSources(pc).profile;
+        return Find::nameSources(pc).profile;
     };
     const TestPc pc; // whose environment has no names
-    if (Host::isPcItself()) {
+    if (Find::isPcItself()) {
         GTEST_SKIP() << "the environment tells it here";
     }
     EXPECT_EQ(profile("C:\\Users\\anna\\AppData\\Roaming\\Microsoft\\Windows\\Start Menu"), "C:/Users/anna");

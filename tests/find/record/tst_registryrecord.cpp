@@ -19,10 +19,10 @@ constexpr const char* user = "HKEY_CURRENT_USER";
 constexpr const char* classes = "HKEY_CLASSES_ROOT";
 
 /// The lines of a registry file of what is taken, without its header and without empty ones.
-QStringList linesOf(std::initializer_list<Host::TraceEvent> events) {
+QStringList linesOf(std::initializer_list<Find::TraceEvent> events) {
     Recordings::Registry registry;
-    for (const Host::TraceEvent& event : events) {
-        Host::addToRegistry(event, registry);
+    for (const Find::TraceEvent& event : events) {
+        Find::addToRegistry(event, registry);
     }
     QStringList leftOut;
     const QByteArray bytes = Recordings::renderRegFile(registry, leftOut);

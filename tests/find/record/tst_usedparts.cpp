@@ -15,13 +15,13 @@ QString same(const QString& text) {
 }
 
 QByteArray used(const QString& path, const QByteArray& contents) {
-    return Host::usedContents(path, contents, same).value_or("(unknown)");
+    return Find::usedContents(path, contents, same).value_or("(unknown)");
 }
 
 /// What is left of an uninstall command.
 std::string command(const QString& text) {
     const Recordings::RegValue value = {"UninstallString", false, 1, Recordings::storedText(text)};
-    return Recordings::textOf(1, Host::usedValue(value, same).data).value().toStdString();
+    return Recordings::textOf(1, Find::usedValue(value, same).data).value().toStdString();
 }
 
 TEST(UsedParts, OfAnEpicManifestAreSevenFields) {
@@ -63,8 +63,8 @@ TEST(UsedParts, OfAnUninstallCommandAreWhatRulesLookAt) {
 
 TEST(UsedParts, AreMapped) {
     const auto upper = [](const QString& text) { return text.toUpper(); };
-    EXPECT_EQ(Host::usedContents("libraryfolders.vdf", "\"path\" \"c:\\\\x\"", upper), "\"path\" \"C:\\\\X\"\n");
-    EXPECT_EQ(Host::usedValue({"a", false, 1, Recordings::storedText("x")}, upper).data, Recordings::storedText("X"));
+    EXPECT_EQ(Find::usedContents("libraryfolders.vdf", "\"path\" \"c:\\\\x\"", upper), "\"path\" \"C:\\\\X\"\n");
+    EXPECT_EQ(Find::usedValue({"a", false, 1, Recordings::storedText("x")}, upper).data, Recordings::storedText("X"));
 }
 
 } // namespace
