@@ -54,7 +54,7 @@ need_packages() {
     test_packages=(clang python3)
     windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make perl python3 patch xz-utils qt5-qmake
         qtbase5-dev-tools ca-certificates nsis wixl)
-    lint_packages=(git clang-format clang-tidy shellcheck)
+    lint_packages=(git clang-format clang-tidy shellcheck clang-tools-14 libc++-14-dev libwine-dev)
     mutation_packages=(git lld python3)
 }
 

@@ -1,0 +1,1 @@
+#error "<dirent.h> is Wine's; Microsoft's runtime has none."

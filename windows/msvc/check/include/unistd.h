@@ -1,0 +1,1 @@
+#error "<unistd.h> is Wine's; Microsoft's runtime has none."
