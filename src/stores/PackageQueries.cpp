@@ -112,5 +112,5 @@ std::vector<std::u16string> applicationIdsOf(const std::u16string& fullName, con
 
     std::vector<uchar> buffer(length);
     const qint32 result = functions.getPackageApplicationIds(package.get(), &length, buffer.data(), &count);
-    return result == PackageFunctions::errorSuccess && count > 0 ? idsIn(buffer, count) : std::vector<std::u16string>();
+    return result == PackageFunctions::errorSuccess ? idsIn(buffer, count) : std::vector<std::u16string>();
 }

@@ -80,7 +80,7 @@ qint32 FakePackages::getPackagesByPackageFamily(const char16_t* family, quint32*
     std::fill_n(buffer, current->endsNoText ? given : 0, u'x');
     write(names, buffer, fullNames, current->reportsNoText, end);
     *count = current->reportsNoCount ? 0 : *count;
-    return PackageFunctions::errorSuccess;
+    return current->lateResult;
 }
 
 qint32 FakePackages::openPackageInfoByFullName(const char16_t* fullName, quint32 reserved,
@@ -98,7 +98,7 @@ qint32 FakePackages::openPackageInfoByFullName(const char16_t* fullName, quint32
     }
     ++current->openInfos;
     *info = &*package;
-    return PackageFunctions::errorSuccess;
+    return current->lateResult;
 }
 
 qint32 FakePackages::closePackageInfo(PackageFunctions::PackageInfo) {
@@ -130,5 +130,5 @@ qint32 FakePackages::getPackageApplicationIds(PackageFunctions::PackageInfo info
     }
     write(ids, reinterpret_cast<char16_t*>(buffer + pointers), buffer, current->reportsNoText);
     *count = current->reportsNoCount ? 0 : *count;
-    return PackageFunctions::errorSuccess;
+    return current->lateResult;
 }

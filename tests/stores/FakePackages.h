@@ -45,6 +45,7 @@ public:
     int openInfos = 0;
     bool reportsNoText = false;  ///< succeeds with null pointers to the texts
     bool reportsNoCount = false; ///< succeeds with a count of 0, whatever it writes
+    qint32 lateResult = 0;       ///< returned by the functions that have done their work
     bool endsNoText = false;     ///< writes the full names without their ends, after filling the buffer with rubbish
 
 private:

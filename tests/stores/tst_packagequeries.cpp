@@ -173,6 +173,17 @@ TEST_F(PackageQueriesTest, APackageThatDoesNotOpenHasNoIdAndIsNotClosed) {
     EXPECT_EQ(system.openInfos, 0);
 }
 
+TEST_F(PackageQueriesTest, WhatAFailureWroteIsNotTaken) {
+    system.lateResult = accessDenied;
+    EXPECT_EQ(fullName(), u"");
+    system.calls.clear();
+    EXPECT_EQ(applicationId(), u"");
+    EXPECT_THAT(system.calls, ElementsAre("OpenPackageInfoByFullName")) << "nothing is open, whatever was written";
+    atCall("GetPackageApplicationIds", 2, 0, [this] { system.lateResult = accessDenied; });
+    system.lateResult = 0;
+    EXPECT_THAT(applicationIdsOf(first, FakePackages::functions()), IsEmpty());
+}
+
 TEST_F(PackageQueriesTest, AFailureToTellTheSizeIsNoIdAndCloses) {
     atCall("GetPackageApplicationIds", 1, accessDenied);
     EXPECT_EQ(applicationId(), u"");
