@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/TraceEvents.h"
+#include "trace/Events.h"
 
 #include <QByteArray>
 

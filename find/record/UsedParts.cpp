@@ -2,8 +2,8 @@
 
 #include "recordings/RegValues.h"
 #include "recordings/Utf16Text.h"
-#include "support/ForeignFiles.h"
-#include "support/UninstallCommand.h"
+#include "trace/ForeignFiles.h"
+#include "trace/UninstallCommand.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -5,7 +5,7 @@
 #include "support/Logger.h"
 #include "support/Paths.h"
 #include "support/Trace.h"
-#include "support/UninstallCommand.h"
+#include "trace/UninstallCommand.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "support/Logger.h"
 #include "support/RegistryKey.h"
 #include "support/Trace.h"
-#include "support/UninstallCommand.h"
+#include "trace/UninstallCommand.h"
 
 namespace {
 

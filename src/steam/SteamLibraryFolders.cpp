@@ -1,9 +1,9 @@
 #include "steam/SteamLibraryFolders.h"
 
 #include "support/Files.h"
-#include "support/ForeignFiles.h"
 #include "support/Paths.h"
 #include "support/Text.h"
+#include "trace/ForeignFiles.h"
 
 #include <optional>
 

@@ -3,10 +3,10 @@
 #include "steam/SteamLibraryFolders.h"
 #include "steam/SteamLocator.h"
 #include "support/Files.h"
-#include "support/ForeignFiles.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
 #include "support/Trace.h"
+#include "trace/ForeignFiles.h"
 
 namespace {
 

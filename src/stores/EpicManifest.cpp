@@ -1,7 +1,7 @@
 #include "stores/EpicManifest.h"
 
 #include "stores/EpicManifestIndex.h"
-#include "support/ForeignFiles.h"
+#include "trace/ForeignFiles.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

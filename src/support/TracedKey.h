@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Registry.h"
-#include "support/TraceEvents.h"
+#include "trace/Events.h"
 
 #include <QString>
 #include <QStringList>

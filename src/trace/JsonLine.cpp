@@ -1,4 +1,4 @@
-#include "support/JsonLine.h"
+#include "trace/JsonLine.h"
 
 namespace {
 

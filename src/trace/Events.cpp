@@ -1,6 +1,6 @@
-#include "support/TraceEvents.h"
+#include "trace/Events.h"
 
-#include "support/JsonLine.h"
+#include "trace/JsonLine.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "support/TraceEvents.h"
+#include "trace/Events.h"
 
 #include "common/QtPrinters.h"
 

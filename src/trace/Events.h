@@ -9,7 +9,7 @@
 #include <variant>
 
 /// All that a trace can tell (docs/trace.md): one struct an event, for the library, which tells them, and for whoever
-/// reads a trace. What their fields are called in a trace stands in TraceEvents.cpp, once for both.
+/// reads a trace. What their fields are called in a trace stands in Events.cpp, once for both.
 namespace Trace {
 
 /// The environment variable that names the file of the trace.
