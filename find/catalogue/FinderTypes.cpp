@@ -3,6 +3,7 @@
 #include "core/IGameFinderFactory.h"
 #include "find/record/FolderListing.h"
 #include "find/record/Inventory.h"
+#include "trace/Events.h"
 
 #include <QLatin1String>
 
@@ -15,6 +16,7 @@ namespace {
 
 using Factory = IGameFinderFactory;
 using Entry = FinderEntry;
+namespace IndexName = Trace::IndexName;
 
 FinderEntry entryOf(const QString& subject, const QString& folderName = {}, int matchMode = 0) {
     FinderEntry entry;
@@ -85,12 +87,12 @@ std::vector<FinderType> makeTypes() {
          "createGameForWindowFinder",
          {{"title", &Entry::subject}, {"executables", &Entry::executables}},
          [](Factory& f, const Entry& e) { return f.createGameForWindowFinder(e.subject, e.executables); },
-         [](const Inventory& i) { return eachOf(i, "GamesExplorer"); }},
+         [](const Inventory& i) { return eachOf(i, IndexName::gamesExplorer); }},
         {"steam",
          "createSteamFinder",
          {{"appId", &Entry::subject}, {"installFolderName", &Entry::folderName}, {"executables", &Entry::executables}},
          [](Factory& f, const Entry& e) { return f.createSteamFinder(e.subject, e.folderName, e.executables); },
-         [](const Inventory& i) { return eachFolderOf(i, "SteamLibraries", {}); }},
+         [](const Inventory& i) { return eachFolderOf(i, IndexName::steamLibraries, {}); }},
         {"multi",
          "createMultiFinder",
          {{"finders", &Entry::finders}},
@@ -110,12 +112,14 @@ std::vector<FinderType> makeTypes() {
          "createOculusStoreFinder",
          {{"appId", &Entry::subject}, {"executables", &Entry::executables}, {"softwareFolder", &Entry::folderName}},
          [](Factory& f, const Entry& e) { return f.createOculusStoreFinder(e.subject, e.executables, e.folderName); },
-         [](const Inventory& i) { return eachFolderOf(i, "OculusLibraries", QStringLiteral("/../Software")); }},
+         [](const Inventory& i) {
+             return eachFolderOf(i, IndexName::oculusLibraries, QStringLiteral("/../Software"));
+         }},
         {"epicStore",
          "createEpicStoreFinder",
          {{"name", &Entry::subject}, {"executables", &Entry::executables}, {"matchMode", &Entry::matchMode}},
          [](Factory& f, const Entry& e) { return f.createEpicStoreFinder(e.subject, e.executables, e.matchMode); },
-         [](const Inventory& i) { return eachOf(i, "EpicManifests"); }},
+         [](const Inventory& i) { return eachOf(i, IndexName::epicManifests); }},
         {"universalApp",
          "createUniversalAppFinder",
          {{"packageFamily", &Entry::subject}},

@@ -20,7 +20,7 @@ class IndexEntries {
 public:
     explicit IndexEntries(const TraceEvents& events);
 
-    /// The entries of the list of that name, each once; empty when it was not made.
+    /// The entries of the list of that name (Trace::IndexName), each once; empty when it was not made.
     std::vector<IndexEntry> of(const char* index) const;
 
     /// The first entry of each folder.

@@ -28,7 +28,7 @@ GamesExplorerEntry readEntry(const QString& name, quint32 view) {
 } // namespace
 
 GamesExplorerIndex::GamesExplorerIndex()
-    : Index("GamesExplorer") {}
+    : Index(Trace::IndexName::gamesExplorer) {}
 
 std::vector<GamesExplorerEntry> GamesExplorerIndex::findByTitle(const QString& title) {
     return built(m_titles).find(title, MatchMode::equals);

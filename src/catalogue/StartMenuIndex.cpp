@@ -19,7 +19,7 @@ QString nameOf(const QString& shortcut) {
 } // namespace
 
 StartMenuIndex::StartMenuIndex(const WalkSource& source)
-    : Index("StartMenu")
+    : Index(Trace::IndexName::startMenu)
     , m_source(source) {}
 
 std::vector<QString> StartMenuIndex::findByName(const QString& name, int matchMode) {
@@ -30,8 +30,9 @@ void StartMenuIndex::build(QStringList& entries) {
     for (const int csidl : startMenus) {
         const QStringList shortcuts = shortcutsBelow(knownFolderPath(csidl), longestWalkMs, m_source);
         for (const QString& shortcut : shortcuts) {
-            add(entries, shortcut, m_names.row(nameOf(shortcut), shortcut));
-            Trace::entry(nameOf(shortcut), shortcut);
+            const QString name = nameOf(shortcut);
+            add(entries, shortcut, m_names.row(name, shortcut));
+            Trace::entry(name, shortcut);
         }
     }
 }

@@ -26,7 +26,7 @@ UninstallEntry readEntry(const QString& keyPath, quint32 hive, quint32 view) {
 } // namespace
 
 UninstallIndex::UninstallIndex()
-    : Index("Uninstall") {}
+    : Index(Trace::IndexName::uninstall) {}
 
 QString UninstallIndex::rootKeyPath() {
     return QStringLiteral("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall");

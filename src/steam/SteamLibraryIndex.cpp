@@ -22,7 +22,7 @@ QStringList libraryFolders(const QString& steam) {
 } // namespace
 
 SteamLibraryIndex::SteamLibraryIndex()
-    : Index("SteamLibraries") {}
+    : Index(Trace::IndexName::steamLibraries) {}
 
 std::vector<SteamAppEntry> SteamLibraryIndex::findByAppId(const QString& appId) {
     return built(m_appIds).find(appId);

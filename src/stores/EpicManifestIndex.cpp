@@ -29,7 +29,7 @@ QString manifestFolder() {
 } // namespace
 
 EpicManifestIndex::EpicManifestIndex()
-    : Index("EpicManifests") {}
+    : Index(Trace::IndexName::epicManifests) {}
 
 std::vector<EpicAppEntry> EpicManifestIndex::findByName(const QString& displayName, int matchMode) {
     return built(m_names).find(displayName, matchMode);

@@ -8,7 +8,7 @@
 #include <QFileInfo>
 
 OculusLibraryIndex::OculusLibraryIndex()
-    : Index("OculusLibraries") {}
+    : Index(Trace::IndexName::oculusLibraries) {}
 
 std::vector<OculusAppEntry> OculusLibraryIndex::findByAppId(const QString& appId) {
     return built(m_appIds).find(appId);

@@ -33,7 +33,7 @@ public:
 protected:
     using Entry = typename List::value_type;
 
-    /// `name` is what the trace calls the index.
+    /// `name` is what the trace calls the index: one of Trace::IndexName.
     explicit Index(const char* name)
         : m_name(name) {}
 

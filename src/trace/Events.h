@@ -18,6 +18,16 @@ constexpr const char* environmentVariable = "LURULUDRI_TRACE";
 /// The property of the host's QCoreApplication that holds a QIODevice for the trace to go to.
 constexpr const char* deviceProperty = "luruludriTrace";
 
+/// What the lists of what is installed are called, for those who make them and those who look for them in a trace.
+namespace IndexName {
+constexpr const char* uninstall = "Uninstall";
+constexpr const char* gamesExplorer = "GamesExplorer";
+constexpr const char* startMenu = "StartMenu";
+constexpr const char* steamLibraries = "SteamLibraries";
+constexpr const char* oculusLibraries = "OculusLibraries";
+constexpr const char* epicManifests = "EpicManifests";
+} // namespace IndexName
+
 /// What an event is called in a trace: by the field "event", and by "what" where one word serves several.
 struct EventName {
     const char* event;
