@@ -1,8 +1,13 @@
 #include "recordings/WindowsNames.h"
 
+#include <QStringList>
+
 namespace Recordings {
 
 namespace {
+
+/// Name, version, architecture, resource and the publisher's hash; the resource is empty as a rule.
+constexpr int partsOfFullName = 5;
 
 constexpr char16_t finalSigma = 0x03C2;
 constexpr char16_t capitalSigma = 0x03A3;
@@ -31,6 +36,18 @@ QString foldName(const QString& name) {
         }
     }
     return folded;
+}
+
+QString packagesKey() {
+    return QStringLiteral(R"(Software\Classes\Local Settings\Software\Microsoft\Windows\CurrentVersion)"
+                          R"(\AppModel\Repository\Packages)");
+}
+
+QString familyOfPackage(const QString& fullName) {
+    const QStringList parts = fullName.split(QLatin1Char('_'));
+    return parts.size() == partsOfFullName && !parts.first().isEmpty() && !parts.last().isEmpty()
+               ? parts.first() + QLatin1Char('_') + parts.last()
+               : QString();
 }
 
 } // namespace Recordings

@@ -1,6 +1,6 @@
 #include "find/answers/RecordedPc.h"
 
-#include "find/cli/Environment.h"
+#include "find/pc/System.h"
 
 #include <QDir>
 #include <QFile>

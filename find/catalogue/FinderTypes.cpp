@@ -1,7 +1,7 @@
 #include "find/catalogue/FinderTypes.h"
 
 #include "core/IGameFinderFactory.h"
-#include "find/record/FolderListing.h"
+#include "find/pc/AnsweringPc.h"
 #include "find/record/Inventory.h"
 #include "trace/Events.h"
 

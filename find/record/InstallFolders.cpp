@@ -1,9 +1,8 @@
 #include "find/record/InstallFolders.h"
 
 #include "find/cli/Progress.h"
-#include "find/record/FolderListing.h"
+#include "find/pc/AnsweringPc.h"
 #include "find/record/Probe.h"
-#include "platform/Listing.h"
 
 #include <algorithm>
 #include <iterator>
@@ -55,12 +54,12 @@ void ExecutableWalk::walk(const Recordings::DrivePath& folder, bool isDeep) {
 void ExecutableWalk::visit(const Recordings::DrivePath& folder, bool isDeep) {
     m_progress.step(++m_visited, 0, folder.text());
     QStringList executables;
-    for (const Platform::FolderEntry& entry : listFolder(folder.text())) {
+    for (const FolderEntry& entry : listFolder(folder.text())) {
         const Recordings::DrivePath path = pathIn(folder, entry.name);
-        if (isDeep && isRealFolder(entry)) {
+        if (isDeep && entry.isFolder && !entry.isLink) {
             m_pending.push_back(path);
         }
-        if ((entry.attributes & Platform::attributeFolder) == 0 && isExecutableName(entry.name)) {
+        if (!entry.isFolder && isExecutableName(entry.name)) {
             executables.append(entry.name);
         }
     }

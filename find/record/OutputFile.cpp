@@ -1,6 +1,6 @@
 #include "find/record/OutputFile.h"
 
-#include "find/cli/Environment.h"
+#include "find/pc/System.h"
 
 #include <QDate>
 #include <QDir>

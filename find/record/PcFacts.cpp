@@ -1,6 +1,5 @@
 #include "find/record/PcFacts.h"
 
-#include "find/record/InstalledPackages.h"
 #include "recordings/ShellFolderNames.h"
 #include "recordings/WindowsNames.h"
 
@@ -44,7 +43,8 @@ void addPackage(const Trace::Package& event, Recordings::Pc& pc) {
     if (!event.fullName.isEmpty() && !isKnown) {
         pc.packages->push_back({event.family, event.fullName, event.applicationIds});
         // Where a recording of the recording looks for it.
-        const QStringList key = (packagesKey() + QLatin1Char('\\') + event.fullName).split(QLatin1Char('\\'));
+        const QStringList key =
+            (Recordings::packagesKey() + QLatin1Char('\\') + event.fullName).split(QLatin1Char('\\'));
         pc.registry.make(Recordings::RegKey::Root::CurrentUser, key, Recordings::RegistryView::Bits64);
     }
 }

@@ -1,10 +1,10 @@
 #include "find/record/PcRecord.h"
 
 #include "find/cli/Progress.h"
+#include "find/pc/AnsweringPc.h"
 #include "find/record/PcFacts.h"
 #include "find/record/RegistryRecord.h"
 #include "find/record/UsedParts.h"
-#include "platform/Process.h"
 #include "recordings/ShellLink.h"
 
 #include <QDir>
@@ -28,7 +28,7 @@ QByteArray contentsOf(const QString& path) {
 
 PcRecord::PcRecord(const TraceEvents& events, Progress& progress) {
     // Also makes the drives of a recorded PC known to Qt in this program, not in the plug-in only.
-    GeneralFolders general(Platform::systemEnvironment());
+    GeneralFolders general(environmentOfPc());
     // An uninstaller that is registered without its folder is looked for here.
     general.add(QDir::currentPath());
     int done = 0;

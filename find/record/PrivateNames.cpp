@@ -1,7 +1,7 @@
 #include "find/record/PrivateNames.h"
 
-#include "find/cli/Environment.h"
-#include "platform/Process.h"
+#include "find/pc/AnsweringPc.h"
+#include "find/pc/System.h"
 #include "recordings/DrivePath.h"
 #include "recordings/WindowsNames.h"
 
@@ -123,7 +123,7 @@ std::vector<PrivateName> privateNames(const NameSources& sources, const QStringL
 } // namespace
 
 NameSources nameSources(const Recordings::Pc& pc) {
-    const QProcessEnvironment environment = Platform::systemEnvironment();
+    const QProcessEnvironment environment = environmentOfPc();
     NameSources sources = {environment.value(QStringLiteral("USERNAME")),
                            environment.value(QStringLiteral("USERPROFILE")),
                            {environment.value(QStringLiteral("COMPUTERNAME"))}};

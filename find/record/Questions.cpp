@@ -5,11 +5,10 @@
 #include "find/answers/Answers.h"
 #include "find/catalogue/FinderTypes.h"
 #include "find/cli/Progress.h"
+#include "find/pc/AnsweringPc.h"
 #include "find/record/IndexEntries.h"
-#include "find/record/InstalledPackages.h"
 #include "find/record/Inventory.h"
 #include "find/record/Probe.h"
-#include "find/record/UserChoices.h"
 
 #include <memory>
 
@@ -86,7 +85,7 @@ void askEverything(IGameFinderFactory& factory, const Catalogue& games, const Re
     Questioner questioner(factory, progress);
     questioner.askForNothing();
     questioner.askForEverything(
-        {findersOf(games), IndexEntries(readTrace()), installedPackageFamilies(), userChoiceKeys()});
+        {findersOf(games), IndexEntries(readTrace()), registeredPackageFamilies(), userChoiceKeys()});
 }
 
 } // namespace Find

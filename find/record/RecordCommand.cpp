@@ -6,13 +6,13 @@
 #include "find/cli/Console.h"
 #include "find/cli/Progress.h"
 #include "find/explain/PluginTrace.h"
+#include "find/pc/AnsweringPc.h"
 #include "find/record/NeutralPc.h"
 #include "find/record/OutputFile.h"
 #include "find/record/PcRecord.h"
 #include "find/record/Questions.h"
 #include "find/record/RecordedTexts.h"
 #include "find/record/RecordingSummary.h"
-#include "find/record/SystemCodePage.h"
 #include "recordings/PcFile.h"
 
 #include <new>
@@ -86,7 +86,7 @@ ExitStatus recordPc(const Options& options, const Catalogue& games, const Record
             ? std::vector<PrivateName>()
             : choosePrivateNames(sources, collectTexts(events, games, record.pc(), profilesFolderName(sources)));
     Recordings::Pc pc = neutralPc(record.pc(), NeutralNames(names, profilesFolderName(sources)));
-    pc.codePage = chosen ? chosen->codePage : systemCodePage();
+    pc.codePage = chosen ? chosen->codePage : codePageOfPc();
     return write(pc, record.leftOut(), names, options.keepNames, file);
 }
 

@@ -1,7 +1,7 @@
 #include "FindProgram.h"
 
 #include "common/QtPrinters.h"
-#include "find/cli/Environment.h"
+#include "find/pc/System.h"
 
 #include <gtest/gtest.h>
 

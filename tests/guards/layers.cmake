@@ -21,7 +21,8 @@ set(may_platform "")
 set(may_platform_recorded platform recordings)
 set(may_platform_windows platform)
 set(may_recordings "")
-set(may_find interface platform recordings trace)
+set(may_find interface find_pc recordings trace)
+set(may_find_pc platform recordings)
 
 file(GLOB_RECURSE files RELATIVE "${SOURCE}" "${SOURCE}/src/*.h" "${SOURCE}/src/*.cpp" "${SOURCE}/find/*.h"
      "${SOURCE}/find/*.cpp" "${SOURCE}/recordings/*.h" "${SOURCE}/recordings/*.cpp")
@@ -30,7 +31,7 @@ file(GLOB_RECURSE files RELATIVE "${SOURCE}" "${SOURCE}/src/*.h" "${SOURCE}/src/
 function(layer_of path result)
     if(path MATCHES "^core/(GameLocation|IGameFinder|IGameFinderFactory)[.]h$")
         set(layer interface)
-    elseif(path MATCHES "^(core/plugin|platform/recorded|platform/windows)/")
+    elseif(path MATCHES "^(core/plugin|find/pc|platform/recorded|platform/windows)/")
         string(REPLACE "/" "_" layer "${CMAKE_MATCH_1}")
     else()
         string(REGEX REPLACE "/.*" "" layer "${path}")

@@ -47,4 +47,13 @@ TEST(FoldName, MakesEqualWhatWindowsCallsOneName) {
     EXPECT_NE(Recordings::foldName("i"), Recordings::foldName("ı"));
 }
 
+TEST(AppPackages, TheFamilyIsThePackagesNameAndItsPublisher) {
+    EXPECT_EQ(Recordings::familyOfPackage("Maker.Game_1.2.3.0_x64__8wekyb3d8bbwe"), "Maker.Game_8wekyb3d8bbwe");
+    EXPECT_EQ(Recordings::familyOfPackage("Maker.Game_1.2.3.0_neutral_split.scale-100_8wekyb3d8bbwe"),
+              "Maker.Game_8wekyb3d8bbwe");
+    for (const char* const name : {"", "Maker.Game", "a_b_c_d", "_1_x64__b", "a_1_x64__", "a_1_x64___b"}) {
+        EXPECT_EQ(Recordings::familyOfPackage(name), "") << name;
+    }
+}
+
 } // namespace

@@ -1,8 +1,8 @@
 #include "Trace.h"
 
 #include "find/record/IndexEntries.h"
-#include "find/record/InstalledPackages.h"
 #include "find/record/PcFacts.h"
+#include "recordings/WindowsNames.h"
 
 #include "common/QtPrinters.h"
 
@@ -53,7 +53,7 @@ TEST(PcFacts, HavePackagesOnceAndWhereOneLooksForThem) {
     EXPECT_EQ(pc.packages, (Recordings::AppPackages{
                                {"Maker.Game_abc", "Maker.Game_1_x64__abc", {"Maker.Game_abc!App", "Maker.Game_abc!B"}},
                                {"Maker.Lib_abc", "Maker.Lib_1_x64__abc", {}}}));
-    const auto key = pc.registry.open(Recordings::RegKey::Root::CurrentUser, Find::packagesKey().split('\\'),
+    const auto key = pc.registry.open(Recordings::RegKey::Root::CurrentUser, Recordings::packagesKey().split('\\'),
                                       Recordings::RegistryView::Bits64);
     EXPECT_EQ(Recordings::Registry::subKeys(key),
               (std::vector<QString>{"Maker.Game_1_x64__abc", "Maker.Lib_1_x64__abc"}));
@@ -76,15 +76,6 @@ TEST(IndexEntries, AreThoseOfTheirList) {
     EXPECT_EQ(texts(entries.onePerFolder("SteamLibraries")), (QStringList{"1@D:/a", "1@D:/b"}));
     EXPECT_EQ(texts(entries.of("EpicManifests")), QStringList{"epic@E:/"});
     EXPECT_EQ(texts(entries.of("StartMenu")), QStringList());
-}
-
-TEST(InstalledPackages, TheFamilyIsThePackagesNameAndItsPublisher) {
-    EXPECT_EQ(Find::familyOfPackage("Maker.Game_1.2.3.0_x64__8wekyb3d8bbwe"), "Maker.Game_8wekyb3d8bbwe");
-    EXPECT_EQ(Find::familyOfPackage("Maker.Game_1.2.3.0_neutral_split.scale-100_8wekyb3d8bbwe"),
-              "Maker.Game_8wekyb3d8bbwe");
-    for (const char* const name : {"", "Maker.Game", "a_b_c_d", "_1_x64__b", "a_1_x64__", "a_1_x64___b"}) {
-        EXPECT_EQ(Find::familyOfPackage(name), "") << name;
-    }
 }
 
 } // namespace

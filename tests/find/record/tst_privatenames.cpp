@@ -1,7 +1,7 @@
 #include "find/record/PrivateNames.h"
 
 #include "common/TestPc.h"
-#include "find/cli/Environment.h"
+#include "find/pc/System.h"
 
 #include "common/QtPrinters.h"
 

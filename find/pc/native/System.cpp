@@ -1,4 +1,4 @@
-#include "find/cli/Environment.h"
+#include "find/pc/System.h"
 
 #include <QFile>
 
