@@ -1,5 +1,6 @@
 #include "find/pc/AnsweringPc.h"
 
+#include "find/pc/System.h"
 #include "platform/Listing.h"
 #include "platform/Process.h"
 #include "platform/Registry.h"
@@ -7,6 +8,8 @@
 #include "recordings/AnsiText.h"
 #include "recordings/DrivePath.h"
 #include "recordings/WindowsNames.h"
+
+#include <QSysInfo>
 
 #include <array>
 #include <optional>
@@ -72,6 +75,17 @@ QStringList subFoldersOf(const QString& folder) {
 
 QProcessEnvironment environmentOfPc() {
     return Platform::systemEnvironment();
+}
+
+Recordings::NameSources namesOfPc() {
+    const QProcessEnvironment environment = environmentOfPc();
+    Recordings::NameSources names = {environment.value(QStringLiteral("USERNAME")),
+                                     environment.value(QStringLiteral("USERPROFILE")),
+                                     {environment.value(QStringLiteral("COMPUTERNAME"))}};
+    if (isPcItself()) {
+        names.machine.append(QSysInfo::machineHostName());
+    }
+    return names;
 }
 
 int codePageOfPc() {

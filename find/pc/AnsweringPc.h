@@ -1,5 +1,7 @@
 #pragma once
 
+#include "recordings/PrivateNames.h"
+
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
@@ -25,6 +27,9 @@ std::vector<FolderEntry> listFolder(const QString& folder);
 QStringList subFoldersOf(const QString& folder);
 
 QProcessEnvironment environmentOfPc();
+
+/// The names that tell whose PC it is, as far as the environment and the system know them.
+Recordings::NameSources namesOfPc();
 
 /// The ANSI code page; Windows-1252 when it is not known.
 int codePageOfPc();

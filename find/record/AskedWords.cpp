@@ -1,5 +1,6 @@
 #include "find/record/AskedWords.h"
 
+#include "find/catalogue/FinderTypes.h"
 #include "find/record/UsedParts.h"
 #include "recordings/RegValues.h"
 #include "recordings/ShellLink.h"
@@ -174,10 +175,26 @@ QString pathOf(const TraceEvent& event) {
     return read ? read->path : QString();
 }
 
+void addWordsOf(const std::vector<FinderEntry>& finders, QStringList& words) {
+    static const FinderType* const folder = findFinderType(QStringLiteral("folder"));
+    for (const FinderEntry& finder : finders) {
+        addWordsOf(finder.finders, words);
+        if (finder.type != folder) { // a folder's path is one of this PC, with its names
+            words.append(finder.subject);
+        }
+        words += finder.executables;
+        words.append(finder.folderName);
+    }
+}
+
 } // namespace
 
-QStringList askedWords(const TraceEvents& events, const Recordings::Pc& pc, const QString& profilesFolder) {
+QStringList askedWords(const TraceEvents& events, const Catalogue& games, const Recordings::Pc& pc,
+                       const QString& profilesFolder) {
     QStringList words;
+    for (const Game& game : games) {
+        addWordsOf(game.finders, words);
+    }
     const QSet<QString> listed = listedKeys(events);
     KnownPaths known(pc);
     for (const TraceEvent& event : events) {

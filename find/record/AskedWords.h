@@ -1,5 +1,6 @@
 #pragma once
 
+#include "find/catalogue/Catalogue.h"
 #include "find/explain/TraceReader.h"
 #include "recordings/Pc.h"
 
@@ -7,9 +8,10 @@
 
 namespace Find {
 
-/// The names that finders asked for and did not read anywhere on the PC: their own constants, and what they were asked
-/// for. Names of keys, values, variables and files, and what patterns are made of.
-/// What stands behind the folder that holds the users' profiles is none.
-QStringList askedWords(const TraceEvents& events, const Recordings::Pc& pc, const QString& profilesFolder);
+/// What neutral names must not change: the names that finders asked for and did not read anywhere on the PC, their own
+/// constants and what they were asked for (names of keys, values, variables and files, and what patterns are made of),
+/// and what the catalogue's games are called. What stands behind the folder that holds the users' profiles is none.
+QStringList askedWords(const TraceEvents& events, const Catalogue& games, const Recordings::Pc& pc,
+                       const QString& profilesFolder);
 
 } // namespace Find

@@ -7,13 +7,15 @@
 #include "find/cli/Progress.h"
 #include "find/explain/PluginTrace.h"
 #include "find/pc/AnsweringPc.h"
-#include "find/record/NeutralPc.h"
+#include "find/record/AskedWords.h"
 #include "find/record/OutputFile.h"
 #include "find/record/PcRecord.h"
 #include "find/record/Questions.h"
-#include "find/record/RecordedTexts.h"
 #include "find/record/RecordingSummary.h"
+#include "find/record/UsedParts.h"
+#include "recordings/NeutralPc.h"
 #include "recordings/PcFile.h"
+#include "recordings/PrivateNames.h"
 
 #include <new>
 
@@ -49,8 +51,8 @@ PcRecord collect(const TraceEvents& events) {
     return PcRecord(events, progress);
 }
 
-ExitStatus write(const Recordings::Pc& pc, const QStringList& leftOut, const std::vector<PrivateName>& names,
-                 bool areNamesKept, OutputFile& file) {
+ExitStatus write(const Recordings::Pc& pc, const QStringList& leftOut,
+                 const std::vector<Recordings::PrivateName>& names, bool areNamesKept, OutputFile& file) {
     if (!file.write(Recordings::renderPcFile(pc))) {
         return fail(QStringLiteral("%1: the file cannot be written").arg(file.name()));
     }
@@ -80,12 +82,17 @@ ExitStatus recordPc(const Options& options, const Catalogue& games, const Record
         return fail(fault.isEmpty() ? QStringLiteral("the plug-in did not tell what it read") : fault);
     }
     const PcRecord record = collect(events);
-    const NameSources sources = nameSources(record.pc());
-    const std::vector<PrivateName> names =
-        options.keepNames
-            ? std::vector<PrivateName>()
-            : choosePrivateNames(sources, collectTexts(events, games, record.pc(), profilesFolderName(sources)));
-    Recordings::Pc pc = neutralPc(record.pc(), NeutralNames(names, profilesFolderName(sources)));
+    Recordings::NameSources sources = namesOfPc();
+    if (sources.profile.isEmpty()) {
+        sources.profile = Recordings::profileAmong(record.pc().shellFolders);
+    }
+    const QString profiles = Recordings::profilesFolderName(sources);
+    std::vector<Recordings::PrivateName> names;
+    if (!options.keepNames) {
+        names = Recordings::choosePrivateNames(sources, askedWords(events, games, record.pc(), profiles),
+                                               textsOf(record.pc()));
+    }
+    Recordings::Pc pc = Recordings::neutralPc(record.pc(), {names, profiles}, mappedContents);
     pc.codePage = chosen ? chosen->codePage : codePageOfPc();
     return write(pc, record.leftOut(), names, options.keepNames, file);
 }

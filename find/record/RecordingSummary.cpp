@@ -49,12 +49,12 @@ QString describeRegistry(const Recordings::Registry& registry) {
     return counted(keys, "key", "keys") + QLatin1String(", ") + counted(values, "value", "values");
 }
 
-QString describeNames(const std::vector<PrivateName>& names, bool areKept) {
+QString describeNames(const std::vector<Recordings::PrivateName>& names, bool areKept) {
     if (areKept) {
         return QStringLiteral("kept");
     }
     QStringList replaced;
-    for (const PrivateName& name : names) {
+    for (const Recordings::PrivateName& name : names) {
         const QString where = name.isEverywhere ? QString() : QStringLiteral(" (as a user's folder only)");
         replaced.append(QStringLiteral("\"%1\" is now \"%2\"").arg(name.name, name.neutral) + where);
     }
@@ -83,7 +83,7 @@ QString shellWord(const QString& text) {
 
 } // namespace
 
-QString summarize(const Recordings::Pc& pc, const std::vector<PrivateName>& names, const QString& file,
+QString summarize(const Recordings::Pc& pc, const std::vector<Recordings::PrivateName>& names, const QString& file,
                   bool areNamesKept) {
     const int packages = pc.packages ? static_cast<int>(pc.packages->size()) : 0;
     return QStringLiteral("Recorded into %1:\n").arg(oneLine(file)) + line("registry", describeRegistry(pc.registry)) +
@@ -93,12 +93,12 @@ QString summarize(const Recordings::Pc& pc, const std::vector<PrivateName>& name
            QStringLiteral("Replay it on Linux with: ./run --pc %1\n").arg(shellWord(oneLine(fileElsewhere(file))));
 }
 
-QStringList describeLosses(const QStringList& leftOut, const std::vector<PrivateName>& names) {
+QStringList describeLosses(const QStringList& leftOut, const std::vector<Recordings::PrivateName>& names) {
     QStringList lines;
     for (const QString& path : leftOut) {
         lines.append(QStringLiteral("not recorded: %1").arg(path));
     }
-    for (const PrivateName& name : names) {
+    for (const Recordings::PrivateName& name : names) {
         if (!name.isEverywhere) {
             lines.append(
                 QStringLiteral("\"%1\" is too short a name, or a word that finders look for: it is \"%2\" as a "

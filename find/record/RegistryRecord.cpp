@@ -23,7 +23,7 @@ void addValue(const Trace::Value& event, Recordings::Registry& registry) {
     Recordings::RegistryNode& key = makeKey(event.place, {}, registry);
     // Where both views share a key, as HKEY_CLASSES_ROOT does, finders ask the 32-bit one first.
     if (is32Bit(event.place) || !key.value(event.name)) {
-        key.apply(usedValue({event.name, false, event.type, event.data}, [](const QString& text) { return text; }));
+        key.apply(usedValue({event.name, false, event.type, event.data}));
     }
 }
 

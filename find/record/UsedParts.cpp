@@ -14,6 +14,8 @@ namespace Find {
 
 namespace {
 
+using Recordings::MapText;
+
 QByteArray usedOfEpicManifest(const QByteArray& contents, const MapText& map) {
     const QJsonObject manifest = QJsonDocument::fromJson(contents).object();
     QJsonObject used;
@@ -62,13 +64,17 @@ std::optional<QByteArray> usedContents(const QString& path, const QByteArray& co
     return isLibraryFolders ? std::make_optional(usedOfLibraryFolders(contents, map)) : std::nullopt;
 }
 
-Recordings::RegValue usedValue(const Recordings::RegValue& value, const MapText& map) {
+QByteArray mappedContents(const QString& path, const QByteArray& contents, const MapText& map) {
+    return usedContents(path, contents, map).value_or(QByteArray());
+}
+
+Recordings::RegValue usedValue(const Recordings::RegValue& value) {
     Recordings::RegValue used = value;
     if (value.type == Recordings::RegType::string) {
         const QString text = Recordings::fromUtf16(value.data);
         const QString whole = text.left(text.indexOf(QChar(u'\0')));
         const bool isCommand = value.name.compare(UninstallCommand::valueName, Qt::CaseInsensitive) == 0;
-        used.data = Recordings::storedText(map(isCommand ? usedOfUninstallCommand(whole) : whole));
+        used.data = Recordings::storedText(isCommand ? usedOfUninstallCommand(whole) : whole);
     } else if (value.type != Recordings::RegType::dword) {
         used.data.fill('\0');
     }

@@ -1,12 +1,11 @@
-#include "find/record/NeutralNames.h"
+#include "recordings/NeutralNames.h"
 
 #include <QChar>
 #include <QUrl>
-#include <QtEndian>
 
 #include <algorithm>
 
-namespace Find {
+namespace Recordings {
 
 namespace {
 
@@ -48,12 +47,6 @@ QString escaped(const QString& name) {
         text += unit < 0x80 ? QString(character) : QString::asprintf("\\u%04x", static_cast<unsigned>(unit));
     }
     return text;
-}
-
-QByteArray toUtf16(const QString& text) {
-    QByteArray bytes(text.size() * 2, Qt::Uninitialized);
-    qToLittleEndian<char16_t>(text.utf16(), text.size(), bytes.data());
-    return bytes;
 }
 
 } // namespace
@@ -131,30 +124,4 @@ bool NeutralNames::isBelowProfiles(const QString& text, int position) const {
     return end < position && begin > 0 && isSeparator(text.at(begin - 1)) && isWordAt(text, begin, m_profilesFolder);
 }
 
-QByteArray NeutralNames::contents(const QByteArray& bytes) const {
-    if (m_needles.empty()) {
-        return bytes;
-    }
-    if (bytes.startsWith("\xFF\xFE")) {
-        return utf16(bytes);
-    }
-    const QString asUtf8 = QString::fromUtf8(bytes.constData(), bytes.size()); // zeros included
-    if (asUtf8.toUtf8() == bytes) {
-        return text(asUtf8).toUtf8();
-    }
-    // One character a byte, so that no byte changes but those of names, which are there as UTF-8 or in the ANSI code
-    // page.
-    NeutralNames bytewise = *this;
-    for (const Needle& needle : m_needles) {
-        bytewise.m_needles.push_back({QString::fromLatin1(needle.text.toUtf8()), needle.neutral, needle.isEverywhere});
-    }
-    return bytewise.text(QString::fromLatin1(bytes.constData(), bytes.size())).toLatin1();
-}
-
-QByteArray NeutralNames::utf16(const QByteArray& bytes) const {
-    QString units(bytes.size() / 2, Qt::Uninitialized);
-    qFromLittleEndian<char16_t>(bytes.constData(), units.size(), units.data());
-    return toUtf16(text(units)) + bytes.mid(units.size() * 2);
-}
-
-} // namespace Find
+} // namespace Recordings

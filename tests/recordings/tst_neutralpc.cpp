@@ -1,4 +1,4 @@
-#include "find/record/NeutralPc.h"
+#include "recordings/NeutralPc.h"
 #include "recordings/PcFile.h"
 #include "recordings/RegValues.h"
 #include "recordings/ShellLink.h"
@@ -38,9 +38,14 @@ Recordings::Pc pcOf(const QString& name) {
     return pc;
 }
 
+QByteArray mapWhole(const QString& name, const QByteArray& contents, const Recordings::MapText& map) {
+    EXPECT_EQ(name, "libraryfolders.vdf");
+    return map(QString::fromUtf8(contents)).toUtf8();
+}
+
 TEST(NeutralPc, HasNeutralNamesInEveryText) {
-    const Find::NeutralNames names({{"anna", "user"}}, "Users");
-    const Recordings::Pc neutral = Find::neutralPc(pcOf("Anna"), names);
+    const Recordings::NeutralNames names({{"anna", "user"}}, "Users");
+    const Recordings::Pc neutral = Recordings::neutralPc(pcOf("Anna"), names, mapWhole);
     EXPECT_EQ(Recordings::renderPcFile(neutral), Recordings::renderPcFile(pcOf("user")));
     EXPECT_THAT(neutral.drives.list(path("C:/Users/user")),
                 ::testing::ElementsAre("z", "b of user", "libraryfolders.vdf", "x.lnk"))
@@ -48,7 +53,7 @@ TEST(NeutralPc, HasNeutralNamesInEveryText) {
 }
 
 TEST(NeutralPc, IsTheSameWithoutNames) {
-    EXPECT_TRUE(Find::neutralPc(pcOf("Anna"), {}) == pcOf("Anna"));
+    EXPECT_TRUE(Recordings::neutralPc(pcOf("Anna"), {}, mapWhole) == pcOf("Anna"));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "find/record/NeutralNames.h"
+#include "recordings/NeutralNames.h"
 
 #include "common/QtPrinters.h"
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-using Find::NeutralNames;
+using Recordings::NeutralNames;
 
 const NeutralNames names({{"Jördis", "user"}, {"KAEFER-PC", "pc"}}, "Users");
 
@@ -43,9 +43,9 @@ TEST(NeutralNames, TheShortFormOfANameIsTheName) {
     EXPECT_EQ(longName.text("C:\\Users\\CHRIST~1\\Temp"), "C:\\Users\\user\\Temp");
     EXPECT_EQ(longName.text("C:\\Users\\christ~3"), "C:\\Users\\user");
     EXPECT_EQ(longName.text("CHRIST~12 CHRIST~"), "CHRIST~12 CHRIST~");
-    EXPECT_EQ(Find::shortFormOf("Anna Lena"), "AnnaLe~");
-    EXPECT_EQ(Find::shortFormOf("a.b"), "ab~");
-    EXPECT_EQ(Find::shortFormOf("Annalena"), "") << "eight letters are short enough";
+    EXPECT_EQ(Recordings::shortFormOf("Anna Lena"), "AnnaLe~");
+    EXPECT_EQ(Recordings::shortFormOf("a.b"), "ab~");
+    EXPECT_EQ(Recordings::shortFormOf("Annalena"), "") << "eight letters are short enough";
 }
 
 TEST(NeutralNames, ANameThatIsAWordOfPlacesIsReplacedBesideTheProfileOnly) {
@@ -59,31 +59,14 @@ TEST(NeutralNames, ANameThatIsAWordOfPlacesIsReplacedBesideTheProfileOnly) {
     }
 }
 
-TEST(NeutralNames, ContentsOfFilesAreReplacedWhateverTheyAreWrittenIn) {
-    EXPECT_EQ(names.contents("C:\\\\Users\\\\Jördis"), "C:\\\\Users\\\\user");
-    EXPECT_EQ(names.contents("\"C:\\\\Users\\\\J\\u00F6rdis\\\\x\""), "\"C:\\\\Users\\\\user\\\\x\"");
-    EXPECT_EQ(names.contents("file:///J%C3%B6rdis/x"), "file:///user/x");
-    EXPECT_EQ(names.contents("\xFF J\xF6rdis \xC0"), "\xFF user \xC0") << "the ANSI code page";
-    EXPECT_EQ(names.contents("\xFF Jördis \xC0"), "\xFF user \xC0") << "UTF-8 among other bytes";
-    EXPECT_EQ(names.contents("\xEF\xBB\xBF Jördis"), "\xEF\xBB\xBF user");
-    const QByteArray noText("\x00\x01\xFE\x80J\xF6rdi", 9);
-    EXPECT_EQ(names.contents(noText), noText);
-}
-
-TEST(NeutralNames, TextInUtf16IsReplacedUpToAnOddByte) {
-    const auto utf16 = [](const QString& text) {
-        return QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
-    };
-    EXPECT_EQ(names.utf16(utf16("C:\\Jördis") + 'x'), utf16("C:\\user") + 'x');
-    EXPECT_EQ(names.contents("\xFF\xFE" + utf16("Jördis")), "\xFF\xFE" + utf16("user"));
-    EXPECT_EQ(names.utf16("x"), "x");
-    EXPECT_EQ(names.utf16(""), "");
+TEST(NeutralNames, AreKnownAsTheyAreEscapedInJsonAndUrls) {
+    EXPECT_EQ(names.text("\"C:\\\\Users\\\\J\\u00F6rdis\\\\x\""), "\"C:\\\\Users\\\\user\\\\x\"");
+    EXPECT_EQ(names.text("file:///J%C3%B6rdis/x"), "file:///user/x");
 }
 
 TEST(NeutralNames, WithoutNamesNothingChanges) {
     const NeutralNames none;
     EXPECT_EQ(none.text("C:\\Users\\Jördis"), "C:\\Users\\Jördis");
-    EXPECT_EQ(none.contents("\xFFJ\xF6rdis"), "\xFFJ\xF6rdis");
 }
 
 } // namespace

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 #include <vector>
 
-namespace Find {
+namespace Recordings {
 
 /// A name that tells whose PC it is, and what stands in its place in a recording.
 struct PrivateName {
@@ -16,7 +15,8 @@ struct PrivateName {
 };
 
 /// Puts neutral names in the place of private ones: as whole words, letter case ignored. What is no letter, mark or
-/// digit ends a word. The short form of a name ("CHRIST~1") counts as the name.
+/// digit ends a word. The short form of a name ("CHRIST~1") counts as the name, as does one escaped as in JSON and
+/// URLs.
 class NeutralNames {
 public:
     /// Leaves everything as it is.
@@ -26,12 +26,6 @@ public:
     NeutralNames(const std::vector<PrivateName>& names, const QString& profilesFolder);
 
     QString text(const QString& text) const;
-
-    /// A file's contents: UTF-8, UTF-16 with a byte-order mark, or any bytes; also names escaped as in JSON and URLs.
-    QByteArray contents(const QByteArray& bytes) const;
-
-    /// Text in UTF-16LE, as the registry stores it; a last odd byte stays.
-    QByteArray utf16(const QByteArray& bytes) const;
 
 private:
     struct Needle {
@@ -55,4 +49,4 @@ bool containsWord(const QString& text, const QString& word);
 /// needs none.
 QString shortFormOf(const QString& name);
 
-} // namespace Find
+} // namespace Recordings

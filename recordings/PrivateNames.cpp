@@ -1,20 +1,17 @@
-#include "find/record/PrivateNames.h"
+#include "recordings/PrivateNames.h"
 
-#include "find/pc/AnsweringPc.h"
-#include "find/pc/System.h"
 #include "recordings/DrivePath.h"
+#include "recordings/RegValues.h"
 #include "recordings/WindowsNames.h"
 
 #include <QHash>
-#include <QProcessEnvironment>
 #include <QRegularExpression>
-#include <QSysInfo>
 
 #include <algorithm>
 #include <iterator>
 #include <optional>
 
-namespace Find {
+namespace Recordings {
 
 namespace {
 
@@ -26,7 +23,7 @@ constexpr const char* usualProfilesFolder = "Users";
 constexpr const char* sharedProfiles[] = {"Public", "Default", "Default User", "All Users"};
 
 QString lastNameOf(const QString& path) {
-    const std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(path);
+    const std::optional<DrivePath> parsed = DrivePath::parse(path);
     return parsed ? parsed->names.value(parsed->names.size() - 1) : QString();
 }
 
@@ -48,8 +45,8 @@ bool mergesPaths(const std::vector<PrivateName>& names, const QString& profilesF
     const NeutralNames longForms(kept, profilesFolder);
     QHash<QString, QString> pathsByNeutral;
     for (const QString& path : paths) {
-        const QString before = Recordings::foldName(longForms.text(path));
-        const QString after = Recordings::foldName(neutral.text(path));
+        const QString before = foldName(longForms.text(path));
+        const QString after = foldName(neutral.text(path));
         const auto known = pathsByNeutral.constFind(after);
         if (known == pathsByNeutral.constEnd()) {
             pathsByNeutral.insert(after, before);
@@ -58,24 +55,6 @@ bool mergesPaths(const std::vector<PrivateName>& names, const QString& profilesF
         }
     }
     return false;
-}
-
-/// The folder of the user's profile, of which the shell's folders are part; empty when none tells it.
-QString profileAmong(const QMap<int, QString>& shellFolders) {
-    for (const QString& folder : shellFolders) {
-        std::optional<Recordings::DrivePath> path = Recordings::DrivePath::parse(folder);
-        const QStringList names = path ? path->names : QStringList();
-        int size = static_cast<int>(
-            names.indexOf(QRegularExpression(QStringLiteral("appdata"), QRegularExpression::CaseInsensitiveOption)));
-        if (size < 0 && names.value(0).compare(QLatin1String(usualProfilesFolder), Qt::CaseInsensitive) == 0) {
-            size = 2;
-        }
-        if (size >= 2) {
-            path->names = names.mid(0, size);
-            return path->text();
-        }
-    }
-    return {};
 }
 
 /// The folders beside the user's profile that the texts name, but for Windows' own and those with neutral names.
@@ -122,21 +101,37 @@ std::vector<PrivateName> privateNames(const NameSources& sources, const QStringL
 
 } // namespace
 
-NameSources nameSources(const Recordings::Pc& pc) {
-    const QProcessEnvironment environment = environmentOfPc();
-    NameSources sources = {environment.value(QStringLiteral("USERNAME")),
-                           environment.value(QStringLiteral("USERPROFILE")),
-                           {environment.value(QStringLiteral("COMPUTERNAME"))}};
-    if (sources.profile.isEmpty()) {
-        sources.profile = profileAmong(pc.shellFolders);
+QString profileAmong(const QMap<int, QString>& shellFolders) {
+    for (const QString& folder : shellFolders) {
+        std::optional<DrivePath> path = DrivePath::parse(folder);
+        const QStringList names = path ? path->names : QStringList();
+        int size = static_cast<int>(
+            names.indexOf(QRegularExpression(QStringLiteral("appdata"), QRegularExpression::CaseInsensitiveOption)));
+        if (size < 0 && names.value(0).compare(QLatin1String(usualProfilesFolder), Qt::CaseInsensitive) == 0) {
+            size = 2;
+        }
+        if (size >= 2) {
+            path->names = names.mid(0, size);
+            return path->text();
+        }
     }
-    if (isPcItself()) {
-        sources.machine.append(QSysInfo::machineHostName());
-    }
-    return sources;
+    return {};
 }
 
-std::vector<PrivateName> choosePrivateNames(const NameSources& sources, const RecordedTexts& texts) {
+RecordedTexts textsOf(const Pc& pc) {
+    RecordedTexts texts;
+    pc.drives.visit([&texts](const DrivePath& path, const File&) { texts.paths.append(path.text()); });
+    pc.registry.visit([&texts](RegKey::Root root, const QStringList& path, const RegistryNode& key) {
+        texts.paths.append((QStringList{rootName(root)} + path).join(QLatin1Char('\\')));
+        for (const auto& [folded, value] : key.values()) {
+            texts.others.append(textOf(value.type, value.data).value_or(QString()));
+        }
+    });
+    return texts;
+}
+
+std::vector<PrivateName> choosePrivateNames(const NameSources& sources, const QStringList& places,
+                                            const RecordedTexts& texts) {
     const QString profilesFolder = profilesFolderName(sources);
     std::vector<PrivateName> chosen;
     const auto choose = [&](const PrivateName& name, int number) {
@@ -152,7 +147,7 @@ std::vector<PrivateName> choosePrivateNames(const NameSources& sources, const Re
         }
         return number;
     };
-    for (const PrivateName& name : privateNames(sources, texts.places)) {
+    for (const PrivateName& name : privateNames(sources, places)) {
         choose(name, 1);
     }
     const NeutralNames known(chosen, profilesFolder);
@@ -168,9 +163,9 @@ std::vector<PrivateName> choosePrivateNames(const NameSources& sources, const Re
 }
 
 QString profilesFolderName(const NameSources& sources) {
-    const std::optional<Recordings::DrivePath> profile = Recordings::DrivePath::parse(sources.profile);
+    const std::optional<DrivePath> profile = DrivePath::parse(sources.profile);
     return profile && profile->names.size() > 1 ? profile->names.at(profile->names.size() - 2)
                                                 : QString::fromLatin1(usualProfilesFolder);
 }
 
-} // namespace Find
+} // namespace Recordings
