@@ -113,9 +113,7 @@ QStringList registeredPackageFamilies() {
 }
 
 QStringList userChoiceKeys() {
-    return Platform::openUserSettings(QStringLiteral("Veltrane"), QStringLiteral("Quorvan"),
-                                      QStringLiteral("UserProvidedLocations"))
-        ->allKeys();
+    return Platform::openUserLocations()->allKeys();
 }
 
 } // namespace Find

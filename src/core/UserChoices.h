@@ -12,12 +12,7 @@ namespace Finders {
 /// out when it goes.
 class UserChoices {
 public:
-    UserChoices()
-        : UserChoices(Platform::openUserSettings(QStringLiteral("Veltrane"), QStringLiteral("Quorvan"),
-                                                 QStringLiteral("UserProvidedLocations"))) {}
-
-    /// The same in the given settings.
-    explicit UserChoices(std::unique_ptr<Platform::UserSettings> settings)
+    explicit UserChoices(std::unique_ptr<Platform::UserSettings> settings = Platform::openUserLocations())
         : m_settings(std::move(settings)) {}
 
     ~UserChoices() { m_settings->sync(); }

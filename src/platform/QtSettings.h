@@ -9,9 +9,9 @@ namespace Platform {
 /// The settings where Qt keeps them for the user who runs the process.
 class QtSettings final : public UserSettings {
 public:
-    QtSettings(const QString& organisation, const QString& application, const QString& group)
-        : m_settings(QSettings::UserScope, organisation, application) {
-        m_settings.beginGroup(group);
+    QtSettings()
+        : m_settings(QSettings::UserScope, QStringLiteral("Veltrane"), QStringLiteral("Quorvan")) {
+        m_settings.beginGroup(QStringLiteral("UserProvidedLocations"));
     }
 
     QStringList allKeys() const override { return m_settings.allKeys(); }

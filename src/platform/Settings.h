@@ -5,11 +5,10 @@
 
 #include <memory>
 
-/// What the user of the PC set.
+/// The folders that the user of the PC chose for games, one value a game, under a key of the game's own.
 namespace Platform {
 
-/// One group of an application's settings. Open while the object lives. Windows and a recorded PC ignore the letter
-/// case of keys.
+/// Open while the object lives. Windows and a recorded PC ignore the letter case of keys.
 class UserSettings {
 public:
     virtual ~UserSettings() = default;
@@ -25,8 +24,9 @@ protected:
     Q_DISABLE_COPY_MOVE(UserSettings)
 };
 
-/// QSettings(QSettings::UserScope, organisation, application), and then beginGroup.
-std::unique_ptr<UserSettings> openUserSettings(const QString& organisation, const QString& application,
-                                               const QString& group);
+/// QSettings(QSettings::UserScope, "Veltrane", "Quorvan") and then beginGroup("UserProvidedLocations"). In the seam, as
+/// QSettings can't be pointed at a recording: setPath takes all settings of the process, the host's too, to a file that
+/// would have to be written, and off Windows the letter case of keys counts.
+std::unique_ptr<UserSettings> openUserLocations();
 
 } // namespace Platform

@@ -30,9 +30,7 @@ protected:
         }
     }
 
-    static std::unique_ptr<Platform::UserSettings> settings() {
-        return Platform::openUserSettings("Veltrane", "Quorvan", "UserProvidedLocations");
-    }
+    static std::unique_ptr<Platform::UserSettings> settings() { return Platform::openUserLocations(); }
 
     /// What is stored under a key; "(nothing)" where there is no value.
     static QString stored(const QString& key) { return settings()->value(key, "(nothing)"); }

@@ -11,7 +11,7 @@ namespace Platform {
 namespace {
 
 struct Setting {
-    QString name; ///< as it was first written
+    QString key; ///< as it was first written
     QString value;
 };
 
@@ -19,32 +19,29 @@ struct Setting {
 /// a recording is never written to. Any thread may call.
 class RecordedValues {
 public:
-    QStringList namesBelow(const QString& group) {
+    QStringList keys() {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        QStringList names;
-        const QMap<QString, Setting>& settings = current();
-        for (auto setting = settings.begin(); setting != settings.end(); ++setting) {
-            if (setting.key().startsWith(Recordings::foldName(group))) {
-                names.append(setting->name.mid(group.size()));
-            }
+        QStringList keys;
+        for (const Setting& setting : current()) {
+            keys.append(setting.key);
         }
-        return names;
+        return keys;
     }
 
-    QString value(const QString& name, const QString& fallback) {
+    QString value(const QString& key, const QString& fallback) {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        return current().value(Recordings::foldName(name), {name, fallback}).value;
+        return current().value(Recordings::foldName(key), {key, fallback}).value;
     }
 
-    void setValue(const QString& name, const QString& value) {
+    void setValue(const QString& key, const QString& value) {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        Setting& setting = current()[Recordings::foldName(name)];
-        setting = {setting.name.isEmpty() ? name : setting.name, value};
+        Setting& setting = current()[Recordings::foldName(key)];
+        setting = {setting.key.isEmpty() ? key : setting.key, value};
     }
 
-    void remove(const QString& name) {
+    void remove(const QString& key) {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        current().remove(Recordings::foldName(name));
+        current().remove(Recordings::foldName(key));
     }
 
 private:
@@ -52,25 +49,18 @@ private:
         const std::shared_ptr<const Recorded::RecordedPc> pc = Recorded::currentPc();
         if (pc != m_pc) {
             m_pc = pc;
-            m_settings = recorded(*pc);
+            m_settings.clear();
+            const QMap<QString, QString>& locations = pc->description().userLocations;
+            for (auto location = locations.begin(); location != locations.end(); ++location) {
+                m_settings.insert(Recordings::foldName(location.key()), {location.key(), location.value()});
+            }
         }
         return m_settings;
     }
 
-    // All that a recording has of the user's settings.
-    static QMap<QString, Setting> recorded(const Recorded::RecordedPc& pc) {
-        QMap<QString, Setting> settings;
-        const QMap<QString, QString>& locations = pc.description().userLocations;
-        for (auto location = locations.begin(); location != locations.end(); ++location) {
-            const QString name = QLatin1String("Veltrane/Quorvan/UserProvidedLocations/") + location.key();
-            settings.insert(Recordings::foldName(name), {name, location.value()});
-        }
-        return settings;
-    }
-
     std::mutex m_mutex;
     std::shared_ptr<const Recorded::RecordedPc> m_pc;
-    QMap<QString, Setting> m_settings; ///< by folded name
+    QMap<QString, Setting> m_settings; ///< by folded key
 };
 
 RecordedValues& recordedValues() {
@@ -80,36 +70,26 @@ RecordedValues& recordedValues() {
 
 class RecordedSettings final : public UserSettings {
 public:
-    explicit RecordedSettings(QString group)
-        : m_group(std::move(group)) {}
-
-    QStringList allKeys() const override { return recordedValues().namesBelow(m_group); }
+    QStringList allKeys() const override { return recordedValues().keys(); }
 
     QString value(const QString& key, const QString& fallback) const override {
-        return recordedValues().value(m_group + key, fallback);
+        return recordedValues().value(key, fallback);
     }
 
-    void setValue(const QString& key, const QString& value) override {
-        recordedValues().setValue(m_group + key, value);
-    }
+    void setValue(const QString& key, const QString& value) override { recordedValues().setValue(key, value); }
 
-    void remove(const QString& key) override { recordedValues().remove(m_group + key); }
+    void remove(const QString& key) override { recordedValues().remove(key); }
 
     void sync() override {}
-
-private:
-    QString m_group; ///< with a slash at its end
 };
 
 } // namespace
 
-std::unique_ptr<UserSettings> openUserSettings(const QString& organisation, const QString& application,
-                                               const QString& group) {
+std::unique_ptr<UserSettings> openUserLocations() {
     if (!Recorded::currentPc()->isActive()) {
-        return std::make_unique<QtSettings>(organisation, application, group);
+        return std::make_unique<QtSettings>();
     }
-    return std::make_unique<RecordedSettings>(organisation + QLatin1Char('/') + application + QLatin1Char('/') + group +
-                                              QLatin1Char('/'));
+    return std::make_unique<RecordedSettings>();
 }
 
 } // namespace Platform

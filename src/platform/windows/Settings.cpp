@@ -2,9 +2,8 @@
 
 namespace Platform {
 
-std::unique_ptr<UserSettings> openUserSettings(const QString& organisation, const QString& application,
-                                               const QString& group) {
-    return std::make_unique<QtSettings>(organisation, application, group);
+std::unique_ptr<UserSettings> openUserLocations() {
+    return std::make_unique<QtSettings>();
 }
 
 } // namespace Platform

@@ -61,12 +61,11 @@ TEST_F(RecordedUserLocation, CanBeChangedForAsLongAsThePcIsChosen) {
 }
 
 TEST_F(RecordedUserLocation, IsListedAsItWasWritten) {
-    const auto settings = [] { return Platform::openUserSettings("Veltrane", "Quorvan", "UserProvidedLocations"); };
+    const auto settings = [] { return Platform::openUserLocations(); };
     EXPECT_EQ(settings()->allKeys(), QStringList{"Wal"});
     settings()->setValue("WAL", "D:\\Neu");
     settings()->setValue("Hai", "D:\\Hai");
     EXPECT_EQ(settings()->allKeys(), (QStringList{"Hai", "Wal"}));
-    EXPECT_EQ(Platform::openUserSettings("Veltrane", "Other", "UserProvidedLocations")->allKeys(), QStringList());
     settings()->remove("hai");
     EXPECT_EQ(settings()->allKeys(), QStringList{"Wal"});
 }
