@@ -5,6 +5,7 @@
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "common/TraceLog.h"
 #include "core/Locations.h"
 #include "platform/Registry.h"
 #include "steam/MessageLog.h"
@@ -80,11 +81,13 @@ TEST_F(SteamVrAlternativeFinderTest, WithoutAMonitorNothingIsFound) {
 TEST_F(SteamVrAlternativeFinderTest, TheMonitorsNameRespectsCase) {
     pc.file(server);
     location = usedLocation();
+    const TraceLog trace;
     for (const char* name : {"bin\\Win64\\vrmonitor.exe", "bin/win64/vrmonitor.exe", "bin\\win64\\vrmonitor", ""}) {
         registerCommand("vrmonitor", '"' + steamVr + name + "\" \"%1\"");
         EXPECT_FALSE(find()) << name;
         EXPECT_EQ(location, usedLocation()) << name;
     }
+    EXPECT_EQ(trace.texts("exists", "path"), QStringList()) << "no server is looked for";
 }
 
 TEST_F(SteamVrAlternativeFinderTest, WithoutTheServerNothingIsFound) {
@@ -135,10 +138,13 @@ TEST_F(SteamVrAlternativeFinderTest, OneQuoteGoesAndNoMore) {
 }
 
 TEST_F(SteamVrAlternativeFinderTest, ACommandThatBeginsWithTheMonitorHasAnEmptyFolder) {
-    registerCommand("vrmonitor", "bin\\win64\\vrmonitor.exe");
-    EXPECT_FALSE(find());
-    registerCommand("vrmonitor", "\"bin\\win64\\vrmonitor.exe\"");
-    EXPECT_FALSE(find());
+    for (const char* command : {"bin\\win64\\vrmonitor.exe", "\"bin\\win64\\vrmonitor.exe\"",
+                                "bin\\win32\\vrmonitor.exe", "\"bin\\win32\\vrmonitor.exe\""}) {
+        const TraceLog trace;
+        registerCommand("vrmonitor", command);
+        EXPECT_FALSE(find()) << command;
+        EXPECT_EQ(trace.texts("exists", "path"), QStringList("bin\\win64\\vrserver.exe")) << command;
+    }
 }
 
 TEST_F(SteamVrAlternativeFinderTest, KeepsNoUserLocation) {
