@@ -4,6 +4,7 @@
 #include "recordings/HostFiles.h"
 #include "recordings/PcFile.h"
 #include "recordings/PcJson.h"
+#include "recordings/PcPage.h"
 #include "recordings/RegFileWriter.h"
 
 namespace Recordings {
@@ -95,13 +96,23 @@ QString noRecording() {
     return QStringLiteral("no recorded PC here");
 }
 
-void readFile(const QByteArray& path, Recording& recording) {
-    const std::optional<QByteArray> bytes = HostFiles::read(path);
-    JsonFault fault;
-    const std::optional<JsonValue> json = bytes ? parseJson(*bytes, fault) : std::nullopt;
+/// The text of the recorded PC in the file, which may be a page around it.
+std::optional<QByteArray> readText(const QByteArray& path, QString& fault) {
+    std::optional<QByteArray> bytes = HostFiles::read(path);
     if (!bytes) {
-        recording.fault = QStringLiteral("the file cannot be read");
-    } else if (!json && bytes->trimmed().startsWith('{')) {
+        fault = QStringLiteral("the file cannot be read");
+    }
+    return bytes && isPage(*bytes) ? pcInPage(*bytes, fault) : bytes;
+}
+
+void readFile(const QByteArray& path, Recording& recording) {
+    const std::optional<QByteArray> text = readText(path, recording.fault);
+    if (!text) {
+        return;
+    }
+    JsonFault fault;
+    const std::optional<JsonValue> json = parseJson(*text, fault);
+    if (!json && text->trimmed().startsWith('{')) {
         recording.fault = QStringLiteral("line %1: %2").arg(QString::number(fault.line), fault.message);
     } else if (!json || !isPcFile(*json)) {
         recording.fault = noRecording();
@@ -128,7 +139,8 @@ std::vector<QByteArray> recordingsIn(const QByteArray& folder) {
     std::vector<QByteArray> names;
     for (const HostFiles::Entry& entry : HostFiles::list(folder).value_or(std::vector<HostFiles::Entry>())) {
         const QByteArray path = folder + '/' + entry.name;
-        const bool isFile = entry.name.toLower().endsWith(".json") && HostFiles::isFile(path);
+        const QByteArray name = entry.name.toLower();
+        const bool isFile = (name.endsWith(".json") || name.endsWith(".html")) && HostFiles::isFile(path);
         if (isRecordingFolder(path) || (isFile && readRecording(path).fault.isEmpty())) {
             names.push_back(entry.name);
         }

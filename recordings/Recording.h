@@ -21,8 +21,8 @@ struct Recording {
     std::vector<Problem> problems; ///< what in it can't be read, in the order of its files
 };
 
-/// Reads the recorded PC at `path`, as HostFiles takes it: the one file, or a folder with `registry`, `drives` or
-/// `pc.json` (docs/recorded-pc.md).
+/// Reads the recorded PC at `path`, as HostFiles takes it: the one file, a page that carries it, or a folder with
+/// `registry`, `drives` or `pc.json` (docs/recorded-pc.md).
 Recording readRecording(const QByteArray& path);
 
 /// The recorded PCs that lie directly in the folder, by name.
