@@ -60,6 +60,14 @@ GameAnswer askForGame(IGameFinderFactory& factory, const Game& game) {
     return answer;
 }
 
+std::vector<RuntimeAnswer> askForRuntimes(IGameFinderFactory& factory) {
+    std::vector<RuntimeAnswer> answers;
+    for (const Question& question : questions) {
+        answers.push_back(askForRuntime(factory, question));
+    }
+    return answers;
+}
+
 Answers ask(IGameFinderFactory& factory, const Catalogue& games, Progress& progress) {
     Answers answers;
     const auto total = static_cast<int>(games.size());
@@ -67,9 +75,7 @@ Answers ask(IGameFinderFactory& factory, const Catalogue& games, Progress& progr
         progress.step(static_cast<int>(answers.games.size()) + 1, total, game.name);
         answers.games.push_back(askForGame(factory, game));
     }
-    for (const Question& question : questions) {
-        answers.runtimes.push_back(askForRuntime(factory, question));
-    }
+    answers.runtimes = askForRuntimes(factory);
     return answers;
 }
 

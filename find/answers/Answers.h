@@ -38,6 +38,8 @@ struct Answers {
 /// Asks for one game. Its finder is gone afterwards.
 GameAnswer askForGame(IGameFinderFactory& factory, const Game& game);
 
+std::vector<RuntimeAnswer> askForRuntimes(IGameFinderFactory& factory);
+
 /// Asks for every game, in order, and for the runtimes. Every finder is gone afterwards.
 Answers ask(IGameFinderFactory& factory, const Catalogue& games, Progress& progress);
 

@@ -18,4 +18,11 @@ TraceEvents PluginTrace::events() const {
     return parseTrace(m_lines.data());
 }
 
+TraceEvents PluginTrace::take() {
+    TraceEvents taken = events();
+    m_lines.buffer().clear();
+    m_lines.seek(0);
+    return taken;
+}
+
 } // namespace Find

@@ -15,8 +15,11 @@ public:
     PluginTrace();
     ~PluginTrace();
 
-    /// What was told so far.
+    /// What was told so far and has not been taken.
     TraceEvents events() const;
+
+    /// The same, which is then no longer kept.
+    TraceEvents take();
 
 private:
     Q_DISABLE_COPY_MOVE(PluginTrace)

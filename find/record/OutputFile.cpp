@@ -11,30 +11,29 @@ namespace Find {
 
 namespace {
 
-const QLatin1String suffix(".json");
-
 /// Tells of no PC which it is.
-QString nameOfTheDay() {
-    return QLatin1String("luruludri-pc-") + QDate::currentDate().toString(Qt::ISODate) + suffix;
+QString nameOfTheDay(QLatin1String ending) {
+    return QLatin1String("luruludri-pc-") + QDate::currentDate().toString(Qt::ISODate) + ending;
 }
 
-QString fileFor(const QString& wanted) {
+QString fileFor(const QString& wanted, QLatin1String ending) {
     if (wanted.isEmpty()) {
         // Where a user finds it, or where someone at a shell looks for it.
         const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
-        return isPcItself() && QFileInfo(desktop).isDir() ? QDir(desktop).filePath(nameOfTheDay()) : nameOfTheDay();
+        return isPcItself() && QFileInfo(desktop).isDir() ? QDir(desktop).filePath(nameOfTheDay(ending))
+                                                          : nameOfTheDay(ending);
     }
     const bool isFolder = wanted.endsWith(QLatin1Char('/')) || wanted.endsWith(QDir::separator());
     if (isFolder || QFileInfo(wanted).isDir()) {
-        return QDir(wanted).filePath(nameOfTheDay());
+        return QDir(wanted).filePath(nameOfTheDay(ending));
     }
-    return wanted.endsWith(suffix, Qt::CaseInsensitive) ? wanted : wanted + suffix;
+    return wanted.endsWith(ending, Qt::CaseInsensitive) ? wanted : wanted + ending;
 }
 
 } // namespace
 
-OutputFile::OutputFile(const QString& wanted, QString& fault)
-    : m_name(fileFor(wanted))
+OutputFile::OutputFile(const QString& wanted, QLatin1String ending, QString& fault)
+    : m_name(fileFor(wanted, ending))
     , m_file(m_name) {
     const QFileInfo info(m_name);
     if (info.exists() || info.isSymLink()) {

@@ -6,12 +6,13 @@
 
 namespace Find {
 
-/// A new file that a recording is written into. It appears under its name when it is complete and not before.
+/// A new file that a recording, or a page that carries one, is written into. It appears under its name when it is
+/// complete and not before.
 class OutputFile {
 public:
-    /// `wanted` is the file as the user named it; an ending is added where it has none. A folder, or nothing, gets a
-    /// file named after the day. `fault` says why it can't be written: one that is there is left alone.
-    OutputFile(const QString& wanted, QString& fault);
+    /// `wanted` is the file as the user named it; the ending ".json", say, is added where it has another. A folder, or
+    /// nothing, gets a file named after the day. `fault` says why it can't be written: one that is there is left alone.
+    OutputFile(const QString& wanted, QLatin1String ending, QString& fault);
 
     const QString& name() const { return m_name; }
 

@@ -2,7 +2,6 @@
 
 #include "core/GameLocation.h"
 #include "core/IGameFinderFactory.h"
-#include "find/answers/Answers.h"
 #include "find/catalogue/FinderTypes.h"
 #include "find/cli/Progress.h"
 #include "find/pc/AnsweringPc.h"
@@ -79,9 +78,8 @@ std::vector<FinderEntry> findersOf(const Catalogue& games) {
 
 } // namespace
 
-void askEverything(IGameFinderFactory& factory, const Catalogue& games, const ReadTrace& readTrace,
+void askForTheRest(IGameFinderFactory& factory, const Catalogue& games, const ReadTrace& readTrace,
                    Progress& progress) {
-    ask(factory, games, progress);
     Questioner questioner(factory, progress);
     questioner.askForNothing();
     questioner.askForEverything(

@@ -19,7 +19,7 @@ protected:
 
     QString nameFor(const QString& wanted) {
         fault.clear();
-        return OutputFile(wanted, fault).name();
+        return OutputFile(wanted, QLatin1String(".json"), fault).name();
     }
 
     QStringList files() const { return QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
@@ -38,6 +38,11 @@ TEST_F(OutputFileTest, IsNamedAsTheUserSaidWithItsEnding) {
     EXPECT_EQ(fault, "");
 }
 
+TEST_F(OutputFileTest, OfAPageHasTheEndingOfOne) {
+    EXPECT_EQ(OutputFile(path("my-pc.json"), QLatin1String(".html"), fault).name(), path("my-pc.json.html"));
+    EXPECT_TRUE(OutputFile(path(""), QLatin1String(".html"), fault).name().endsWith(".html"));
+}
+
 TEST_F(OutputFileTest, IsNamedAfterTheDayWhereTheUserNamedAFolderOrNothing) {
     EXPECT_EQ(nameFor(path("")), path(nameOfTheDay));
     EXPECT_EQ(fault, "");
@@ -47,7 +52,7 @@ TEST_F(OutputFileTest, IsNamedAfterTheDayWhereTheUserNamedAFolderOrNothing) {
 }
 
 TEST_F(OutputFileTest, IsThereWhenItIsComplete) {
-    OutputFile file(path("x"), fault);
+    OutputFile file(path("x"), QLatin1String(".json"), fault);
     EXPECT_EQ(files(), QStringList());
     EXPECT_TRUE(file.write("all of it"));
     EXPECT_EQ(files(), QStringList{"x.json"});
@@ -57,14 +62,14 @@ TEST_F(OutputFileTest, IsThereWhenItIsComplete) {
 }
 
 TEST_F(OutputFileTest, ThatIsThereIsLeftAlone) {
-    ASSERT_TRUE(OutputFile(path("x.json"), fault).write("mine"));
+    ASSERT_TRUE(OutputFile(path("x.json"), QLatin1String(".json"), fault).write("mine"));
     EXPECT_EQ(fault, "");
     nameFor(path("x"));
     EXPECT_EQ(fault, path("x.json") + ": the file is there already");
 }
 
 TEST_F(OutputFileTest, ThatCannotBeWrittenIsNotThere) {
-    OutputFile file(path("x.json"), fault);
+    OutputFile file(path("x.json"), QLatin1String(".json"), fault);
     QDir().mkdir(path("x.json")); // in the meantime
     EXPECT_FALSE(file.write("x"));
     EXPECT_EQ(files(), QStringList{"x.json"});
