@@ -25,8 +25,8 @@ struct Declared {
                                   text("NAME")};
     const QCommandLineOption json{text("json"), text("Print the answers as JSON (docs/json.md).")};
     const QCommandLineOption all{text("all"), text("With explain: leave out nothing of long lists.")};
-    const QCommandLineOption keepNames{text("keep-names"),
-                                       text("With record: leave the user's and the machine's name in the recording.")};
+    const QCommandLineOption keepNames{
+        text("keep-names"), text("With record and report: leave the user's and the machine's name in the recording.")};
     const QCommandLineOption help{{text("h"), text("help")}, text("Print this help.")};
     const QCommandLineOption version{text("version"), text("Print the version.")};
 };
@@ -50,6 +50,10 @@ void declare(QCommandLineParser& parser, const Declared& declared) {
                                  text("Record into a new FILE what finders use of this PC\n(docs/recorded-pc.md), "
                                       "so that it can be looked at\nelsewhere."),
                                  text("| record [FILE] [CATALOGUE]"));
+    parser.addPositionalArgument(text("report"),
+                                 text("Make a page of the answers, a new FILE for a browser\n(docs/report.md), "
+                                      "which carries a recording."),
+                                 text("| report [FILE] [CATALOGUE]"));
     parser.addPositionalArgument(text("unpack"), text("Make a FOLDER of a recording, to look at or change it."),
                                  text("| unpack FILE FOLDER"));
     parser.addPositionalArgument(text("explain"),
@@ -82,6 +86,7 @@ const std::vector<CommandForm>& commandForms() {
         {"locate", Command::Locate, {key, {"the folder", &Options::folder}, catalogue}, 2},
         {"forget", Command::Forget, {key}, 1},
         {"record", Command::Record, {{"the name of the file", &Options::folder}, catalogue}, 0},
+        {"report", Command::Report, {{"the name of the file", &Options::folder}, catalogue}, 0},
         {"unpack", Command::Unpack, {{"the name of the file", &Options::file}, {"the folder", &Options::folder}}, 2},
         {"explain", Command::Explain, {{"the game's name", &Options::name}, catalogue}, 1},
     };
@@ -133,8 +138,9 @@ QString findFault(const CommandForm& form, const QCommandLineParser& parser, con
     if (parser.isSet(declared.json) && !hasAnswers) {
         return text("--json: not with %1").arg(text(form.name));
     }
-    if (parser.isSet(declared.keepNames) && form.command != Command::Record) {
-        return text("--keep-names: only with record");
+    const bool isRecording = form.command == Command::Record || form.command == Command::Report;
+    if (parser.isSet(declared.keepNames) && !isRecording) {
+        return text("--keep-names: only with record and report");
     }
     return QString();
 }

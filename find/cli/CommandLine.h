@@ -14,6 +14,7 @@ enum class Command {
     Locate,   ///< remembers where the user has a game
     Forget,   ///< forgets it
     Record,   ///< makes a recording of the PC
+    Report,   ///< makes a page of the answers that carries a recording of the PC
     Unpack,   ///< makes a folder of a recording that is one file
     Explain,  ///< tells why a game was found or not
 };
@@ -22,15 +23,15 @@ enum class Command {
 struct Options {
     Command command = Command::FindGames;
     QString key;               ///< the game's key in the user's settings, with Locate and Forget
-    QString folder;            ///< where the game is, with Locate; where the recording goes, with Record and Unpack
+    QString folder;            ///< where the game is, with Locate; where the recording goes, with Record, Report and Unpack
     QString file;              ///< the recording, with Unpack
     QString name;              ///< the game's name, with Explain
-    QString catalogue;         ///< means something with FindGames, Locate, Explain and Record
+    QString catalogue;         ///< means something with all that ask for games
     QString plugin;            ///< the plug-in's file; the one beside the program when none was given
     std::optional<QString> pc; ///< the recorded PC's file or folder, as given
     QStringList games;         ///< names of the games to ask for; empty for all
     bool json = false;
-    bool keepNames = false; ///< the user's and the machine's name stay in the recording, with Record
+    bool keepNames = false; ///< the user's and the machine's name stay in the recording, with Record and Report
     bool all = false;       ///< leave nothing out, with Explain
 };
 

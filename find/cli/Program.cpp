@@ -15,6 +15,7 @@
 #include "find/explain/PluginTrace.h"
 #include "find/record/RecordCommand.h"
 #include "find/record/UnpackCommand.h"
+#include "find/report/ReportCommand.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -125,7 +126,8 @@ ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& ga
         return explainGame(*factory, options, games, *trace);
     case Command::FindGames:
     case Command::Runtimes:
-    case Command::Record: // which asks otherwise
+    case Command::Record: // which ask otherwise
+    case Command::Report:
     case Command::Unpack: // which asks nothing
         break;
     }
@@ -157,6 +159,17 @@ QString refusalToChoose(const Options& options, const std::optional<Recordings::
     return QStringLiteral("a recorded PC is never written to; to try a folder, change \"userLocations\" in ") + file;
 }
 
+ExitStatus act(const Options& options, const Catalogue& games, const Recordings::Pc* pc, const QStringList& problems) {
+    switch (options.command) {
+    case Command::Record:
+        return recordPc(options, games, pc);
+    case Command::Report:
+        return reportPc(options, games, pc, problems);
+    default:
+        return askPlugin(options, games);
+    }
+}
+
 ExitStatus run(const Options& options) {
     if (options.command == Command::Unpack) {
         return unpackPc(options);
@@ -178,8 +191,7 @@ ExitStatus run(const Options& options) {
     for (const QString& problem : problems) {
         Console::complain(problem);
     }
-    const ExitStatus status = options.command == Command::Record ? recordPc(options, *games, pc ? &pc->pc : nullptr)
-                                                                 : askPlugin(options, *games);
+    const ExitStatus status = act(options, *games, pc ? &pc->pc : nullptr, problems);
     return problems.isEmpty() ? status : failed;
 }
 

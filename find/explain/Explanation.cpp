@@ -11,6 +11,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <functional>
 
 namespace Find {
 
@@ -52,27 +53,32 @@ QString titleOf(const FinderEntry& finder) {
     return QStringLiteral("%1: %2").arg(QLatin1String(finder.type->name), fields.join(QLatin1String(", ")));
 }
 
+using Kind = ExplanationLine::Kind;
+
+/// How a list of what is installed was made, for people.
+using DescribeIndex = std::function<QStringList(const TraceSection& index)>;
+
 class Explainer {
 public:
-    explicit Explainer(const QStringList& words)
-        : m_words(words) {}
-
-    void add(const QString& line) { m_lines.append(line); }
+    explicit Explainer(DescribeIndex describe)
+        : m_describeIndex(std::move(describe)) {}
 
     /// What happened within a section in which these finders were asked. `place` is what their numbers begin with:
     /// "2." within a multi finder that is the second.
     void addSection(const TraceSection& section, const std::vector<FinderEntry>& finders, const QString& place);
 
-    QString text() const { return m_lines.join(QLatin1Char('\n')) + QLatin1Char('\n'); }
+    const std::vector<ExplanationLine>& lines() const { return m_lines; }
 
 private:
+    void add(Kind kind, const QString& text) { m_lines.push_back({kind, text}); }
+
     void addInner(const TraceSection& inner, const std::vector<FinderEntry>& finders, const QString& place);
     void addFinder(const TraceSection& section, const FinderEntry& finder, const QString& number);
     void addEvent(const TraceEvent& event);
-    void addIndented(const QStringList& lines);
+    void add(Kind kind, const QStringList& texts);
 
-    QStringList m_words; ///< empty when everything is to be told
-    QStringList m_lines;
+    DescribeIndex m_describeIndex;
+    std::vector<ExplanationLine> m_lines;
     QStringList m_userLocation; ///< what was told of the user's choice last
 };
 
@@ -88,27 +94,25 @@ void Explainer::addSection(const TraceSection& section, const std::vector<Finder
         addInner(inner, finders, place);
     }
     for (auto i = static_cast<std::size_t>(asked); i < finders.size(); ++i) {
-        add(QString());
-        add(QStringLiteral("%1%2. %3").arg(place, QString::number(i + 1), titleOf(finders[i])));
-        add(indentation + QStringLiteral("=> not asked"));
+        add(Kind::Finder, QStringLiteral("%1%2. %3").arg(place, QString::number(i + 1), titleOf(finders[i])));
+        add(Kind::Outcome, QStringLiteral("=> not asked"));
     }
 }
 
 void Explainer::addInner(const TraceSection& inner, const std::vector<FinderEntry>& finders, const QString& place) {
     const auto index = static_cast<std::size_t>(inner.number) - 1;
     if (inner.kind == TraceSection::Kind::Index) {
-        addIndented(describeIndex(inner, m_words));
+        add(Kind::Seen, m_describeIndex(inner));
     } else if (inner.kind == TraceSection::Kind::Finder && inner.number > 0 && index < finders.size()) {
         addFinder(inner, finders[index], place + QString::number(inner.number) + QLatin1Char('.'));
     }
 }
 
 void Explainer::addFinder(const TraceSection& section, const FinderEntry& finder, const QString& number) {
-    add(QString());
-    add(number + QLatin1Char(' ') + titleOf(finder));
+    add(Kind::Finder, number + QLatin1Char(' ') + titleOf(finder));
     addSection(section, finder.finders, number);
     const QString outcome = section.found ? QStringLiteral("=> found") : QStringLiteral("=> not found");
-    add(indentation + (finder.finders.empty() ? outcome : QStringLiteral("%1 by %2").arg(outcome, number)));
+    add(Kind::Outcome, finder.finders.empty() ? outcome : QStringLiteral("%1 by %2").arg(outcome, number));
 }
 
 void Explainer::addEvent(const TraceEvent& event) {
@@ -123,12 +127,12 @@ void Explainer::addEvent(const TraceEvent& event) {
         }
         m_userLocation = lines;
     }
-    addIndented(lines);
+    add(std::holds_alternative<Trace::Note>(event) ? Kind::Reason : Kind::Seen, lines);
 }
 
-void Explainer::addIndented(const QStringList& lines) {
-    for (const QString& line : lines) {
-        add(indentation + line);
+void Explainer::add(Kind kind, const QStringList& texts) {
+    for (const QString& text : texts) {
+        add(kind, text);
     }
 }
 
@@ -140,26 +144,45 @@ QString outcomeOf(const GameAnswer& answer) {
         .arg(oneLine(answer.location.installFolder), oneLine(answer.location.launchCommand));
 }
 
+QStringList textOf(const std::vector<ExplanationLine>& lines) {
+    QStringList text;
+    for (const ExplanationLine& line : lines) {
+        if (line.kind == Kind::Finder) {
+            text += {QString(), line.text};
+        } else {
+            text.append(indentation + line.text);
+        }
+    }
+    return text;
+}
+
 } // namespace
+
+std::vector<ExplanationLine> explainSearch(const Game& game, const TraceEvents& events) {
+    Explainer explainer([](const TraceSection&) { return QStringList(); });
+    explainer.addSection(traceTree(events), game.finders, QString());
+    return explainer.lines();
+}
 
 QString explain(const Game& game, const GameAnswer& answer, const TraceEvents& events, bool isFull) {
     const TraceSection whole = traceTree(events);
     const QStringList words = searchWords(game);
-    Explainer explainer(isFull ? QStringList() : words);
-    explainer.add(QStringLiteral("%1: %2").arg(oneLine(game.name), outcomeOf(answer)));
-    if (game.finders.empty()) {
-        explainer.add(QStringLiteral("The catalogue has no finder for it."));
-    }
+    Explainer explainer(
+        [&](const TraceSection& index) { return describeIndex(index, isFull ? QStringList() : words); });
     explainer.addSection(whole, game.finders, QString());
+    QStringList text{QStringLiteral("%1: %2").arg(oneLine(game.name), outcomeOf(answer))};
+    if (game.finders.empty()) {
+        text.append(QStringLiteral("The catalogue has no finder for it."));
+    }
+    text += textOf(explainer.lines());
     const QStringList similar = answer.found ? QStringList() : similarNames(whole, words);
     if (!similar.isEmpty()) {
-        explainer.add(QString());
-        explainer.add(QStringLiteral("Similar names in the lists:"));
+        text += {QString(), QStringLiteral("Similar names in the lists:")};
         for (const QString& name : similar) {
-            explainer.add(QStringLiteral("   ") + name);
+            text.append(indentation + name);
         }
     }
-    return explainer.text();
+    return text.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
 } // namespace Find

@@ -61,8 +61,9 @@ QString describeNames(const std::vector<Recordings::PrivateName>& names, bool ar
     return replaced.isEmpty() ? QStringLiteral("none known, so none replaced") : replaced.join(QLatin1String(", "));
 }
 
-QString line(const char* title, const QString& text) {
-    return QString::asprintf("  %-16s", title) + oneLine(text) + QLatin1Char('\n');
+QString line(const QString& title, const QString& text) {
+    constexpr int widthOfTitle = 16;
+    return QLatin1String("  ") + title.leftJustified(widthOfTitle) + oneLine(text) + QLatin1Char('\n');
 }
 
 /// How the file is called where it is replayed. Only its name goes with it when it leaves Windows.
@@ -83,14 +84,28 @@ QString shellWord(const QString& text) {
 
 } // namespace
 
+std::vector<RecordedAmount> amountsOf(const Recordings::Pc& pc) {
+    const int packages = pc.packages ? static_cast<int>(pc.packages->size()) : 0;
+    return {
+        {QStringLiteral("registry"), describeRegistry(pc.registry)},
+        {QStringLiteral("drives"), describeDrives(pc.drives)},
+        {QStringLiteral("app packages"), QString::number(packages)},
+        {QStringLiteral("user's choices"), QString::number(pc.userLocations.size())},
+    };
+}
+
+QString fileForReplay(const QString& file) {
+    return shellWord(oneLine(fileElsewhere(file)));
+}
+
 QString summarize(const Recordings::Pc& pc, const std::vector<Recordings::PrivateName>& names, const QString& file,
                   bool areNamesKept) {
-    const int packages = pc.packages ? static_cast<int>(pc.packages->size()) : 0;
-    return QStringLiteral("Recorded into %1:\n").arg(oneLine(file)) + line("registry", describeRegistry(pc.registry)) +
-           line("drives", describeDrives(pc.drives)) + line("app packages", QString::number(packages)) +
-           line("user's choices", QString::number(pc.userLocations.size())) +
-           line("names", describeNames(names, areNamesKept)) +
-           QStringLiteral("Replay it on Linux with: ./run --pc %1\n").arg(shellWord(oneLine(fileElsewhere(file))));
+    QString text = QStringLiteral("Recorded into %1:\n").arg(oneLine(file));
+    for (const RecordedAmount& amount : amountsOf(pc)) {
+        text += line(amount.title, amount.text);
+    }
+    return text + line(QStringLiteral("names"), describeNames(names, areNamesKept)) +
+           QStringLiteral("Replay it on Linux with: ./run --pc %1\n").arg(fileForReplay(file));
 }
 
 QStringList describeLosses(const QStringList& leftOut, const std::vector<Recordings::PrivateName>& names) {

@@ -10,6 +10,17 @@
 
 namespace Find {
 
+/// How much of one thing a recording holds: "registry", "15 keys, 25 values".
+struct RecordedAmount {
+    QString title;
+    QString text;
+};
+
+std::vector<RecordedAmount> amountsOf(const Recordings::Pc& pc);
+
+/// The file's name as a shell on Linux wants it where it is replayed.
+QString fileForReplay(const QString& file);
+
 /// What a recording took, for who made it: some lines of text.
 QString summarize(const Recordings::Pc& pc, const std::vector<Recordings::PrivateName>& names, const QString& file,
                   bool areNamesKept);

@@ -22,7 +22,7 @@ TEST(RecordCommand, WrongUseIsRefused) {
     EXPECT_EQ(errors({"record", "a", "b", "c"}), refusal.arg("surplus argument \"c\""));
     EXPECT_EQ(errors({"record", "a", "--json"}), refusal.arg("--json: not with record"));
     EXPECT_EQ(errors({"record", "a", "--game", "x"}), refusal.arg("--game: not with record"));
-    EXPECT_EQ(errors({"runtimes", "--keep-names"}), refusal.arg("--keep-names: only with record"));
+    EXPECT_EQ(errors({"runtimes", "--keep-names"}), refusal.arg("--keep-names: only with record and report"));
     EXPECT_EQ(program.run({"record", "a", "b", "c"}).exitStatus, 2);
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }

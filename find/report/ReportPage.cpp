@@ -1,0 +1,263 @@
+#include "find/report/ReportPage.h"
+
+#include "find/report/ReportData.h"
+#include "recordings/PcPage.h"
+
+#include <kainjow/mustache.hpp>
+
+#include <QCryptographicHash>
+#include <QFile>
+
+#include <algorithm>
+#include <string>
+
+// A static library's resources are made known by a call, from outside every namespace.
+static void makeResourcesKnown() {
+    Q_INIT_RESOURCE(page);
+}
+
+namespace Find {
+
+namespace {
+
+namespace Mustache = kainjow::mustache;
+
+Mustache::data textData(const QString& text) {
+    return withControlPictures(text).toStdString();
+}
+
+template <class Items, class MakeData>
+Mustache::data listData(const Items& items, MakeData makeData) {
+    Mustache::list list;
+    list.reserve(static_cast<std::size_t>(items.size()));
+    for (const auto& item : items) {
+        list.push_back(makeData(item));
+    }
+    return list;
+}
+
+Mustache::data textsData(const QStringList& texts) {
+    return listData(texts, [](const QString& text) { return Mustache::data("text", textData(text)); });
+}
+
+/// A path or an address in parts, between which a line may break.
+Mustache::data pathData(const QString& path) {
+    QStringList parts{QString()};
+    for (const QChar character : withControlPictures(path)) {
+        parts.last().append(character);
+        if (character == QLatin1Char('\\') || character == QLatin1Char('/')) {
+            parts.append(QString());
+        }
+    }
+    return textsData(parts);
+}
+
+Mustache::data numberData(int number) {
+    return std::to_string(number);
+}
+
+QByteArray resource(const char* name) {
+    QFile file(QLatin1String(":/report/") + QLatin1String(name));
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return QByteArray(text).replace("\r\n", "\n"); // as a browser reads it, before it takes the hash
+}
+
+QString withoutStar(const QString& line) {
+    const QLatin1String star("* ");
+    return line.startsWith(star) ? line.mid(star.size()) : line;
+}
+
+/// As a content security policy names a script or a style that may be used.
+std::string hashOf(const QByteArray& text) {
+    return ("sha256-" + QCryptographicHash::hash(text, QCryptographicHash::Sha256).toBase64()).toStdString();
+}
+
+/// What is said of a search at a glance: why the last finder went on.
+QString reasonOf(const ReportedGame& game) {
+    const auto last = std::find_if(game.explanation.rbegin(), game.explanation.rend(), [](const ExplanationLine& line) {
+        return line.kind == ExplanationLine::Kind::Reason;
+    });
+    return last == game.explanation.rend() ? QStringLiteral("No finder looked for it.") : withoutStar(last->text);
+}
+
+const char* sectionOf(ExplanationLine::Kind kind) {
+    switch (kind) {
+    case ExplanationLine::Kind::Finder:
+        return "isFinder";
+    case ExplanationLine::Kind::Reason:
+        return "isReason";
+    case ExplanationLine::Kind::Outcome:
+        return "isOutcome";
+    case ExplanationLine::Kind::Seen:
+        break;
+    }
+    return "isSeen";
+}
+
+/// What was seen in one go stands together.
+Mustache::data explanationData(const std::vector<ExplanationLine>& lines) {
+    Mustache::list blocks;
+    for (auto line = lines.begin(); line != lines.end();) {
+        const ExplanationLine::Kind kind = line->kind;
+        QStringList texts;
+        do {
+            texts.append(withControlPictures(withoutStar(line->text)));
+            ++line;
+        } while (kind == ExplanationLine::Kind::Seen && line != lines.end() && line->kind == kind);
+        Mustache::data block("text", texts.join(QLatin1Char('\n')).toStdString());
+        block.set(sectionOf(kind), true);
+        blocks.push_back(block);
+    }
+    return blocks;
+}
+
+Mustache::data gameData(const ReportedGame& game) {
+    Mustache::data data("name", textData(game.answer.name));
+    data.set("isFound", game.answer.found);
+    data.set("state", game.answer.found ? "found" : "missing");
+    data.set("finders",
+             listData(game.finders, [](const QString& name) { return Mustache::data("name", textData(name)); }));
+    if (game.answer.found) {
+        data.set("folder", pathData(game.answer.location.installFolder));
+        data.set("launch", pathData(game.answer.location.launchCommand));
+        return data;
+    }
+    data.set("reason", textData(reasonOf(game)));
+    data.set("explanation", explanationData(game.explanation));
+    data.set("hasSimilar", !game.similar.isEmpty());
+    data.set("similar", textsData(game.similar));
+    if (game.moreSimilar > 0) {
+        data.set("moreSimilar", Mustache::data("count", numberData(game.moreSimilar)));
+    }
+    return data;
+}
+
+Mustache::data runtimeData(const RuntimeAnswer& runtime) {
+    Mustache::data data("title", textData(runtime.title));
+    data.set("isFound", !runtime.values.isEmpty());
+    data.set("values",
+             listData(runtime.values, [](const QString& value) { return Mustache::data("path", pathData(value)); }));
+    return data;
+}
+
+Mustache::data otherData(const InstalledThing& thing) {
+    Mustache::data data("name", textData(thing.name));
+    data.set("lists", textData(thing.lists.join(QLatin1String(", "))));
+    data.set("place", pathData(thing.place));
+    return data;
+}
+
+Mustache::data madeListData(const ReportedList& list) {
+    QStringList lines;
+    for (const QString& line : list.lines) {
+        lines.append(withControlPictures(line));
+    }
+    if (list.moreLines > 0) {
+        lines.append(QStringLiteral("… and %1 more lines").arg(list.moreLines));
+    }
+    Mustache::data data("title", textData(list.title));
+    data.set("entries", list.entries == 1 ? "1 entry" : std::to_string(list.entries) + " entries");
+    data.set("text", lines.join(QLatin1Char('\n')).toStdString());
+    return data;
+}
+
+Mustache::data amountData(const RecordedAmount& amount) {
+    Mustache::data data("title", textData(amount.title));
+    data.set("text", textData(amount.text));
+    return data;
+}
+
+QStringList finderNamesOf(const ReportData& data) {
+    QStringList names;
+    for (const ReportedGame& game : data.games) {
+        for (const QString& name : game.finders) {
+            if (!names.contains(name)) {
+                names.append(name);
+            }
+        }
+    }
+    names.sort();
+    return names;
+}
+
+template <class Items, class IsFound>
+Mustache::data countFound(const Items& items, IsFound isFound) {
+    return numberData(static_cast<int>(std::count_if(items.begin(), items.end(), isFound)));
+}
+
+void addSummary(const ReportData& report, Mustache::data& page) {
+    page["found"] = countFound(report.games, [](const ReportedGame& game) { return game.answer.found; });
+    page["total"] = numberData(static_cast<int>(report.games.size()));
+    page["runtimesFound"] =
+        countFound(report.runtimes, [](const RuntimeAnswer& runtime) { return !runtime.values.isEmpty(); });
+    page["runtimesTotal"] = numberData(static_cast<int>(report.runtimes.size()));
+    page["othersTotal"] = numberData(static_cast<int>(report.others.size()));
+    page["faultsTotal"] = numberData(report.faults.size());
+    page["hasFaults"] = !report.faults.isEmpty();
+}
+
+void addOrigin(const ReportOrigin& origin, Mustache::data& page) {
+    page["made"] = textData(origin.made);
+    page["version"] = textData(origin.version);
+    page["catalogue"] = textData(origin.catalogue);
+    page["file"] = textData(origin.replayed);
+    page["areNamesKept"] = origin.areNamesKept;
+}
+
+void addTables(const ReportData& report, Mustache::data& page) {
+    page["games"] = listData(report.games, gameData);
+    page["finderNames"] =
+        listData(finderNamesOf(report), [](const QString& name) { return Mustache::data("name", textData(name)); });
+    page["runtimes"] = listData(report.runtimes, runtimeData);
+    page["others"] = listData(report.others, otherData);
+    page["faults"] = textsData(report.faults);
+    page["lists"] = listData(report.lists, madeListData);
+    page["contents"] = listData(report.contents, amountData);
+    page["neutralNames"] = textsData(report.neutralNames);
+    page["neutralFolders"] = textsData(report.neutralFolders);
+    page["hasNames"] = !report.neutralNames.isEmpty() || !report.neutralFolders.isEmpty();
+}
+
+void addOwn(const char* name, const char* hashName, const char* file, Mustache::data& page) {
+    const QByteArray text = resource(file);
+    page[name] = text.toStdString();
+    page[hashName] = hashOf(text);
+}
+
+} // namespace
+
+QString withControlPictures(const QString& text) {
+    constexpr ushort firstPicture = 0x2400;
+    constexpr ushort deleteCharacter = 0x7F;
+    constexpr ushort pictureOfDelete = 0x2421;
+    constexpr ushort pictureOfNewline = 0x2424;
+    QString shown = text;
+    for (QChar& character : shown) {
+        const ushort unit = character.unicode();
+        if (unit < u' ') {
+            character = QChar(static_cast<ushort>(firstPicture + unit));
+        } else if (unit == deleteCharacter) {
+            character = QChar(pictureOfDelete);
+        } else if (unit == QChar::LineSeparator || unit == QChar::ParagraphSeparator) {
+            character = QChar(pictureOfNewline);
+        } else if (character.category() == QChar::Other_Control) {
+            character = QChar(QChar::ReplacementCharacter);
+        }
+    }
+    return shown;
+}
+
+QByteArray renderReportPage(const ReportData& data, const ReportOrigin& origin, const QByteArray& recording) {
+    makeResourcesKnown();
+    Mustache::data page;
+    addSummary(data, page);
+    addOrigin(origin, page);
+    addTables(data, page);
+    addOwn("style", "styleHash", "page.css", page);
+    addOwn("script", "scriptHash", "page.js", page);
+    page["recording"] = Recordings::pcForPage(recording).toStdString();
+    Mustache::mustache form(resource("page.html").toStdString());
+    return QByteArray::fromStdString(form.render(page));
+}
+
+} // namespace Find
