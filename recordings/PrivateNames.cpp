@@ -2,6 +2,7 @@
 
 #include "recordings/DrivePath.h"
 #include "recordings/RegValues.h"
+#include "recordings/ShellLink.h"
 #include "recordings/WindowsNames.h"
 
 #include <QHash>
@@ -66,13 +67,15 @@ QStringList otherUsers(const RecordedTexts& texts, const QString& profilesFolder
                                             QRegularExpression::CaseInsensitiveOption);
     QStringList users;
     for (const QString& text : texts.paths + texts.others) {
-        const QString name = profile.match(text).captured(1);
-        const bool isShared = std::any_of(std::begin(sharedProfiles), std::end(sharedProfiles), [&](const char* known) {
-            return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
-        });
-        if (!name.isEmpty() && !isShared && !neutral.match(name).hasMatch() &&
-            !users.contains(name, Qt::CaseInsensitive)) {
-            users.append(name);
+        for (auto matches = profile.globalMatch(text); matches.hasNext();) {
+            const QString name = matches.next().captured(1);
+            const bool isShared =
+                std::any_of(std::begin(sharedProfiles), std::end(sharedProfiles), [&](const char* known) {
+                    return name.compare(QLatin1String(known), Qt::CaseInsensitive) == 0;
+                });
+            if (!isShared && !neutral.match(name).hasMatch() && !users.contains(name, Qt::CaseInsensitive)) {
+                users.append(name);
+            }
         }
     }
     return users;
@@ -120,13 +123,22 @@ QString profileAmong(const QMap<int, QString>& shellFolders) {
 
 RecordedTexts textsOf(const Pc& pc) {
     RecordedTexts texts;
-    pc.drives.visit([&texts](const DrivePath& path, const File&) { texts.paths.append(path.text()); });
+    pc.drives.visit([&texts](const DrivePath& path, const File& file) {
+        texts.paths.append(path.text());
+        if (file.contents.size() > 0) {
+            const QByteArray contents = file.contents.read().value_or(QByteArray());
+            const std::optional<ShellLink> link = parseShellLink(contents);
+            texts.others.append(link ? link->localPath : QString::fromUtf8(contents));
+        }
+    });
     pc.registry.visit([&texts](RegKey::Root root, const QStringList& path, const RegistryNode& key) {
         texts.paths.append((QStringList{rootName(root)} + path).join(QLatin1Char('\\')));
         for (const auto& [folded, value] : key.values()) {
             texts.others.append(textOf(value.type, value.data).value_or(QString()));
         }
     });
+    texts.others += pc.shellFolders.values() + pc.environment.toStringList() + pc.userLocations.values();
+    texts.others.append(pc.hostExecutable);
     return texts;
 }
 

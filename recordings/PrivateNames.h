@@ -23,7 +23,7 @@ QString profileAmong(const QMap<int, QString>& shellFolders);
 /// The texts of a recording.
 struct RecordedTexts {
     QStringList paths;  ///< of files and of registry keys
-    QStringList others; ///< of values
+    QStringList others; ///< values, contents of files, targets of shortcuts and all else
 };
 
 RecordedTexts textsOf(const Pc& pc);

@@ -1,4 +1,6 @@
 #include "recordings/PrivateNames.h"
+#include "recordings/RegValues.h"
+#include "recordings/ShellLink.h"
 
 #include "common/QtPrinters.h"
 
@@ -62,6 +64,26 @@ TEST(PrivateNames, AreThoseOfOtherUsersToo) {
         {"\"c:\\users\\Christa\\x.exe\"", "C:\\Users\\Public\\x", "C:\\Users\\BERT", "C:\\Users\\user"}};
     EXPECT_EQ(chosen({"anna", "C:\\Users\\anna", {}}, {}, texts),
               (QStringList{"anna=user", "bert=user-2 only beside", "Christa=user-3 only beside"}));
+}
+
+TEST(PrivateNames, OfOtherUsersAreKnownFromEveryTextOfTheRecording) {
+    const auto path = [](const char* text) { return *Recordings::DrivePath::parse(text); };
+    const auto kind = Recordings::File::Kind::File;
+    Recordings::Pc pc;
+    pc.drives.make(path("C:/Users/a1/x"), kind);
+    pc.drives.make(path("D:/x.lnk"), kind).contents = Recordings::renderShellLink("C:\\Users\\a2\\x.exe");
+    pc.drives.make(path("D:/x.vdf"), kind).contents =
+        QByteArray("\"path\" \"C:\\\\Users\\\\a3\\\\x\"\n\"path\" \"C:/Users/a4\"");
+    pc.registry.make(Recordings::RegKey::Root::CurrentUser, {"Software"}, Recordings::RegistryView::Bits64)
+        .apply({"x", false, 1, Recordings::storedText("C:\\Users\\a5\\x;D:\\Users\\a6")});
+    pc.shellFolders.insert(11, "C:\\Users\\a7\\Start Menu");
+    pc.environment.insert("OculusBase", "C:\\Users\\a8\\x");
+    pc.userLocations.insert("wal", "C:\\Users\\a9");
+    pc.hostExecutable = "C:\\Users\\a10\\host.exe";
+    QStringList names = chosen({"anna", "C:\\Users\\anna", {}}, {}, Recordings::textsOf(pc));
+    EXPECT_EQ(names.join(' ').remove(" only beside"),
+              "anna=user a1=user-2 a2=user-3 a3=user-4 a4=user-5 a5=user-6 a6=user-7 a7=user-8 a8=user-9 a9=user-10 "
+              "a10=user-11");
 }
 
 TEST(PrivateNames, AreKnownFromTheShellsFoldersToo) {
