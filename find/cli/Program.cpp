@@ -2,8 +2,8 @@
 
 #include "core/IGameFinderFactory.h"
 #include "find/answers/Answers.h"
+#include "find/answers/ChosenRecording.h"
 #include "find/answers/Plugin.h"
-#include "find/answers/RecordedPc.h"
 #include "find/answers/Report.h"
 #include "find/answers/UserChoice.h"
 #include "find/catalogue/Catalogue.h"

@@ -1,6 +1,6 @@
 #include "find/record/UnpackCommand.h"
 
-#include "find/answers/RecordedPc.h"
+#include "find/answers/ChosenRecording.h"
 #include "find/cli/CommandLine.h"
 #include "find/cli/Console.h"
 #include "find/record/OutputFolder.h"

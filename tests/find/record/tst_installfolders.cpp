@@ -1,4 +1,4 @@
-#include "Trace.h"
+#include "TestTrace.h"
 
 #include "find/cli/Progress.h"
 #include "find/record/InstallFolders.h"

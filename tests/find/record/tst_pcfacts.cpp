@@ -1,4 +1,4 @@
-#include "Trace.h"
+#include "TestTrace.h"
 
 #include "find/record/IndexEntries.h"
 #include "find/record/PcFacts.h"

@@ -1,4 +1,4 @@
-#include "Trace.h"
+#include "TestTrace.h"
 
 #include "find/record/RegistryRecord.h"
 #include "recordings/RegFileWriter.h"

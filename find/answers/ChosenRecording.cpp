@@ -1,4 +1,4 @@
-#include "find/answers/RecordedPc.h"
+#include "find/answers/ChosenRecording.h"
 
 #include "find/pc/System.h"
 
