@@ -24,6 +24,14 @@ set(may_recordings "")
 set(may_find interface find_pc recordings trace)
 set(may_find_pc platform recordings)
 
+# The namespaces of the headers of a layer.
+set(namespace_find Find)
+set(namespace_find_pc Find)
+set(namespace_platform Platform)
+set(namespace_platform_recorded Recorded)
+set(namespace_platform_windows Platform)
+set(namespace_recordings Recordings)
+
 file(GLOB_RECURSE files RELATIVE "${SOURCE}" "${SOURCE}/src/*.h" "${SOURCE}/src/*.cpp" "${SOURCE}/find/*.h"
      "${SOURCE}/find/*.cpp" "${SOURCE}/recordings/*.h" "${SOURCE}/recordings/*.cpp")
 
@@ -52,6 +60,14 @@ foreach(file IN LISTS files)
             list(APPEND faults "${file}: includes ${header} from above")
         endif()
     endforeach()
+
+    set(namespace "${namespace_${layer}}")
+    if(file MATCHES "^src/.*Finder[.]h$" AND NOT layer STREQUAL "interface")
+        set(namespace Finders)
+    endif()
+    if(file MATCHES "[.]h$" AND namespace AND NOT text MATCHES "\nnamespace ${namespace}(::[A-Za-z]+)? {")
+        list(APPEND faults "${file}: is not in the namespace ${namespace}")
+    endif()
 
     if(file MATCHES "/(windows|native)/")
         continue()
