@@ -50,7 +50,6 @@ void GamesExplorerIndex::read(quint32 view, std::list<GamesExplorerEntry>& entri
     for (const QString& name : qAsConst(names)) {
         const GamesExplorerEntry entry = readEntry(name, view);
         logger.logAlways("Title: %ls, %ls", qUtf16Printable(entry.title), qUtf16Printable(entry.appExePath));
-        add(entries, entry, m_titles.row(entry.title, entry));
-        Trace::entry(entry.title, entry.configApplicationPath);
+        add(entries, entry, entry.title, entry.configApplicationPath, m_titles.row(entry.title, entry));
     }
 }

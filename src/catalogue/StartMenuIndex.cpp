@@ -31,8 +31,7 @@ void StartMenuIndex::build(QStringList& entries) {
         const QStringList shortcuts = shortcutsBelow(knownFolderPath(csidl), longestWalkMs, m_source);
         for (const QString& shortcut : shortcuts) {
             const QString name = nameOf(shortcut);
-            add(entries, shortcut, m_names.row(name, shortcut));
-            Trace::entry(name, shortcut);
+            add(entries, shortcut, name, shortcut, m_names.row(name, shortcut));
         }
     }
 }

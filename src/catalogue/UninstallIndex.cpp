@@ -60,8 +60,8 @@ void UninstallIndex::read(quint32 hive, quint32 view, std::list<UninstallEntry>&
         if (!entry.displayName.isEmpty() && tellsAPlace(entry)) {
             logger.logAlways("%ls, %ls, %ls", qUtf16Printable(entry.displayName),
                              qUtf16Printable(entry.installLocation), qUtf16Printable(entry.uninstallString));
-            add(entries, entry, m_names.row(entry.displayName, entry), m_keyPaths.row(entry.keyPath, entry));
-            Trace::entry(entry.displayName, entry.installLocation);
+            add(entries, entry, entry.displayName, entry.installLocation, m_names.row(entry.displayName, entry),
+                m_keyPaths.row(entry.keyPath, entry));
         }
     }
 }

@@ -54,8 +54,7 @@ void SteamLibraryIndex::read(const QString& folder, std::list<SteamAppEntry>& en
         }
         const QString baseName = manifest.left(manifest.indexOf(QLatin1Char('.')));
         const SteamAppEntry entry{baseName.mid(prefix.size()), folder + QLatin1String("/common")};
-        add(entries, entry, m_appIds.row(entry.appId, entry));
+        add(entries, entry, entry.appId, entry.commonFolder, m_appIds.row(entry.appId, entry));
         logger.logAlways("  App ID: %ls", qUtf16Printable(entry.appId));
-        Trace::entry(entry.appId, entry.commonFolder);
     }
 }

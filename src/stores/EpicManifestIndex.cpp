@@ -58,7 +58,6 @@ void EpicManifestIndex::read(const QDir& folder, const QString& manifest, std::l
     if (entry->AppName.isEmpty() && entry->InstallLocation.isEmpty()) {
         return;
     }
-    add(entries, *entry, m_names.row(entry->DisplayName, *entry));
+    add(entries, *entry, entry->DisplayName, entry->InstallLocation, m_names.row(entry->DisplayName, *entry));
     logger.logAlways("  App: %ls | %ls", qUtf16Printable(entry->AppName), qUtf16Printable(entry->DisplayName));
-    Trace::entry(entry->DisplayName, entry->InstallLocation);
 }

@@ -34,8 +34,7 @@ void OculusLibraryIndex::read(const QString& folder, std::list<OculusAppEntry>& 
     const QStringList manifests = Files::names(folder, QStringLiteral("*.json.mini"));
     for (const QString& manifest : manifests) {
         const OculusAppEntry entry{QFileInfo(manifest).baseName(), folder};
-        add(entries, entry, m_appIds.row(entry.appId, entry));
+        add(entries, entry, entry.appId, entry.manifestsFolder, m_appIds.row(entry.appId, entry));
         logger.logAlways("  App ID: %ls", qUtf16Printable(entry.appId));
-        Trace::entry(entry.appId, entry.manifestsFolder);
     }
 }

@@ -47,11 +47,13 @@ protected:
     }
 
     /// Adds an entry and the rows by which it is looked up: all of it or, when memory runs out, nothing. So what a
-    /// build that fails half-way has put into the list can be looked up.
+    /// build that fails half-way has put into the list can be looked up. The trace is told the name by which finders
+    /// look it up, and the folder that it tells.
     template <class... Rows>
-    static void add(List& entries, const Entry& entry, Rows&&... rows) {
+    static void add(List& entries, const Entry& entry, const QString& name, const QString& folder, Rows&&... rows) {
         entries.push_back(entry);
         (rows.enter(), ...);
+        Trace::tell([&] { return Trace::Entry{name, folder}; });
     }
 
 private:

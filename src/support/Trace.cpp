@@ -115,10 +115,6 @@ void note(const char* format, ...) noexcept {
     va_end(arguments);
 }
 
-void entry(const QString& name, const QString& folder) noexcept {
-    tell([&] { return Entry{name, folder}; });
-}
-
 IndexSection::IndexSection(const char* name) noexcept
     : m_name(name) {
     tell([name] { return IndexBegin{QString::fromLatin1(name)}; });

@@ -51,9 +51,6 @@ void tell(const MakeEvent& makeEvent) noexcept {
 /// Tells in words why a finder goes on. The format is printf's, as Logger's.
 void note(const char* format, ...) noexcept Q_ATTRIBUTE_FORMAT_PRINTF(1, 2);
 
-/// An entry that an index took: by which name finders look it up, and the folder that it tells.
-void entry(const QString& name, const QString& folder) noexcept;
-
 /// The making of an index: told when it begins and when it ends, with the number of its entries.
 class IndexSection {
 public:

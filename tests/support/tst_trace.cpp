@@ -144,7 +144,7 @@ TEST(Trace, TellsNotesAndLists) {
     const TraceLog trace;
     {
         Trace::IndexSection section("Test");
-        Trace::entry("Käfer", "D:\\Käfer");
+        Trace::tell([] { return Trace::Entry{"Käfer", "D:\\Käfer"}; });
         Trace::note("No %ls.", qUtf16Printable(QString("Käfer")));
         section.setEntries(1);
     }
