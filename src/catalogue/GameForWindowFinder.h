@@ -18,7 +18,7 @@ public:
                         const QStringList& executables);
 
     /// The install folder has forward slashes when the registered executable was found, and is as registered
-    /// otherwise. False with the record untouched when no entry has the title; otherwise a failed search leaves it
+    /// otherwise. False with the location untouched when no entry has the title; otherwise a failed search leaves it
     /// reset.
     bool find(GameLocation& location) override;
 

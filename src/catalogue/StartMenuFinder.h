@@ -16,8 +16,8 @@ public:
     StartMenuFinder(Logger* logger, StartMenuIndex* index, const QString& name, const QStringList& executables,
                     int matchMode);
 
-    /// The record's paths are the shortcut's target, with forward slashes, once for each executable that it contains.
-    /// False with the record untouched when no shortcut has the name, with the record reset otherwise.
+    /// The location's paths are the shortcut's target, with forward slashes, once for each executable that it contains.
+    /// False with the location untouched when no shortcut has the name, with the location reset otherwise.
     bool find(GameLocation& location) override;
 
 private:

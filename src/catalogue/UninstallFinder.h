@@ -17,8 +17,8 @@ public:
     UninstallFinder(Logger* logger, UninstallIndex* index, const QString& displayName, const QStringList& executables,
                     int matchMode);
 
-    /// False with the record untouched when no entry has the name; otherwise a failed search leaves it reset, with the
-    /// last folder looked in as its `installFolder`.
+    /// False with the location untouched when no entry has the name; otherwise a failed search leaves it reset, with
+    /// the last folder looked in as its `installFolder`.
     bool find(GameLocation& location) override;
 
 private:

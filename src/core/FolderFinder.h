@@ -12,7 +12,7 @@ public:
     FolderFinder(Logger* logger, const QString& folder, const QStringList& executables);
 
     /// True when any of the executables exists; `installFolder` is then the given folder, even when an executable
-    /// lies below it. False with the record untouched when the folder does not exist.
+    /// lies below it. False with the location untouched when the folder does not exist.
     bool find(GameLocation& location) override;
 
 private:

@@ -19,6 +19,6 @@ struct GameLocation {
     /// The game's install folder, absolute.
     QString installFolder;
 
-    /// The host's own. A finder that starts to fill the record sets it to false; none ever sets it to true.
+    /// The host's own. A finder that starts to fill the location sets it to false; none ever sets it to true.
     bool hostFlag = false;
 };

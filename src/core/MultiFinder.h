@@ -22,7 +22,7 @@ public:
     ~MultiFinder() override;
 
     /// A member that rests on the user's choice and fails ends the search: once the user has chosen a folder, no other
-    /// method may replace it. After false the record holds what the last member that searched left there.
+    /// method may replace it. After false the location holds what the last member that searched left there.
     bool find(GameLocation& location) override;
 
     /// The first user location that a member knows; empty when none does.

@@ -16,8 +16,8 @@ public:
     /// factory's: borrowed; must outlive the finder.
     UserProvidedLocationFinder(Logger* logger, const QString& key, const QStringList& executables);
 
-    /// The install folder is as remembered. False leaves the record reset, with the remembered folder, if there is one,
-    /// as its `installFolder`.
+    /// The install folder is as remembered. False leaves the location reset, with the remembered folder, if there is
+    /// one, as its `installFolder`.
     bool find(GameLocation& location) override;
 
     QString userLocation() override;

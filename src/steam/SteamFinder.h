@@ -18,8 +18,8 @@ public:
     SteamFinder(Logger* logger, UninstallIndex* uninstallIndex, SteamLibraryIndex* steamIndex, const QString& appId,
                 const QString& installFolderName, const QStringList& executables);
 
-    /// False with the record untouched when nothing knows the app; otherwise a failed search leaves it reset, with the
-    /// last folder looked in as its `installFolder`.
+    /// False with the location untouched when nothing knows the app; otherwise a failed search leaves it reset, with
+    /// the last folder looked in as its `installFolder`.
     bool find(GameLocation& location) override;
 
 private:

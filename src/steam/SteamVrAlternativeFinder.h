@@ -10,8 +10,8 @@ class SteamVrAlternativeFinder final : public AbstractFinder {
 public:
     explicit SteamVrAlternativeFinder(Logger* logger);
 
-    /// Adds to what the record holds already, without resetting it; false leaves it untouched. The install folder ends
-    /// with its separator.
+    /// Adds to what the location holds already, without resetting it; false leaves it untouched. The install folder
+    /// ends with its separator.
     bool find(GameLocation& location) override;
 };
 

@@ -17,7 +17,7 @@ public:
     EpicStoreFinder(Logger* logger, EpicManifestIndex* index, const QString& name, const QStringList& executables,
                     int matchMode);
 
-    /// False with the record untouched when no entry of this name tells a place; otherwise a failed search leaves it
+    /// False with the location untouched when no entry of this name tells a place; otherwise a failed search leaves it
     /// reset, with the last place looked in as its `installFolder`.
     bool find(GameLocation& location) override;
 

@@ -20,7 +20,7 @@ public:
 
     /// The install folder has forward slashes; before an executable's name stands a native separator.
     ///
-    /// False with the record untouched when no library has the app; otherwise a failed search leaves it reset, with
+    /// False with the location untouched when no library has the app; otherwise a failed search leaves it reset, with
     /// the game's folder, or the last existing folder on the way there, as its `installFolder`.
     bool find(GameLocation& location) override;
 

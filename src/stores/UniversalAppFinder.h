@@ -12,7 +12,7 @@ class UniversalAppFinder final : public AbstractFinder {
 public:
     UniversalAppFinder(Logger* logger, const QString& packageFamily);
 
-    /// The `installFolder` is the package's full name, no folder; there are no executables. False with the record
+    /// The `installFolder` is the package's full name, no folder; there are no executables. False with the location
     /// untouched when there is no such package or it holds no application, and on a system that knows no packages.
     bool find(GameLocation& location) override;
 

@@ -85,7 +85,7 @@ TEST_F(GameForWindowFinderTest, TheRegisteredFolderIsTakenAsStored) {
     EXPECT_EQ(location.launchCommand, "C:/Games\\X\\\\a.exe") << "one separator is always added";
 }
 
-TEST_F(GameForWindowFinderTest, LeavesTheRecordAloneWhenNoTitleFits) {
+TEST_F(GameForWindowFinderTest, LeavesTheLocationAloneWhenNoTitleFits) {
     pc.file("C:\\Games\\X\\x.exe");
     addGame(pc, {"{1}", "Some Game 2", "C:\\Games\\X\\x.exe", {}});
     EXPECT_FALSE(find("Some Game", {"x.exe"})) << "a part of a title is not enough";
@@ -93,7 +93,7 @@ TEST_F(GameForWindowFinderTest, LeavesTheRecordAloneWhenNoTitleFits) {
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
-TEST_F(GameForWindowFinderTest, ResetsTheRecordWhenNoFileExists) {
+TEST_F(GameForWindowFinderTest, ResetsTheLocationWhenNoFileExists) {
     pc.folder("C:\\Games\\X");
     addGame(pc, {"{1}", "X", "C:\\Games\\X\\x.exe", "C:\\Games\\X"});
     EXPECT_FALSE(find("X", {"a.exe"}));

@@ -94,7 +94,7 @@ TEST_F(StartMenuFinderTest, TheFirstShortcutThatPassesWins) {
     EXPECT_EQ(location.installFolder, "C:/Games/X") << "the user's before all users'";
 }
 
-TEST_F(StartMenuFinderTest, AShortcutWithAnotherTargetResetsTheRecordAndIsPassedOver) {
+TEST_F(StartMenuFinderTest, AShortcutWithAnotherTargetResetsTheLocationAndIsPassedOver) {
     addShortcut("C:\\Menu\\X.lnk", "C:\\Help\\help.exe");
     EXPECT_FALSE(find("X", {"x.exe"}));
     EXPECT_EQ(location, GameLocation());

@@ -26,7 +26,7 @@ protected:
         return Finders::UninstallFinder(&logger, &index, name, executables, matchMode).find(location);
     }
 
-    /// What a failed search leaves in the record.
+    /// What a failed search leaves in the location.
     static GameLocation failedIn(const QString& folder) { return {{}, {}, {}, folder, false}; }
 
     TestPc pc;
@@ -67,7 +67,7 @@ TEST_F(UninstallFinderTest, ComparesNamesIgnoringCase) {
     EXPECT_FALSE(find("racer 2", {"game.exe"}, 0));
 }
 
-TEST_F(UninstallFinderTest, LeavesTheRecordAloneWhenNoEntryHasTheName) {
+TEST_F(UninstallFinderTest, LeavesTheLocationAloneWhenNoEntryHasTheName) {
     addProgram(pc, {"1", "Space Racer", "C:\\1", {}});
     EXPECT_FALSE(find("Space Racer 2", {"game.exe"}));
     EXPECT_EQ(location, usedLocation());

@@ -20,7 +20,7 @@ inline void PrintTo(const GameLocation& location, std::ostream* stream) {
             << "\n hostFlag: " << (location.hostFlag ? "true" : "false") << '}';
 }
 
-/// A record that an earlier search filled, with the host's flag set.
+/// A location that an earlier search filled, with the host's flag set.
 inline GameLocation usedLocation() {
     return {"steam://launch/1", "C:\\Old\\old.exe", {"C:\\Old\\old.exe", "C:\\Old\\other.exe"}, "C:\\Old", true};
 }

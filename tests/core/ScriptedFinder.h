@@ -11,7 +11,7 @@ public:
     struct Script {
         bool finds = false;
         QString userLocation;
-        QString installFolder; ///< written into the record by every search, unless it is empty
+        QString installFolder; ///< written into the location by every search, unless it is empty
     };
 
     ScriptedFinder(const QString& name, const Script& script, QStringList* notes)

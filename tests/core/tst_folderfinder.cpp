@@ -41,7 +41,7 @@ TEST_F(FolderFinderTest, FindsEveryExecutableInTheOrderGiven) {
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Folder: D:/Games/X/a.exe", "A: Folder: D:/Games/X/b.exe"));
 }
 
-TEST_F(FolderFinderTest, LeavesTheRecordAloneWhenTheFolderIsMissing) {
+TEST_F(FolderFinderTest, LeavesTheLocationAloneWhenTheFolderIsMissing) {
     pc.file("C:\\Games\\file");
     EXPECT_FALSE(find("C:\\Games\\X", {"a.exe"}));
     EXPECT_EQ(location, usedLocation());
@@ -52,7 +52,7 @@ TEST_F(FolderFinderTest, LeavesTheRecordAloneWhenTheFolderIsMissing) {
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
-TEST_F(FolderFinderTest, ResetsTheRecordWhenNoExecutableExists) {
+TEST_F(FolderFinderTest, ResetsTheLocationWhenNoExecutableExists) {
     pc.folder("C:\\Games\\X");
     EXPECT_FALSE(find("C:\\Games\\X", {"a.exe"}));
     EXPECT_EQ(location, GameLocation());

@@ -44,7 +44,7 @@ TEST_F(MultiFinderTest, TheFirstMemberThatFindsTheGameWins) {
     EXPECT_THAT(notes.mid(0, 2), ElementsAre("1 find", "2 find"));
 }
 
-TEST_F(MultiFinderTest, WithoutMembersItFindsNothingAndLeavesTheRecordAlone) {
+TEST_F(MultiFinderTest, WithoutMembersItFindsNothingAndLeavesTheLocationAlone) {
     const auto finder = combine(finders);
     EXPECT_FALSE(finder->find(location));
     EXPECT_EQ(location, usedLocation());
@@ -52,7 +52,7 @@ TEST_F(MultiFinderTest, WithoutMembersItFindsNothingAndLeavesTheRecordAlone) {
     finder->setUserLocation("D:\\X");
 }
 
-TEST_F(MultiFinderTest, WhenEveryMemberFailsTheRecordHoldsWhatTheLastLeft) {
+TEST_F(MultiFinderTest, WhenEveryMemberFailsTheLocationHoldsWhatTheLastLeft) {
     finders[0] = scripted("1", {false, "", "from 1"});
     finders[1] = scripted("2", {false, "", "from 2"});
     finders[2] = scripted("3", {false, "", ""});

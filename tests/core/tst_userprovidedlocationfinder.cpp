@@ -66,7 +66,7 @@ TEST_F(UserProvidedLocationFinderTest, FindsEveryExecutableInTheRememberedFolder
                 ElementsAre("A: User: Found D:/Games/X\\bin\\b.exe", "A: User: Found D:/Games/X\\a.exe"));
 }
 
-TEST_F(UserProvidedLocationFinderTest, WithoutARememberedFolderTheRecordIsResetSilently) {
+TEST_F(UserProvidedLocationFinderTest, WithoutARememberedFolderTheLocationIsResetSilently) {
     EXPECT_FALSE(finder("K", {"a.exe"}).find(location));
     EXPECT_EQ(location, GameLocation());
     EXPECT_THAT(pc.messages("Test"), IsEmpty());

@@ -117,7 +117,7 @@ TEST_F(SteamVrAlternativeFinderTest, TheUrlHandlerOnlyServesTheLog) {
     EXPECT_EQ(log.messages().first(), "critical: VrUrlHandler Incorrect Path: C:\\veltrane\\handler.exe");
 }
 
-TEST_F(SteamVrAlternativeFinderTest, AddsToARecordWithoutResettingIt) {
+TEST_F(SteamVrAlternativeFinderTest, AddsToALocationWithoutResettingIt) {
     pc.file(server);
     registerCommand("vrmonitor", '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"");
     location = usedLocation();

@@ -57,7 +57,7 @@ TEST_F(EpicStoreFinderTest, AnEmptyNameIsNotSearched) {
     EXPECT_EQ(pc.log("Quorvan.Finders.EpicStore"), "") << "the index is not built";
 }
 
-TEST_F(EpicStoreFinderTest, LeavesTheRecordAloneWhenNoAppHasTheName) {
+TEST_F(EpicStoreFinderTest, LeavesTheLocationAloneWhenNoAppHasTheName) {
     EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals)) << "an empty index";
     EXPECT_EQ(location, usedLocation());
 }
@@ -74,7 +74,7 @@ TEST_F(EpicStoreFinderTest, TheMatchModeSaysHowTheNameMustFit) {
     EXPECT_FALSE(find("Warhammer 2", {"w.exe"}, contains));
 }
 
-TEST_F(EpicStoreFinderTest, AnAppWithoutAPlaceLeavesTheRecordAlone) {
+TEST_F(EpicStoreFinderTest, AnAppWithoutAPlaceLeavesTheLocationAlone) {
     addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", ""});
     EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals));
     EXPECT_EQ(location, usedLocation());

@@ -71,7 +71,7 @@ TEST_F(OculusStoreFinderTest, AnEmptySoftwareFolderIsNotSearched) {
     EXPECT_EQ(pc.log("Quorvan.Finders.OculusStore"), "") << "the index is not built";
 }
 
-TEST_F(OculusStoreFinderTest, LeavesTheRecordAloneWhenNoLibraryHasTheApp) {
+TEST_F(OculusStoreFinderTest, LeavesTheLocationAloneWhenNoLibraryHasTheApp) {
     EXPECT_FALSE(find("kite", {"k.exe"}, "kite")) << "no library";
     EXPECT_EQ(location, usedLocation());
 
@@ -108,7 +108,7 @@ TEST_F(OculusStoreFinderTest, AFileNamedSoftwareEndsTheWayInTheLibrary) {
     EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/Apps", false}));
 }
 
-TEST_F(OculusStoreFinderTest, ResetsTheRecordWhenNoExecutableExists) {
+TEST_F(OculusStoreFinderTest, ResetsTheLocationWhenNoExecutableExists) {
     addLibrary("{1}", "D:\\Apps");
     pc.folder("D:\\Apps\\Software\\kite");
     for (const QStringList& executables : {QStringList{"gone.exe"}, QStringList{"", ""}, QStringList{}}) {

@@ -22,7 +22,7 @@ protected:
     GameLocation location = usedLocation();
 };
 
-TEST_F(UniversalAppFinderTest, LeavesTheRecordAloneWhenThereIsNoPackage) {
+TEST_F(UniversalAppFinderTest, LeavesTheLocationAloneWhenThereIsNoPackage) {
     Logger logger = Logger::create("Test");
     Finders::UniversalAppFinder finder(&logger, "Käfer.競走_%s");
     EXPECT_FALSE(finder.find(location));

@@ -50,13 +50,13 @@ TEST_F(PackagesTest, TheFirstApplicationOfTheFirstPackageIsFound) {
     EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: UAPP: Checking 'Bolt.Kite_1.0_x64__abc' 'Kite!App'"));
 }
 
-TEST_F(PackagesTest, APackageWithoutApplicationsLeavesTheRecordAlone) {
+TEST_F(PackagesTest, APackageWithoutApplicationsLeavesTheLocationAlone) {
     EXPECT_FALSE(find("Bolt.Tools_abc"));
     EXPECT_EQ(location, usedLocation());
     EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: UAPP: Checking 'Bolt.Tools_1.0_x64__abc' ''"));
 }
 
-TEST_F(PackagesTest, AnUnknownFamilyLeavesTheRecordAlone) {
+TEST_F(PackagesTest, AnUnknownFamilyLeavesTheLocationAlone) {
     EXPECT_FALSE(find("Bolt.Kite"));
     EXPECT_EQ(location, usedLocation());
     EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: UAPP: Not found 'Bolt.Kite'"));
