@@ -99,9 +99,12 @@ QStringList storedMachinePath(const QStringList& path, RegistryView view) {
     }
     const QStringList rest = path.mid(namesNode ? 2 : 1);
     if (isNamed(rest, 0, classes)) {
-        return joined(software, joined(classes, storedClassesPath(rest.mid(1), RegistryView::Bits32)));
+        return path.mid(0, 1) + rest.mid(0, 1) + storedClassesPath(rest.mid(1), RegistryView::Bits32);
     }
-    return joined(software, isShared(rest) ? rest : joined(wow64Node, rest));
+    if (isShared(rest)) {
+        return path.mid(0, 1) + rest;
+    }
+    return namesNode ? path : path.mid(0, 1) + joined(wow64Node, rest);
 }
 
 QStringList storedUserPath(const QStringList& path, RegistryView view) {

@@ -48,6 +48,17 @@ TEST(Formats, RegistryFile) {
     EXPECT_EQ(leftOut, QStringList());
 }
 
+TEST(Formats, RegistryFileKeepsTheSpellingOfKeysThatAreNamedByThoseBelowThem) {
+    Registry registry;
+    for (const QString key : {"SOFTWARE", "SOFTWARE\\WOW6432Node"}) {
+        registry.apply({{RegKey::Root::LocalMachine, key, false, {}}});
+    }
+    QStringList leftOut;
+    Registry again;
+    again.apply(parseRegFile(renderRegFile(registry, leftOut), "x.reg").keys);
+    EXPECT_TRUE(again == registry);
+}
+
 TEST(Formats, RegistryFileTellsWhatItCannotHave) {
     QStringList leftOut;
     renderRegFile(OddPc::make(false).registry, leftOut);

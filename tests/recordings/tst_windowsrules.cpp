@@ -20,9 +20,9 @@ QString machine64(const QString& path) {
 
 TEST(StoredPath, The32BitViewOfTheMachinesSoftwareIsATreeOfItsOwn) {
     EXPECT_EQ(machine64("SOFTWARE\\X\\Y"), "SOFTWARE\\X\\Y");
-    EXPECT_EQ(machine32("SOFTWARE\\X\\Y"), "Software\\Wow6432Node\\X\\Y");
-    EXPECT_EQ(machine32("software\\wow6432node\\X"), "Software\\Wow6432Node\\X");
-    EXPECT_EQ(machine64("software\\wow6432node\\X"), "Software\\Wow6432Node\\X");
+    EXPECT_EQ(machine32("SOFTWARE\\X\\Y"), "SOFTWARE\\Wow6432Node\\X\\Y");
+    EXPECT_EQ(machine32("software\\wow6432node\\X"), "software\\wow6432node\\X");
+    EXPECT_EQ(machine64("software\\wow6432node\\X"), "software\\wow6432node\\X");
     EXPECT_EQ(machine32("System\\X"), "System\\X");
 }
 
@@ -33,6 +33,7 @@ TEST(StoredPath, SharedKeysAreInOnePlace) {
               "Software\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion\\App Paths 2");
     EXPECT_EQ(machine32("Software\\Classes\\steam"), "Software\\Classes\\steam");
     EXPECT_EQ(machine32("Software\\Classes\\CLSID\\{1}"), "Software\\Classes\\Wow6432Node\\CLSID\\{1}");
+    EXPECT_EQ(machine64("SOFTWARE\\WOW6432NODE\\classes\\clsid\\{1}"), "SOFTWARE\\classes\\Wow6432Node\\clsid\\{1}");
 }
 
 TEST(StoredPath, TheUsersSoftwareHasOneView) {

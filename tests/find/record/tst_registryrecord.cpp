@@ -59,7 +59,7 @@ TEST(RegistryRecord, HasOfValuesOnlyWhatFindersUse) {
 }
 
 TEST(RegistryRecord, FilesThe32BitViewWhereWindowsDoes) {
-    EXPECT_EQ(linesOf({key(machine, 32, "SOFTWARE\\X"), key(machine, 64, "SOFTWARE\\X"), key(user, 32, "Software\\X"),
+    EXPECT_EQ(linesOf({key(machine, 32, "Software\\X"), key(machine, 64, "SOFTWARE\\X"), key(user, 32, "Software\\X"),
                        key(machine, 32, "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths")}),
               (QStringList{"[HKEY_CURRENT_USER\\Software\\X]",
                            "[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\App Paths]",
