@@ -3,11 +3,11 @@
 #include "catalogue/StartMenuFinder.h"
 #include "catalogue/StartMenuIndex.h"
 #include "core/GameLocation.h"
+#include "steam/SteamCommand.h"
 #include "support/Files.h"
 #include "support/Logger.h"
 #include "support/Paths.h"
 #include "support/RegistryKey.h"
-#include "support/Text.h"
 
 namespace {
 
@@ -34,15 +34,6 @@ QString commandIn(const SteamExeRegistrySource& source) {
         {source.is32Bit ? View::view32 : View::view64, source.hive, source.keyPath, source.valueName});
 }
 
-/// The executable that a registered command starts, or that lies beside the uninstaller which it starts. The order of
-/// the steps matters; arguments that they do not know make a path that does not exist.
-QString executableOf(QString command) {
-    command.remove(QLatin1String("-- \"%1\""));
-    command.remove(QLatin1String("\"%1\""));
-    command.replace(QLatin1String("uninstall.exe"), QLatin1String("steam.exe"), Qt::CaseInsensitive);
-    return Text::unquote(command.trimmed());
-}
-
 QString findThroughStartMenu(Logger& logger) {
     StartMenuIndex index; // of its own, so that a Steam client installed meanwhile is seen
     Finders::StartMenuFinder finder(&logger, &index, QStringLiteral("Steam"), {QStringLiteral("steam.exe")},
@@ -59,7 +50,7 @@ QString findSteamExecutable(Logger& logger) {
         if (command.isEmpty()) {
             continue;
         }
-        const QString path = executableOf(command);
+        const QString path = SteamCommand::executableOf(command);
         logger.logAlways("SteamExeFinder: Checking %ls", qUtf16Printable(path));
         if (Files::exists(path)) {
             return path;
