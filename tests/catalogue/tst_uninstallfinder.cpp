@@ -7,6 +7,7 @@
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "common/TraceLog.h"
 #include "core/Locations.h"
 #include "platform/Registry.h"
 
@@ -72,6 +73,14 @@ TEST_F(UninstallFinderTest, LeavesTheLocationAloneWhenNoEntryHasTheName) {
     EXPECT_FALSE(find("Space Racer 2", {"game.exe"}));
     EXPECT_EQ(location, usedLocation());
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
+}
+
+TEST_F(UninstallFinderTest, TellsHowTheNameHadToFit) {
+    const TraceLog trace;
+    find("Käfer", {"k.exe"}, 0);
+    find("Käfer", {"k.exe"}, 1);
+    EXPECT_THAT(trace.notes(), ElementsAre("No program of the Uninstall registry is named \"Käfer\".",
+                                           "No program of the Uninstall registry has a name that contains \"Käfer\"."));
 }
 
 TEST_F(UninstallFinderTest, AFailedSearchLeavesTheLastFolderLookedIn) {

@@ -4,7 +4,7 @@
 #include "common/QtPrinters.h"
 #include "find/FindProgram.h"
 #include "find/catalogue/FinderTypes.h"
-#include "find/cli/Environment.h"
+#include "find/pc/System.h"
 
 #include <gtest/gtest.h>
 
