@@ -50,7 +50,8 @@ need_packages() {
 # What is installed for what, named by those who source this.
 # shellcheck disable=SC2034
 {
-    native_packages=(cmake ninja-build g++ ccache qtbase5-dev qtbase5-private-dev libkainjow-mustache-dev googletest)
+    native_packages=(cmake ninja-build g++ ccache qtbase5-dev qtbase5-private-dev libcli11-dev libkainjow-mustache-dev
+        googletest)
     test_packages=(clang python3)
     windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make perl python3 patch xz-utils qt5-qmake
         qtbase5-dev-tools ca-certificates nsis wixl)

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cstdio>
+
 namespace Find {
 
 namespace {
@@ -38,6 +40,22 @@ QString describeFault(const QString& path, const QByteArray& folder, const QStri
 }
 
 } // namespace
+
+std::optional<QString> PcFromInput::file(QString& fault) {
+    QFile input;
+    const bool isRead = input.open(stdin, QIODevice::ReadOnly);
+    const QByteArray recording = input.readAll();
+    if (!isRead || input.error() != QFileDevice::NoError) {
+        fault = QStringLiteral("standard input: cannot be read: ") + input.errorString();
+    } else if (!m_file.open() || m_file.write(recording) != recording.size() || !m_file.flush()) {
+        fault = m_file.fileName() + QStringLiteral(": cannot be written: ") + m_file.errorString();
+    }
+    return fault.isEmpty() ? std::optional<QString>(m_file.fileName()) : std::nullopt;
+}
+
+QString PcFromInput::shown(QString message) const {
+    return m_file.fileName().isEmpty() ? message : message.replace(m_file.fileName(), QStringLiteral("standard input"));
+}
 
 QStringList describeProblems(const QString& path, const std::vector<Recordings::Problem>& problems) {
     QStringList lines;

@@ -5,9 +5,24 @@
 #include <QString>
 #include <QStringList>
 
+#include <QTemporaryFile>
+
 #include <optional>
 
 namespace Find {
+
+/// A recorded PC that comes in on standard input. The plug-in reads a file, so it is one as long as this lives.
+class PcFromInput {
+public:
+    /// The file's name, when all was read. No value otherwise; `fault` then says why.
+    std::optional<QString> file(QString& fault);
+
+    /// A message with what the user calls the file.
+    QString shown(QString message) const;
+
+private:
+    QTemporaryFile m_file;
+};
 
 /// Chooses the recorded PC at `path`, a file or a folder, for this process and reads it. Without a path the choice of
 /// the environment stands. `fault` says why it cannot be used. No value when there is none, or none was chosen. To be

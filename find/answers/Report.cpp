@@ -4,14 +4,12 @@
 #include "find/cli/Table.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+
+#include <algorithm>
 
 namespace Find {
 
 namespace {
-
-constexpr int jsonVersion = 1;
 
 TableRow headings(const QStringList& titles) {
     TableRow row;
@@ -71,10 +69,13 @@ QString renderTables(const Answers& answers, const Terminal& terminal) {
     if (answers.games.empty()) {
         return runtimes;
     }
-    return renderTable(tableOf(answers.games), terminal) + QLatin1Char('\n') + runtimes;
+    const auto found =
+        std::count_if(answers.games.begin(), answers.games.end(), [](const GameAnswer& game) { return game.found; });
+    return renderTable(tableOf(answers.games), terminal) + QLatin1Char('\n') + runtimes +
+           QStringLiteral("\n%1 of %2 found\n").arg(found).arg(answers.games.size());
 }
 
-QString renderJson(const Answers& answers) {
+QJsonObject jsonOf(const Answers& answers) {
     QJsonArray games;
     for (const GameAnswer& game : answers.games) {
         games.append(jsonOf(game));
@@ -83,12 +84,10 @@ QString renderJson(const Answers& answers) {
     for (const RuntimeAnswer& runtime : answers.runtimes) {
         runtimes.insert(runtime.key, jsonOf(runtime));
     }
-    const QJsonObject root = {
-        {QStringLiteral("version"), jsonVersion},
+    return {
         {QStringLiteral("games"), games},
         {QStringLiteral("runtimes"), runtimes},
     };
-    return QString::fromUtf8(QJsonDocument(root).toJson());
 }
 
 } // namespace Find

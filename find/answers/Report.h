@@ -2,16 +2,18 @@
 
 #include "find/cli/Terminal.h"
 
+#include <QJsonObject>
 #include <QString>
 
 namespace Find {
 
 struct Answers;
 
-/// The answers for people: a table of the games, when there are any, and one of the runtimes.
+/// The answers for people: a table of the games, when there are any, one of the runtimes, and how many games were
+/// found.
 QString renderTables(const Answers& answers, const Terminal& terminal = {});
 
-/// The answers for programs: a JSON object, described in docs/json.md.
-QString renderJson(const Answers& answers);
+/// The answers for programs, described in docs/json.md.
+QJsonObject jsonOf(const Answers& answers);
 
 } // namespace Find

@@ -8,6 +8,7 @@
 #include <QJsonParseError>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace Find {
 
@@ -63,7 +64,8 @@ std::optional<Catalogue> parseCatalogue(const QByteArray& json, CatalogueFault& 
 
 std::optional<Catalogue> readCatalogue(const QString& fileName, CatalogueFault& fault) {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const bool isInput = fileName == QLatin1String("-");
+    if (!(isInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly))) {
         fault = {0, 0, QStringLiteral("cannot be read: ") + file.errorString()};
         return std::nullopt;
     }
@@ -97,15 +99,10 @@ std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringLi
     return selected;
 }
 
-QStringList namesLike(const Catalogue& catalogue, const QString& text) {
-    constexpr int mostNames = 3;
+QStringList namesOf(const Catalogue& catalogue) {
     QStringList names;
     for (const Game& game : catalogue) {
-        const bool isAlike =
-            game.name.contains(text, Qt::CaseInsensitive) || text.contains(game.name, Qt::CaseInsensitive);
-        if (isAlike && names.size() < mostNames) {
-            names.append(game.name);
-        }
+        names.append(game.name);
     }
     return names;
 }

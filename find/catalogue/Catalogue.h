@@ -43,14 +43,14 @@ constexpr std::size_t mostFinders = 11;
 /// first one.
 std::optional<Catalogue> parseCatalogue(const QByteArray& json, CatalogueFault& fault);
 
-/// The same for a file.
+/// The same for a file; "-" is standard input.
 std::optional<Catalogue> readCatalogue(const QString& file, CatalogueFault& fault);
 
 /// The games of these names, each once and in the catalogue's order, letter case ignored; all when there are no names.
 /// No value when a name is not in the catalogue; `unknown` is then that name.
 std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringList& names, QString& unknown);
 
-/// The names of games that contain the text or are contained in it, letter case ignored; the first three.
-QStringList namesLike(const Catalogue& catalogue, const QString& text);
+/// The games' names, in the catalogue's order.
+QStringList namesOf(const Catalogue& catalogue);
 
 } // namespace Find

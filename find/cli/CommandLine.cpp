@@ -1,202 +1,106 @@
 #include "find/cli/CommandLine.h"
 
-#include <QCommandLineOption>
-#include <QCommandLineParser>
-#include <QCoreApplication>
-#include <QDir>
+#include "find/cli/CommandTree.h"
+#include "find/cli/DidYouMean.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
-#include <vector>
 
 namespace Find {
 
 namespace {
 
-QString text(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
-struct Declared {
-    const QCommandLineOption plugin{text("plugin"), text("Load this plug-in instead of the one beside the program."),
-                                    text("FILE")};
-    const QCommandLineOption pc{text("pc"), text("Answer from this recorded PC, and name what is wrong with it."),
-                                text("PC")};
-    const QCommandLineOption game{text("game"), text("Ask for this game only. Can be given several times."),
-                                  text("NAME")};
-    const QCommandLineOption json{text("json"), text("Print the answers as JSON (docs/json.md).")};
-    const QCommandLineOption all{text("all"), text("With explain: leave out nothing of long lists.")};
-    const QCommandLineOption keepNames{
-        text("keep-names"), text("With record and report: leave the user's and the machine's name in the recording.")};
-    const QCommandLineOption help{{text("h"), text("help")}, text("Print this help.")};
-    const QCommandLineOption version{text("version"), text("Print the version.")};
-};
-
-void declare(QCommandLineParser& parser, const Declared& declared) {
-    parser.setApplicationDescription(
-        text("Loads the plug-in Luruludri as a host does and asks it where games and VR runtimes are.\n\n"
-             "Exit status: 0 when all games were found, 1 when some were not, 2 when the program was used wrongly or\n"
-             "something that it reads is missing or broken."));
-    parser.addPositionalArgument(
-        text("CATALOGUE"),
-        text("The file that lists the games (docs/catalogue.md);\nthe one beside the program unless given."),
-        text("[CATALOGUE]"));
-    parser.addPositionalArgument(text("runtimes"), text("Ask for the VR runtimes only."), text("| runtimes"));
-    parser.addPositionalArgument(text("locate"),
-                                 text("Remember the FOLDER that has the game of this KEY\nin the user's settings. "
-                                      "The catalogue names its executables."),
-                                 text("| locate KEY FOLDER [CATALOGUE]"));
-    parser.addPositionalArgument(text("forget"), text("Forget it."), text("| forget KEY"));
-    parser.addPositionalArgument(text("record"),
-                                 text("Record into a new FILE what finders use of this PC\n(docs/recorded-pc.md), "
-                                      "so that it can be looked at\nelsewhere."),
-                                 text("| record [FILE] [CATALOGUE]"));
-    parser.addPositionalArgument(text("report"),
-                                 text("Make a page of the answers, a new FILE for a browser\n(docs/report.md), "
-                                      "which carries a recording."),
-                                 text("| report [FILE] [CATALOGUE]"));
-    parser.addPositionalArgument(text("unpack"), text("Make a FOLDER of a recording, to look at or change it."),
-                                 text("| unpack FILE FOLDER"));
-    parser.addPositionalArgument(text("explain"),
-                                 text("Tell why the game of this NAME was found or not: what each\nfinder looked for, "
-                                      "what it saw, why it went on."),
-                                 text("| explain NAME [CATALOGUE]"));
-    parser.addOptions({declared.plugin, declared.pc, declared.game, declared.json, declared.all, declared.keepNames,
-                       declared.help, declared.version});
-}
-
-/// One thing that the words of the command line come down to: what they are, and where their values go.
-struct CommandForm {
-    struct Word {
-        const char* title;
-        QString Options::*target;
-    };
-
-    const char* name; ///< the first word; null for the command that needs none
-    Command command;
-    std::vector<Word> words; ///< those behind the name
-    int needed;              ///< how many of them must be there
-};
-
-const std::vector<CommandForm>& commandForms() {
-    static const CommandForm::Word catalogue = {"the name of the catalogue", &Options::catalogue};
-    static const CommandForm::Word key = {"the key", &Options::key};
-    static const std::vector<CommandForm> forms = {
-        {nullptr, Command::FindGames, {catalogue}, 0},
-        {"runtimes", Command::Runtimes, {}, 0},
-        {"locate", Command::Locate, {key, {"the folder", &Options::folder}, catalogue}, 2},
-        {"forget", Command::Forget, {key}, 1},
-        {"record", Command::Record, {{"the name of the file", &Options::folder}, catalogue}, 0},
-        {"report", Command::Report, {{"the name of the file", &Options::folder}, catalogue}, 0},
-        {"unpack", Command::Unpack, {{"the name of the file", &Options::file}, {"the folder", &Options::folder}}, 2},
-        {"explain", Command::Explain, {{"the game's name", &Options::name}, catalogue}, 1},
-    };
-    return forms;
-}
-
-/// The form that the words have; `words` are then those behind its name.
-const CommandForm& formOf(QStringList& words) {
-    const std::vector<CommandForm>& forms = commandForms();
-    const auto named = std::find_if(forms.begin(), forms.end(), [&](const CommandForm& form) {
-        return form.name != nullptr && words.value(0) == QLatin1String(form.name);
-    });
-    if (named == forms.end()) {
-        return forms.front();
-    }
-    words.removeFirst();
-    return *named;
-}
-
-/// The first fault in the words behind a command's name; empty when there is none.
-QString findFault(const CommandForm& form, const QStringList& words) {
-    for (int i = 0; i < static_cast<int>(form.words.size()); ++i) {
-        const QString title = text(form.words.at(static_cast<std::size_t>(i)).title);
-        if (i >= words.size() && i < form.needed) {
-            return text("%1: %2 is missing").arg(text(form.name), title);
+/// The arguments as CLI11 takes them: the last first.
+std::vector<std::string> reversed(const QStringList& arguments) {
+    std::vector<std::string> words;
+    for (int i = arguments.size() - 1; i > 0; --i) {
+        const QString& argument = arguments.at(i);
+        const bool isEmptyValue = argument.startsWith(QLatin1String("--")) && argument.endsWith(QLatin1Char('='));
+        if (isEmptyValue) { // where CLI11 would take the next argument
+            words.emplace_back();
         }
-        if (i < words.size() && words.at(i).trimmed().isEmpty()) {
-            return title + text(" is empty");
+        words.push_back((isEmptyValue ? argument.chopped(1) : argument).toStdString());
+    }
+    return words;
+}
+
+QString unknownOption(const QString& given, const CommandForm& form) {
+    const QString name = given.section(QLatin1Char('='), 0, 0);
+    QStringList known = {QStringLiteral("--help")};
+    for (const Switch* const one : allSwitches()) {
+        if (name == QLatin1String(one->name)) {
+            return QStringLiteral("%1: not with %2").arg(name, QLatin1String(form.name));
+        }
+        if (hasSwitch(form, *one)) {
+            known.append(QLatin1String(one->name));
         }
     }
-    const int most = static_cast<int>(form.words.size());
-    return words.size() > most ? text("surplus argument \"%1\"").arg(words.at(most)) : QString();
+    return QStringLiteral("unknown option \"%1\"").arg(name) + didYouMean(name, known);
 }
 
-/// The first fault in options that are all known; empty when there is none.
-QString findFault(const CommandForm& form, const QCommandLineParser& parser, const Declared& declared) {
-    for (const QCommandLineOption* option : {&declared.plugin, &declared.pc, &declared.game}) {
-        if (parser.isSet(*option) && parser.values(*option).contains(QString())) {
-            return text("--%1: the value is empty").arg(option->names().constFirst());
-        }
+/// What is wrong with a word too many.
+QString surplus(const QString& word, const CommandTree& tree) {
+    const std::string first = tree.app().get_subcommands().empty() ? tree.app()["CATALOGUE"]->results().front() : "";
+    const QString command = QString::fromStdString(first);
+    const QString meant = didYouMean(command, commandNames());
+    if (!meant.isEmpty() && !QFileInfo::exists(command)) {
+        return QStringLiteral("unknown command \"%1\"").arg(command) + meant;
     }
-    const bool hasAnswers = form.command == Command::FindGames || form.command == Command::Runtimes;
-    if (parser.isSet(declared.game) && form.command != Command::FindGames) {
-        return text("--game: not with %1").arg(text(form.name));
-    }
-    if (parser.isSet(declared.all) && form.command != Command::Explain) {
-        return text("--all: only with explain");
-    }
-    if (parser.isSet(declared.json) && !hasAnswers) {
-        return text("--json: not with %1").arg(text(form.name));
-    }
-    const bool isRecording = form.command == Command::Record || form.command == Command::Report;
-    if (parser.isSet(declared.keepNames) && !isRecording) {
-        return text("--keep-names: only with record and report");
-    }
-    return QString();
+    return QStringLiteral("surplus argument \"%1\"").arg(word);
 }
 
-Options readOptions(const CommandForm& form, const QStringList& words, const QCommandLineParser& parser,
-                    const Declared& declared) {
-    Options options;
-    const QDir programFolder(QCoreApplication::applicationDirPath());
-    options.command = form.command;
-    options.catalogue = programFolder.filePath(text("catalogue.json"));
-    for (int i = 0; i < words.size(); ++i) {
-        options.*form.words.at(static_cast<std::size_t>(i)).target = words.at(i);
+/// What is wrong with the first argument that CLI11 could not place.
+QString describeExtra(const CommandTree& tree) {
+    std::vector<std::string> extras = tree.app().remaining(true);
+    extras.erase(std::remove(extras.begin(), extras.end(), "--"), extras.end());
+    const QString extra = QString::fromStdString(extras.front());
+    return extra.startsWith(QLatin1Char('-')) ? unknownOption(extra, tree.form()) : surplus(extra, tree);
+}
+
+CommandLine refusal(const QString& fault) {
+    return {CommandLine::Action::Refuse, {}, fault};
+}
+
+/// "KEY is required" and "--game: 1 required NAME missing" in the words of the other faults.
+QString describeMissing(const CLI::ParseError& error, const CommandForm& form) {
+    QString message = QString::fromUtf8(error.what());
+    if (message.endsWith(QLatin1String(" is required"))) {
+        message = QLatin1String(form.name) + QLatin1String(": ") + message;
+        return message.replace(QLatin1String(" is required"), QLatin1String(" is missing"));
     }
-    // Without a suffix: the library loader knows what libraries end in on this system.
-    options.plugin =
-        parser.isSet(declared.plugin) ? parser.value(declared.plugin) : programFolder.filePath(text("Luruludri"));
-    if (parser.isSet(declared.pc)) {
-        options.pc = parser.value(declared.pc);
-    }
-    options.games = parser.values(declared.game);
-    if (form.command == Command::Explain) {
+    return message.replace(QLatin1String(": 1 required "), QLatin1String(": "))
+        .replace(QLatin1String(" missing"), QLatin1String(" is missing"));
+}
+
+CommandLine understood(const CommandTree& tree) {
+    QString fault;
+    Options options = tree.options(fault);
+    if (options.command == Command::Explain) {
         options.games = QStringList{options.name};
     }
-    options.json = parser.isSet(declared.json);
-    options.keepNames = parser.isSet(declared.keepNames);
-    options.all = parser.isSet(declared.all);
-    return options;
+    if (options.pc == standardInput() && options.catalogue == standardInput()) {
+        fault = QStringLiteral("standard input cannot be both the recorded PC and the catalogue");
+    }
+    return fault.isEmpty() ? CommandLine{CommandLine::Action::Run, options, {}} : refusal(fault);
 }
 
 } // namespace
 
 CommandLine parseCommandLine(const QStringList& arguments) {
-    const Declared declared;
-    QCommandLineParser parser;
-    declare(parser, declared);
-
-    if (!parser.parse(arguments)) {
-        return {CommandLine::Action::Refuse, {}, parser.errorText()};
+    CommandTree tree;
+    try {
+        tree.app().parse(reversed(arguments));
+    } catch (const CLI::CallForHelp&) {
+        return {CommandLine::Action::PrintText, {}, QString::fromStdString(tree.app().help())};
+    } catch (const CLI::CallForVersion& version) {
+        return {CommandLine::Action::PrintText, {}, QString::fromUtf8(version.what()) + QLatin1Char('\n')};
+    } catch (const CLI::ExtrasError&) {
+        return refusal(describeExtra(tree));
+    } catch (const CLI::ParseError& error) {
+        return refusal(describeMissing(error, tree.form()));
     }
-    if (parser.isSet(declared.help)) {
-        return {CommandLine::Action::PrintText, {}, parser.helpText().trimmed() + QLatin1Char('\n')};
-    }
-    if (parser.isSet(declared.version)) {
-        const QString version = text("%1 %2\n");
-        return {CommandLine::Action::PrintText,
-                {},
-                version.arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion())};
-    }
-    QStringList words = parser.positionalArguments();
-    const CommandForm& form = formOf(words);
-    for (const QString& fault : {findFault(form, parser, declared), findFault(form, words)}) {
-        if (!fault.isEmpty()) {
-            return {CommandLine::Action::Refuse, {}, fault};
-        }
-    }
-    return {CommandLine::Action::Run, readOptions(form, words, parser, declared), {}};
+    return understood(tree);
 }
 
 } // namespace Find

@@ -22,18 +22,23 @@ enum class Command {
 /// What the user asked for.
 struct Options {
     Command command = Command::FindGames;
-    QString key;               ///< the game's key in the user's settings, with Locate and Forget
-    QString folder;            ///< where the game is, with Locate; where the recording goes, with Record, Report and Unpack
-    QString file;              ///< the recording, with Unpack
-    QString name;              ///< the game's name, with Explain
-    QString catalogue;         ///< means something with all that ask for games
-    QString plugin;            ///< the plug-in's file; the one beside the program when none was given
+    QString key;       ///< the game's key in the user's settings, with Locate and Forget
+    QString folder;    ///< where the game is, with Locate; where the recording goes, with Record, Report and Unpack
+    QString file;      ///< the recording, with Unpack
+    QString name;      ///< the game's name, with Explain
+    QString catalogue; ///< means something with all that ask for games
+    QString plugin;    ///< the plug-in's file; the one beside the program when none was given
     std::optional<QString> pc; ///< the recorded PC's file or folder, as given
     QStringList games;         ///< names of the games to ask for; empty for all
     bool json = false;
     bool keepNames = false; ///< the user's and the machine's name stay in the recording, with Record and Report
     bool all = false;       ///< leave nothing out, with Explain
 };
+
+/// What stands for standard input in the place of a file.
+inline QString standardInput() {
+    return QStringLiteral("-");
+}
 
 /// The arguments, understood: either something to do or a text that says why not.
 struct CommandLine {

@@ -10,12 +10,15 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace Find {
 
 namespace {
 
 int passingColumns = 0; // of the passing line that stands on the terminal
+bool isKeeping = false;
+std::vector<Complaint> kept;
 
 } // namespace
 
@@ -28,9 +31,22 @@ bool Console::print(const QString& text) {
     return write(Stream::Output, text);
 }
 
-void Console::complain(const QString& message) {
+void Console::complain(const Complaint& complaint) {
+    if (isKeeping) {
+        kept.push_back(complaint);
+        return;
+    }
     showPassingLine(QString());
-    write(Stream::Errors, QLatin1String("luruludri-find: ") + oneLine(message) + QLatin1Char('\n'));
+    write(Stream::Errors, QLatin1String("luruludri-find: ") + oneLine(complaint.text()) + QLatin1Char('\n'));
+}
+
+void Console::keepComplaints() {
+    isKeeping = true;
+}
+
+std::vector<Complaint> Console::takeComplaints() {
+    isKeeping = false;
+    return std::exchange(kept, {});
 }
 
 void Console::showPassingLine(const QString& line) {

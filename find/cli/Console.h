@@ -1,11 +1,13 @@
 #pragma once
 
+#include "find/cli/Complaint.h"
 #include "find/cli/Terminal.h"
 
 #include <QString>
 #include <QtGlobal>
 
 #include <memory>
+#include <vector>
 
 namespace Find {
 
@@ -26,7 +28,13 @@ public:
     static bool print(const QString& text);
 
     /// One line to the error stream, after the program's name.
-    static void complain(const QString& message);
+    static void complain(const Complaint& complaint);
+
+    /// From now on complaints are kept, until they are taken.
+    static void keepComplaints();
+
+    /// Those that were kept. From now on none are.
+    static std::vector<Complaint> takeComplaints();
 
     /// On the error stream, a line that stays until something else is written. An empty one erases it. Only for a
     /// terminal that rewrites lines, and narrower than that.

@@ -7,8 +7,11 @@
 #include "find/answers/Report.h"
 #include "find/answers/UserChoice.h"
 #include "find/catalogue/Catalogue.h"
+#include "find/cli/CommandForms.h"
 #include "find/cli/CommandLine.h"
 #include "find/cli/Console.h"
+#include "find/cli/DidYouMean.h"
+#include "find/cli/JsonReply.h"
 #include "find/cli/OneLine.h"
 #include "find/cli/Progress.h"
 #include "find/explain/Explanation.h"
@@ -33,19 +36,22 @@ ExitStatus fail(const QString& message) {
     return failed;
 }
 
+ExitStatus failToWrite() {
+    return fail(QStringLiteral("the answers could not be written"));
+}
+
 ExitStatus print(const QString& text, ExitStatus status) {
-    return Console::print(text) ? status : fail(QStringLiteral("the answers could not be written"));
+    return Console::print(text) ? status : failToWrite();
 }
 
-QString describe(const QString& file, const CatalogueFault& fault) {
-    return fault.line > 0 ? QStringLiteral("%1:%2:%3: %4")
-                                .arg(file, QString::number(fault.line), QString::number(fault.column), fault.message)
-                          : QStringLiteral("%1: %2").arg(file, fault.message);
+QString shownName(const QString& file) {
+    return file == standardInput() ? QStringLiteral("standard input") : file;
 }
 
-QString describeUnknown(const QString& file, const QString& name, const QStringList& alike) {
-    const QString fault = QStringLiteral("%1: no game is named \"%2\"").arg(file, name);
-    return alike.isEmpty() ? fault : fault + QStringLiteral(" (but \"%1\")").arg(alike.join(QLatin1String("\", \"")));
+void complainOfCatalogue(const Options& options, const CatalogueFault& fault) {
+    const bool mayBeCommand = options.command == Command::FindGames && !QFileInfo::exists(options.catalogue);
+    const QString meant = mayBeCommand ? didYouMean(options.catalogue, commandNames()) : QString();
+    Console::complain({shownName(options.catalogue), fault.line, fault.column, fault.message + meant});
 }
 
 /// The games that the command is about. No value after a fault, of which the user has been told.
@@ -56,13 +62,15 @@ std::optional<Catalogue> loadGames(const Options& options) {
     CatalogueFault fault;
     const std::optional<Catalogue> catalogue = readCatalogue(options.catalogue, fault);
     if (!catalogue) {
-        Console::complain(describe(options.catalogue, fault));
+        complainOfCatalogue(options, fault);
         return std::nullopt;
     }
     QString unknown;
     std::optional<Catalogue> games = selectGames(*catalogue, options.games, unknown);
     if (!games) {
-        Console::complain(describeUnknown(options.catalogue, unknown, namesLike(*catalogue, unknown)));
+        Console::complain(
+            {shownName(options.catalogue), 0, 0,
+             QStringLiteral("no game is named \"%1\"").arg(unknown) + didYouMean(unknown, namesOf(*catalogue))});
     }
     return games;
 }
@@ -71,8 +79,9 @@ ExitStatus answer(IGameFinderFactory& factory, const Options& options, const Cat
     Progress progress(QStringLiteral("asking"));
     const Answers answers = ask(factory, games, progress);
     progress.finish();
-    return print(options.json ? renderJson(answers) : renderTables(answers, Console::terminal(Stream::Output)),
-                 answers.allGamesFound() ? allFound : someNotFound);
+    const bool isPrinted = options.json ? printReply(jsonOf(answers))
+                                        : Console::print(renderTables(answers, Console::terminal(Stream::Output)));
+    return !isPrinted ? failToWrite() : answers.allGamesFound() ? allFound : someNotFound;
 }
 
 ExitStatus locate(IGameFinderFactory& factory, const Options& options, const Catalogue& games) {
@@ -179,30 +188,26 @@ ExitStatus run(const Options& options) {
         return failed;
     }
     QString fault;
-    const std::optional<Recordings::Recording> pc = chooseRecordedPc(options.pc, fault);
+    PcFromInput input;
+    const std::optional<QString> path = options.pc == standardInput() ? input.file(fault) : options.pc;
+    const std::optional<Recordings::Recording> pc =
+        fault.isEmpty() ? chooseRecordedPc(path, fault) : std::optional<Recordings::Recording>();
     if (fault.isEmpty()) {
         fault = refusalToChoose(options, pc);
     }
     if (!fault.isEmpty()) {
-        return fail(fault);
+        return fail(input.shown(fault));
     }
-    const QString path = options.pc.value_or(qEnvironmentVariable(Recordings::environmentVariable));
-    const QStringList problems = pc ? describeProblems(path, pc->problems) : QStringList();
+    const QString name = path.value_or(qEnvironmentVariable(Recordings::environmentVariable));
+    const QStringList problems = pc ? describeProblems(name, pc->problems) : QStringList();
     for (const QString& problem : problems) {
-        Console::complain(problem);
+        Console::complain(input.shown(problem));
     }
     const ExitStatus status = act(options, *games, pc ? &pc->pc : nullptr, problems);
     return problems.isEmpty() ? status : failed;
 }
 
-} // namespace
-
-ExitStatus failForMemory() {
-    return fail(QStringLiteral("out of memory"));
-}
-
-ExitStatus runProgram(const QStringList& arguments) {
-    const CommandLine commandLine = parseCommandLine(arguments);
+ExitStatus follow(const CommandLine& commandLine, bool isJson) {
     switch (commandLine.action) {
     case CommandLine::Action::Run:
         return run(commandLine.options);
@@ -212,7 +217,23 @@ ExitStatus runProgram(const QStringList& arguments) {
         break;
     }
     Console::complain(commandLine.text);
-    return fail(QStringLiteral("try luruludri-find --help"));
+    return isJson ? failed : fail(QStringLiteral("try luruludri-find --help"));
+}
+
+} // namespace
+
+ExitStatus failForMemory() {
+    return fail(QStringLiteral("out of memory"));
+}
+
+ExitStatus runProgram(const QStringList& arguments) {
+    const bool isJson = arguments.contains(QLatin1String("--json"));
+    if (isJson) {
+        replyInJson();
+    }
+    const ExitStatus status = follow(parseCommandLine(arguments), isJson);
+    printLeftComplaints();
+    return status;
 }
 
 } // namespace Find

@@ -1,4 +1,5 @@
 #include "find/cli/Console.h"
+#include "find/cli/JsonReply.h"
 #include "find/cli/Program.h"
 
 #include <QCoreApplication>
@@ -15,6 +16,8 @@ int main(int argc, char* argv[]) {
         QCoreApplication::setApplicationVersion(QLatin1String(LURULUDRI_VERSION));
         return Find::runProgram(QCoreApplication::arguments());
     } catch (const std::bad_alloc&) {
-        return Find::failForMemory();
+        Find::failForMemory();
+        Find::printLeftComplaints();
+        return Find::failed;
     }
 }

@@ -54,6 +54,9 @@ FindRun FindProgram::runBare(const QStringList& arguments) const {
     QProcess process;
     process.setProcessEnvironment(m_environment);
     process.setWorkingDirectory(m_folder.path());
+    if (!m_inputFile.isEmpty()) {
+        process.setStandardInputFile(m_inputFile);
+    }
     process.setStandardOutputFile(m_outputFile);
     process.setStandardErrorFile(m_errorFile);
     process.start(QStringLiteral(LURULUDRI_FIND), arguments);
@@ -65,6 +68,10 @@ FindRun FindProgram::runBare(const QStringList& arguments) const {
     return {exited ? process.exitCode() : -1,
             m_outputFile.isEmpty() ? textOf(process.readAllStandardOutput()) : QString(),
             m_errorFile.isEmpty() ? textOf(process.readAllStandardError()) : QString()};
+}
+
+void FindProgram::setInput(const QByteArray& input) {
+    m_inputFile = file(QStringLiteral("input"), input);
 }
 
 void FindProgram::redirect(const QString& outputFile, const QString& errorFile) {

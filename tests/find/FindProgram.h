@@ -36,6 +36,9 @@ public:
     /// Runs with nothing but the arguments.
     FindRun runBare(const QStringList& arguments) const;
 
+    /// From now on this is what the program reads from standard input.
+    void setInput(const QByteArray& input);
+
     /// From now on what the program writes goes to these files, terminals for example, and is not part of the run; an
     /// empty name leaves a stream alone.
     void redirect(const QString& outputFile, const QString& errorFile);
@@ -46,6 +49,7 @@ public:
 private:
     Find::Console m_console; // lets this process, too, make files whose names are not ASCII
     QTemporaryDir m_folder;
+    QString m_inputFile;
     QString m_outputFile;
     QString m_errorFile;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();

@@ -21,7 +21,7 @@ QString docText() {
     return QString::fromUtf8(file.readAll()).replace("\r\n", "\n");
 }
 
-/// The examples of docs/json.md: first games, then only the runtimes.
+/// The examples of docs/json.md: first games, then only the runtimes, then an error.
 QStringList examples() {
     QStringList found;
     const QStringList parts = docText().split("```");
@@ -50,7 +50,7 @@ TEST(JsonDoc, ItsExamplesAreWhatTheProgramPrintsOfTheSamplePc) {
     if (Find::isPcItself()) {
         GTEST_SKIP() << "no recordings here";
     }
-    ASSERT_EQ(examples().size(), 2);
+    ASSERT_EQ(examples().size(), 3);
     FindProgram program;
     program.setVariable("XDG_DATA_HOME", program.folder());
     const QStringList common = {"--pc", LURULUDRI_SAMPLES "/pc", "--json"};
@@ -77,6 +77,15 @@ TEST(JsonDoc, ItsFieldsAreThoseThatTheProgramPrints) {
     for (const int game : {0, 1}) {
         EXPECT_EQ(shapeOf(printed["games"][game].toObject()), shapeOf(described["games"][game].toObject())) << game;
     }
+}
+
+TEST(JsonDoc, ItsErrorIsWhatTheProgramPrints) {
+    FindProgram program;
+    program.file("games.json", QByteArray("\n").repeated(11) + "    \"");
+    const FindRun run = program.run({"--json", "games.json"});
+    EXPECT_EQ(run.output, examples().value(2));
+    EXPECT_EQ(run.exitStatus, 2);
+    EXPECT_EQ(run.errors, "");
 }
 
 TEST(JsonDoc, EveryFieldHasALineInItsTables) {

@@ -112,7 +112,9 @@ TEST(PluginCalls, AnswersAreShownUnderTheirNames) {
                           "                     slot 11 second\n"
                           "Varjo                slot 15\n"
                           "OpenXR               slot 16\n"
-                          "Lumavex standalone   slot 17\n");
+                          "Lumavex standalone   slot 17\n"
+                          "\n"
+                          "1 of 2 found\n");
 }
 
 TEST(PluginCalls, AnswersInJsonAreUnderTheirOperations) {
@@ -124,6 +126,7 @@ TEST(PluginCalls, AnswersInJsonAreUnderTheirOperations) {
     EXPECT_EQ(run.exitStatus, 1);
     const QJsonDocument expected = QJsonDocument::fromJson(R"({
         "version": 1,
+        "errors": [],
         "games": [
             {"name": "Käferrennen", "found": true, "installFolder": "D:\\Spiele\\Käfer",
              "launchCommand": "steam://launch/42/VR", "executablePath": "D:\\Spiele\\Käfer\\kaefer.exe",

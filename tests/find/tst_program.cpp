@@ -1,6 +1,7 @@
 #include "FindProgram.h"
 
 #include "common/QtPrinters.h"
+#include "find/cli/CommandForms.h"
 #include "find/pc/System.h"
 #include "recordings/PcFile.h"
 #include "recordings/Recording.h"
@@ -9,6 +10,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace {
 
@@ -59,7 +63,7 @@ TEST(Program, OnlyTheGamesThatAreNamedAreAskedFor) {
     EXPECT_EQ(program.run({"--game", "wal", catalogue, "--game=käferrennen"}).output, program.run({catalogue}).output);
 
     expectComplaint(program.run({"--game", "Käfer", catalogue}),
-                    "games.json: no game is named \"Käfer\" (but \"Käferrennen\")");
+                    "games.json: no game is named \"Käfer\"; did you mean \"Käferrennen\"?");
 }
 
 TEST(Program, WhatGoesToAPipeIsPlainAndWholeWhateverTheEnvironmentSays) {
@@ -75,48 +79,166 @@ TEST(Program, WhatGoesToAPipeIsPlainAndWholeWhateverTheEnvironmentSays) {
 
 TEST(Program, HelpAndVersionNeedNothingElse) {
     const FindProgram program;
-    for (const char* option : {"--help", "-h"}) {
+    for (const char* const option : {"--help", "-h"}) {
         const FindRun help = program.runBare({option});
         EXPECT_EQ(help.exitStatus, 0);
         EXPECT_EQ(help.errors, "");
-        for (const char* name : {"CATALOGUE", "runtimes", "locate KEY FOLDER [CATALOGUE]", "forget KEY", "--plugin",
-                                 "--pc", "--game", "--json", "--version", "Exit status"}) {
+        for (const char* name : {"CATALOGUE", "runtimes", "locate", "forget", "--plugin", "--pc", "--game", "--json",
+                                 "--version", "Exit status"}) {
             EXPECT_TRUE(help.output.contains(name)) << name;
         }
     }
-    const FindRun version = program.runBare({"--version"});
-    EXPECT_EQ(version.exitStatus, 0);
-    EXPECT_TRUE(version.output.startsWith("luruludri-find ")) << version.output.toStdString();
-    EXPECT_EQ(version.output.count("\n"), 1);
+    for (const char* const option : {"--version", "-V"}) {
+        const FindRun version = program.runBare({option});
+        EXPECT_EQ(version.exitStatus, 0);
+        EXPECT_TRUE(version.output.startsWith("luruludri-find ")) << version.output.toStdString();
+        EXPECT_EQ(version.output.count("\n"), 1);
+    }
+}
+
+TEST(Program, EachCommandHasAHelpOfItsOwnWithAnExample) {
+    const FindProgram program;
+    const QString whole = program.runBare({"--help"}).output;
+    for (const Find::CommandForm& form : Find::commandForms()) {
+        const QString name = QString::fromLatin1(form.name);
+        const FindRun help = program.runBare({name, "--help"});
+        EXPECT_EQ(help.exitStatus, 0);
+        EXPECT_EQ(help.errors, "");
+        EXPECT_TRUE(help.output.contains("\nUsage: luruludri-find " + name)) << help.output.toStdString();
+        EXPECT_TRUE(help.output.contains("\nExample:\n  luruludri-find " + name)) << help.output.toStdString();
+        EXPECT_TRUE(whole.contains("\n  " + name + " ")) << whole.toStdString();
+    }
+}
+
+/// What is asked for, in today's words or in those of before, comes down to the same.
+TEST(Program, FindIsWhatIsDoneWithoutACommand) {
+    const FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    const FindRun run = program.run({"--json", "--game", "Wal", catalogue});
+    EXPECT_TRUE(run.output.contains("Wal"));
+    EXPECT_EQ(program.run({"find", "--json", "--game", "Wal", catalogue}).output, run.output);
+    EXPECT_EQ(program.run({"--json", "find", catalogue, "--game", "Wal"}).output, run.output);
+    EXPECT_EQ(program.run({"--game=Käfer", "--game=Wal", "--json", "--json", "--", catalogue}).exitStatus, 2);
+}
+
+TEST(Program, ValuesAreTakenAsTheyAre) {
+    const FindProgram program;
+    const QString catalogue = program.file("games.json", R"({"games": [{"name": "[a,b]", "finders": []},
+        {"name": "list", "finders": []}, {"name": "--all", "finders": []}, {"name": "/x", "finders": []}]})");
+    for (const char* const name : {"[a,b]", "list", "--all", "/x"}) {
+        EXPECT_EQ(program.run({"--game", name, catalogue}).exitStatus, 1) << name;
+        EXPECT_EQ(program.run({"explain", "--", name, catalogue}).errors,
+                  "luruludri-find: " LURULUDRI_FAKE_PLUGIN ": this plug-in tells no trace\n")
+            << name;
+    }
+}
+
+TEST(Program, StandardInputIsRead) {
+    FindProgram program;
+    program.setInput(twoGames);
+    EXPECT_EQ(program.run({"-"}).output, program.run({program.file("games.json", twoGames)}).output);
+    program.setInput("{\"games\": [\n    \"abc\n]}");
+    expectComplaint(program.run({"-"}), "luruludri-find: standard input:2:5: unterminated string");
+}
+
+TEST(Program, ARecordedPcIsReadFromStandardInput) {
+    if (!worldKnowsRecordings()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    program.setInput(Recordings::renderPcFile({}));
+    const FindRun run = program.run({"--pc", "-", catalogue});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_EQ(run.errors, "");
+    program.setInput("{");
+    const FindRun broken = program.run({"--pc", "-", catalogue});
+    EXPECT_EQ(broken.exitStatus, 2);
+    EXPECT_TRUE(broken.errors.startsWith("luruludri-find: standard input: ")) << broken.errors.toStdString();
+}
+
+/// The messages of the reply's errors.
+QStringList errorsOf(const FindRun& run) {
+    EXPECT_EQ(run.errors, "");
+    QStringList messages;
+    const QJsonObject reply = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    EXPECT_EQ(reply["version"].toInt(), 1);
+    for (const QJsonValue error : reply["errors"].toArray()) {
+        messages.append(error["message"].toString());
+    }
+    return messages;
+}
+
+TEST(Program, WithJsonErrorsAreJsonToo) {
+    FindProgram program;
+    const FindRun broken = program.run({"--json", program.file("Käfer.json", "{\"games\": [\n    \"abc\n]}")});
+    EXPECT_EQ(broken.exitStatus, 2);
+    EXPECT_EQ(errorsOf(broken), QStringList{"unterminated string"});
+    const QJsonObject error = QJsonDocument::fromJson(broken.output.toUtf8())["errors"][0].toObject();
+    EXPECT_TRUE(error["file"].toString().endsWith("Käfer.json"));
+    EXPECT_EQ(error["line"].toInt(), 2);
+    EXPECT_EQ(error["column"].toInt(), 5);
+
+    const FindRun wrong = program.run({"runtimes", "--json", "--jason"});
+    EXPECT_EQ(wrong.exitStatus, 2);
+    EXPECT_EQ(errorsOf(wrong), QStringList{"unknown option \"--jason\"; did you mean \"--json\"?"});
+
+    EXPECT_EQ(errorsOf(program.run({"--json", "locate", "Käfer", "D:\\X"})), QStringList{"--json: not with locate"});
+    EXPECT_EQ(errorsOf(program.run({"--json", "forget", "Käfer"})), QStringList{"--json: not with forget"});
+
+    program.setFakeMode("no memory");
+    EXPECT_EQ(errorsOf(program.run({"--json", "runtimes"})), QStringList{"out of memory"});
+}
+
+TEST(Program, WithJsonAnswersAndErrorsAreOneObject) {
+    if (!worldKnowsRecordings()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    const FindProgram program;
+    program.file("pc/pc.json", "{");
+    const FindRun run = program.run({"--json", "--pc", program.folder() + "/pc", program.file("games.json", twoGames)});
+    EXPECT_EQ(run.exitStatus, 2);
+    EXPECT_EQ(errorsOf(run).size(), 1) << run.output.toStdString();
+    EXPECT_EQ(QJsonDocument::fromJson(run.output.toUtf8())["games"].toArray().size(), 2);
+}
+
+TEST(Program, AWordThatIsNearlyACommandIsTakenForOne) {
+    const FindProgram program;
+    expectRefusal(program.run({"recrod", "my-pc"}), "unknown command \"recrod\"; did you mean \"record\"?");
+    const FindRun run = program.run({"runtime"});
+    EXPECT_EQ(run.exitStatus, 2);
+    EXPECT_TRUE(run.errors.endsWith("; did you mean \"runtimes\"?\n")) << run.errors.toStdString();
 }
 
 TEST(Program, WrongArgumentsAreRefused) {
     const FindProgram program;
     const QString catalogue = program.file("games.json", twoGames);
-    expectRefusal(program.run({""}), "the name of the catalogue is empty");
+    expectRefusal(program.run({""}), "CATALOGUE is empty");
     expectRefusal(program.run({catalogue, "zwölf"}), "surplus argument \"zwölf\"");
-    expectRefusal(program.run({catalogue, "--jason"}), "Unknown option 'jason'.");
-    expectRefusal(program.run({catalogue, "--game"}), "Missing value after '--game'.");
-    expectRefusal(program.run({catalogue, "--json=x"}), "Unexpected value after '--json'.");
-    expectRefusal(program.run({catalogue, "--pc", ""}), "--pc: the value is empty");
-    expectRefusal(program.run({catalogue, "--plugin="}), "--plugin: the value is empty");
+    expectRefusal(program.run({catalogue, "--jason"}), "unknown option \"--jason\"; did you mean \"--json\"?");
+    expectRefusal(program.run({catalogue, "--game"}), "--game: NAME is missing");
+    expectRefusal(program.run({catalogue, "--json=x"}), "--json takes no value");
+    expectRefusal(program.run({catalogue, "--pc", ""}), "--pc is empty");
+    expectRefusal(program.run({catalogue, "--plugin="}), "--plugin is empty");
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
 
 TEST(Program, WrongCommandsAreRefused) {
     const FindProgram program;
-    expectRefusal(program.run({"locate"}), "locate: the key is missing");
-    expectRefusal(program.run({"locate", "Käfer"}), "locate: the folder is missing");
-    expectRefusal(program.run({"locate", " ", "D:\\X"}), "the key is empty");
-    expectRefusal(program.run({"locate", "Käfer", ""}), "the folder is empty");
-    expectRefusal(program.run({"locate", "Käfer", "D:\\X", ""}), "the name of the catalogue is empty");
+    expectRefusal(program.run({"locate"}), "locate: KEY is missing");
+    expectRefusal(program.run({"locate", "Käfer"}), "locate: FOLDER is missing");
+    expectRefusal(program.run({"locate", " ", "D:\\X"}), "KEY is empty");
+    expectRefusal(program.run({"locate", "Käfer", ""}), "FOLDER is empty");
+    expectRefusal(program.run({"locate", "Käfer", "D:\\X", ""}), "CATALOGUE is empty");
     expectRefusal(program.run({"locate", "Käfer", "D:\\X", "games.json", "zwölf"}), "surplus argument \"zwölf\"");
-    expectRefusal(program.run({"forget"}), "forget: the key is missing");
+    expectRefusal(program.run({"forget"}), "forget: KEY is missing");
     expectRefusal(program.run({"forget", "Käfer", "zwölf"}), "surplus argument \"zwölf\"");
     expectRefusal(program.run({"runtimes", "zwölf"}), "surplus argument \"zwölf\"");
     expectRefusal(program.run({"--game", "Käfer", "runtimes"}), "--game: not with runtimes");
-    expectRefusal(program.run({"--json", "locate", "Käfer", "D:\\X"}), "--json: not with locate");
-    expectRefusal(program.run({"--json", "forget", "Käfer"}), "--json: not with forget");
+    expectRefusal(program.run({"runtimes", "--game", "Käfer"}), "--game: not with runtimes");
+    expectRefusal(program.run({"games.json", "runtimes"}), "surplus argument \"games.json\"");
+    expectRefusal(program.run({"--plugin=", "runtimes"}), "--plugin is empty");
+    expectRefusal(program.run({"--pc", "-", "-"}), "standard input cannot be both the recorded PC and the catalogue");
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
 

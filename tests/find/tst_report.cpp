@@ -52,7 +52,9 @@ TEST(RenderTables, GamesFirstThenRuntimes) {
                                                          "Varjo             C:\\Varjo\n"
                                                          "OpenXR            not found\n"
                                                          "Oculus libraries  C:/a\n"
-                                                         "                  D:/b\n");
+                                                         "                  D:/b\n"
+                                                         "\n"
+                                                         "1 of 2 found\n");
 }
 
 TEST(RenderTables, WhatIsFoundAndWhatIsNotDifferInColourToo) {
@@ -82,7 +84,9 @@ TEST(RenderTables, OnANarrowTerminalTheGamesStandAboveTheirPlaces) {
                                                                    "Varjo             C:\\Varjo\n"
                                                                    "OpenXR            not found\n"
                                                                    "Oculus libraries  C:/a\n"
-                                                                   "                  D:/b\n");
+                                                                   "                  D:/b\n"
+                                                                   "\n"
+                                                                   "1 of 2 found\n");
 }
 
 TEST(RenderTables, WithoutGamesThereIsNoTableOfGames) {
@@ -92,9 +96,8 @@ TEST(RenderTables, WithoutGamesThereIsNoTableOfGames) {
 }
 
 TEST(RenderJson, SaysAllThatIsKnown) {
-    const QJsonDocument document = QJsonDocument::fromJson(renderJson(someAnswers()).toUtf8());
+    const QJsonDocument document(jsonOf(someAnswers()));
     const QJsonDocument expected = QJsonDocument::fromJson(R"({
-        "version": 1,
         "games": [
             {"name": "Käferrennen", "found": true, "installFolder": "D:\\Käfer",
              "launchCommand": "steam://launch/42/VR", "executablePath": "D:\\Käfer\\k.exe",
@@ -110,7 +113,7 @@ TEST(RenderJson, SaysAllThatIsKnown) {
 TEST(RenderJson, AListWithoutValuesStaysAList) {
     Answers answers;
     answers.runtimes = {{"L", "list", true, {}}};
-    const QJsonObject root = QJsonDocument::fromJson(renderJson(answers).toUtf8()).object();
+    const QJsonObject root = jsonOf(answers);
     EXPECT_TRUE(root["runtimes"]["list"].isArray());
     EXPECT_TRUE(root["games"].isArray());
 }

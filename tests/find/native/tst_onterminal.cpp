@@ -140,8 +140,9 @@ TEST(OnAFullDisk, AnswersThatCannotBeWrittenAreAFault) {
     FindProgram program;
     program.redirect("/dev/full", QString());
     const QString catalogue = program.file("games.json", twoGames);
-    for (const QStringList& arguments : {QStringList{catalogue}, QStringList{"--json", catalogue},
-                                         QStringList{"runtimes"}, QStringList{"forget", "x"}, QStringList{"--help"}}) {
+    for (const QStringList& arguments :
+         {QStringList{catalogue}, QStringList{"--json", catalogue}, QStringList{"runtimes"}, QStringList{"forget", "x"},
+          QStringList{"--help"}, QStringList{"--json", "--help"}}) {
         const FindRun run = program.run(arguments);
         EXPECT_EQ(run.exitStatus, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(run.errors, "luruludri-find: the answers could not be written\n")

@@ -34,8 +34,8 @@ TEST(Unpack, TellsWhatAFolderCannotHave) {
 TEST(Unpack, WrongUseIsRefused) {
     const FindProgram program;
     const QString refusal = "luruludri-find: %1\nluruludri-find: try luruludri-find --help\n";
-    EXPECT_EQ(program.run({"unpack"}).errors, refusal.arg("unpack: the name of the file is missing"));
-    EXPECT_EQ(program.run({"unpack", "a"}).errors, refusal.arg("unpack: the folder is missing"));
+    EXPECT_EQ(program.run({"unpack"}).errors, refusal.arg("unpack: FILE is missing"));
+    EXPECT_EQ(program.run({"unpack", "a"}).errors, refusal.arg("unpack: FOLDER is missing"));
     const QString games = program.file("games.json", R"({"games": []})");
     const FindRun run = program.run({"unpack", games, program.folder() + "/pc"});
     EXPECT_EQ(run.errors, "luruludri-find: " + games + ": no recorded PC here\n");

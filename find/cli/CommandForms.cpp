@@ -1,0 +1,117 @@
+#include "find/cli/CommandForms.h"
+
+#include <algorithm>
+
+namespace Find {
+
+namespace {
+
+const Switch game{"--game", "NAME", "Ask for this game only, letter case ignored.\nCan be given several times.",
+                  &Options::games};
+const Switch json{"--json", nullptr, "Print JSON (docs/json.md), faults included.", &Options::json};
+const Switch all{"--all", nullptr, "Leave out nothing of long lists.", &Options::all};
+const Switch keepNames{"--keep-names", nullptr, "Leave the user's and the PC's names as they are.",
+                       &Options::keepNames};
+const Switch pc{"--pc", "PC",
+                "Answer from this recorded PC, a file or a folder,\nand name what is wrong with it; - reads it from\n"
+                "standard input.",
+                &Options::pc, true};
+const Switch plugin{"--plugin", "FILE", "Load this plug-in instead of the one beside\nthe program.", &Options::plugin,
+                    true};
+
+const Operand catalogue{"CATALOGUE",
+                        "The file that lists the games (docs/catalogue.md);\nthe one beside the program unless given; "
+                        "- reads it\nfrom standard input.",
+                        &Options::catalogue};
+const Operand key{"KEY", "The key of the game's userProvidedLocation finder.", &Options::key, true};
+
+std::vector<CommandForm> makeForms() {
+    return {
+        {Command::FindGames,
+         "find",
+         "Ask for the games of a catalogue and for the VR runtimes,\nas is done without a command.",
+         {catalogue},
+         {&game, &json, &pc, &plugin},
+         "luruludri-find find --json --game \"Lantern Harbour\" my-games.json"},
+        {Command::Runtimes,
+         "runtimes",
+         "Ask for the VR runtimes only.",
+         {},
+         {&json, &pc, &plugin},
+         "luruludri-find runtimes --json"},
+        {Command::Explain,
+         "explain",
+         "Tell why a game was found or not: what each finder looked\nfor, what it saw, why it went on.",
+         {{"NAME", "The game's name in the catalogue, letter case ignored.", &Options::name, true}, catalogue},
+         {&all, &pc, &plugin},
+         "luruludri-find explain \"Lantern Harbour\""},
+        {Command::Record,
+         "record",
+         "Record what finders use of this PC into a new file\n(docs/recorded-pc.md), so that it can be looked "
+         "at\nelsewhere.",
+         {{"FILE",
+           "The new file, or the folder for it. Named after the day\nunless given: on the Desktop under "
+           "Windows, elsewhere\nin the current folder.",
+           &Options::folder},
+          catalogue},
+         {&keepNames, &pc, &plugin},
+         "luruludri-find record my-pc"},
+        {Command::Report,
+         "report",
+         "Make a page of the answers, a new file for a browser, which\ncarries a recording.",
+         {{"FILE",
+           "The new file, or the folder for it. Named after the day\nunless given: on the Desktop under "
+           "Windows, elsewhere\nin the current folder.",
+           &Options::folder},
+          catalogue},
+         {&keepNames, &pc, &plugin},
+         "luruludri-find report my-pc.html"},
+        {Command::Unpack,
+         "unpack",
+         "Make a folder of a recording, to look at it or to\nchange it.",
+         {{"FILE", "The recording.", &Options::file, true},
+          {"FOLDER", "A folder that is new or empty.", &Options::folder, true}},
+         {},
+         "luruludri-find unpack my-pc.json my-pc"},
+        {Command::Locate,
+         "locate",
+         "Remember in the user's settings which folder has the\ngame of a key.",
+         {key,
+          {"FOLDER", "The game's folder, or the one within that holds\nits executables.", &Options::folder, true},
+          catalogue},
+         {&pc, &plugin},
+         "luruludri-find locate moosgarten \"D:\\Games\\Moosgarten\""},
+        {Command::Forget,
+         "forget",
+         "Forget which folder has the game of a key.",
+         {key},
+         {&pc, &plugin},
+         "luruludri-find forget moosgarten"},
+    };
+}
+
+} // namespace
+
+const std::vector<CommandForm>& commandForms() {
+    static const std::vector<CommandForm> forms = makeForms();
+    return forms;
+}
+
+QStringList commandNames() {
+    QStringList names;
+    for (const CommandForm& form : commandForms()) {
+        names.append(QLatin1String(form.name));
+    }
+    return names;
+}
+
+const std::vector<const Switch*>& allSwitches() {
+    static const std::vector<const Switch*> switches = {&game, &all, &keepNames, &json, &pc, &plugin};
+    return switches;
+}
+
+bool hasSwitch(const CommandForm& form, const Switch& aSwitch) {
+    return std::find(form.switches.begin(), form.switches.end(), &aSwitch) != form.switches.end();
+}
+
+} // namespace Find
