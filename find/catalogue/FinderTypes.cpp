@@ -1,8 +1,8 @@
 #include "find/catalogue/FinderTypes.h"
 
 #include "core/IGameFinderFactory.h"
+#include "find/catalogue/Inventory.h"
 #include "find/pc/AnsweringPc.h"
-#include "find/record/Inventory.h"
 #include "trace/Events.h"
 
 #include <QLatin1String>

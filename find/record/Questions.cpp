@@ -3,10 +3,10 @@
 #include "core/GameLocation.h"
 #include "core/IGameFinderFactory.h"
 #include "find/catalogue/FinderTypes.h"
+#include "find/catalogue/IndexEntries.h"
+#include "find/catalogue/Inventory.h"
 #include "find/cli/Progress.h"
 #include "find/pc/AnsweringPc.h"
-#include "find/record/IndexEntries.h"
-#include "find/record/Inventory.h"
 #include "find/record/Probe.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "TestTrace.h"
 
-#include "find/record/IndexEntries.h"
+#include "find/catalogue/IndexEntries.h"
 #include "find/record/PcFacts.h"
 #include "recordings/WindowsNames.h"
 

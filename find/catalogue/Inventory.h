@@ -1,7 +1,7 @@
 #pragma once
 
 #include "find/catalogue/Catalogue.h"
-#include "find/record/IndexEntries.h"
+#include "find/catalogue/IndexEntries.h"
 
 #include <QStringList>
 

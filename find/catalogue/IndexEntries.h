@@ -1,6 +1,6 @@
 #pragma once
 
-#include "find/explain/TraceReader.h"
+#include "trace/Events.h"
 
 #include <QString>
 
@@ -18,7 +18,7 @@ struct IndexEntry {
 /// The lists of what is installed, as a trace tells of them.
 class IndexEntries {
 public:
-    explicit IndexEntries(const TraceEvents& events);
+    explicit IndexEntries(const std::vector<Trace::Event>& events);
 
     /// The entries of the list of that name (Trace::IndexName), each once; empty when it was not made.
     std::vector<IndexEntry> of(const char* index) const;

@@ -1,4 +1,4 @@
-#include "find/record/IndexEntries.h"
+#include "find/catalogue/IndexEntries.h"
 
 #include <algorithm>
 
@@ -15,9 +15,9 @@ void addNew(std::vector<IndexEntry>& entries, const IndexEntry& entry, IsSame is
 
 } // namespace
 
-IndexEntries::IndexEntries(const TraceEvents& events) {
+IndexEntries::IndexEntries(const std::vector<Trace::Event>& events) {
     QString index; // the list that is being made
-    for (const TraceEvent& event : events) {
+    for (const Trace::Event& event : events) {
         const auto* const entry = std::get_if<Trace::Entry>(&event);
         if (const auto* const begin = std::get_if<Trace::IndexBegin>(&event)) {
             index = begin->name;
