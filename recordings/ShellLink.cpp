@@ -2,6 +2,7 @@
 
 #include "recordings/ByteView.h"
 #include "recordings/DrivePath.h"
+#include "recordings/ShellItems.h"
 #include "recordings/WindowsNames.h"
 #include "recordings/WindowsPath.h"
 
@@ -43,7 +44,7 @@ public:
     bool read(ShellLink& link);
 
 private:
-    bool skipItemList();
+    bool readItemList(ShellLink& link);
     bool readLinkInfo(ShellLink& link);
     bool readText(QString& text);
     bool readTexts(ShellLink& link);
@@ -65,7 +66,7 @@ bool Reader::read(ShellLink& link) {
         return false;
     }
     m_flags = m_bytes.number32(flagsOffset).value_or(0);
-    if ((has(hasItemList) && !skipItemList()) || (has(hasLinkInfo) && !readLinkInfo(link)) || !readTexts(link)) {
+    if ((has(hasItemList) && !readItemList(link)) || (has(hasLinkInfo) && !readLinkInfo(link)) || !readTexts(link)) {
         return false;
     }
     if (has(hasExpandable)) {
@@ -74,10 +75,15 @@ bool Reader::read(ShellLink& link) {
     return true;
 }
 
-bool Reader::skipItemList() {
+bool Reader::readItemList(ShellLink& link) {
     const std::optional<quint16> size = m_bytes.number16(m_position);
-    m_position += 2 + size.value_or(0);
-    return size.has_value() && m_position <= m_bytes.size();
+    const std::optional<ByteView> items = size ? m_bytes.part(m_position + 2, *size) : std::nullopt;
+    if (!items) {
+        return false;
+    }
+    link.itemPath = pathOfShellItems(*items);
+    m_position += 2 + *size;
+    return true;
 }
 
 // A text of the link information, whose offset stands at `ansi` or, where there is one in UTF-16, at `wide`.
@@ -203,7 +209,7 @@ std::optional<ShellLink> parseShellLink(const QByteArray& bytes, int codePage) {
 
 QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, const QString& folder) {
     QString target = expanded(link.expandable, environment);
-    for (const QString& path : {link.localPath, link.networkPath}) {
+    for (const QString& path : {link.localPath, link.networkPath, link.itemPath}) {
         if (target.isEmpty()) {
             target = path;
         }

@@ -15,6 +15,7 @@ struct ShellLink {
     QString expandable;  ///< may hold environment variables, "%ProgramFiles%\X\X.exe"
     QString localPath;   ///< "C:\Games\X\X.exe"
     QString networkPath; ///< "\\server\share\X.exe"
+    QString itemPath;    ///< "C:\Games\X\X.exe", as the list of shell items has it
     QString relativePath;
 };
 
@@ -29,5 +30,8 @@ QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, 
 /// The contents of a shortcut file to a local target, as the shell writes it: a header and the link information with
 /// the path in ANSI and in Unicode. Tells nothing else: no dates, no names of the machine and its volumes.
 QByteArray renderShellLink(const QString& target);
+
+/// The same with a list of shell items in place of the link information. Empty when the target is not on a drive.
+QByteArray renderShellLinkOfItems(const QString& target);
 
 } // namespace Recordings

@@ -99,6 +99,89 @@ TEST(ShellLinkTest, ReadsANetworkPath) {
     EXPECT_EQ(target(header(0x02) + networkInfo("\\\\server\\share", "")), "//server/share");
 }
 
+// Shell items
+
+QByteArray item(const QByteArray& contents) {
+    return shortNumber(contents.size() + 2) + contents;
+}
+
+const QByteArray myComputer = item(QByteArray::fromHex("1f50e04fd020ea3a6910a2d808002b30309d"));
+const QByteArray driveD = item(QByteArray("/D:\\").leftJustified(23, '\0'));
+const QByteArray folderGames = item(QByteArray("\x31").leftJustified(10, '\0') + shortNumber(0x10) + "Games" + '\0');
+
+/// An item with a short name, and the long one in a block in which it stands at the offset.
+QByteArray fileItem(char type, const QByteArray& shortName, const QString& name, int nameOffset = 20) {
+    const QByteArray head = QByteArray(1, type).leftJustified(10, '\0') + shortNumber(0x20) + shortName;
+    const QByteArray padded = head + QByteArray(2 - head.size() % 2, '\0');
+    const QByteArray block = shortNumber(9) + number(0xBEEF0004) + QByteArray(8, '\x7F') + shortNumber(nameOffset);
+    const QByteArray rest = block.leftJustified(nameOffset - 2, '\x7F') + wide(name) + shortNumber(padded.size() + 2);
+    return item(padded + item(rest));
+}
+
+/// A shortcut that has nothing but these items.
+QByteArray ofItems(const QByteArray& items) {
+    return header(0x81) + shortNumber(items.size() + 2) + items + shortNumber(0);
+}
+
+TEST(ShellLinkTest, FollowsAListOfItems) {
+    EXPECT_EQ(target(ofItems(myComputer + driveD + folderGames + fileItem('\x32', "KÄ~1.EXE", "Käfer 競走 🎮.exe"))),
+              "D:/Games/Käfer 競走 🎮.exe");
+    EXPECT_EQ(target(ofItems(myComputer + driveD)), "D:/");
+    EXPECT_EQ(target(ofItems(myComputer + driveD + folderGames)), "D:/Games");
+}
+
+TEST(ShellLinkTest, FollowsItemsOfEachWindows) {
+    for (const int nameOffset : {20, 38, 42, 46}) { // XP, Vista, 7, 8.1 and later
+        const QByteArray file = fileItem('\x32', "LONGNA~1.EXE", "long name.exe", nameOffset);
+        EXPECT_EQ(target(ofItems(myComputer + driveD + file)), "D:/long name.exe") << nameOffset;
+    }
+    const QByteArray wideName = QByteArray("\x36").leftJustified(10, '\0') + shortNumber(0x20) + wide("ä.exe");
+    EXPECT_EQ(target(ofItems(myComputer + driveD + item(wideName))), "D:/ä.exe");
+}
+
+TEST(ShellLinkTest, PrefersItemsToARelativePathOnly) {
+    const QByteArray items = shortNumber((myComputer + driveD).size() + 2) + myComputer + driveD + shortNumber(0);
+    EXPECT_EQ(target(header(0x03) + items + ansiInfo("C:\\x.exe", "")), "C:/x.exe");
+    EXPECT_EQ(target(header(0x89) + items + text("y.exe")), "D:/");
+}
+
+TEST(ShellLinkTest, ItemsThatAreNoFileLeadNowhere) {
+    const QByteArray file = fileItem('\x32', "X.EXE", "x.exe");
+    EXPECT_EQ(target(ofItems("")), "");
+    EXPECT_EQ(target(ofItems(myComputer)), "");
+    EXPECT_EQ(target(ofItems(driveD + file)), "") << "no My Computer";
+    EXPECT_EQ(target(ofItems(QByteArray(myComputer).replace(4, 1, "x") + driveD)), "") << "another root";
+    EXPECT_EQ(target(ofItems(myComputer + QByteArray(driveD).replace(2, 1, ".") + file)), "") << "no drive";
+    EXPECT_EQ(target(ofItems(myComputer + QByteArray(driveD).replace(3, 1, "1") + file)), "") << "no letter";
+    EXPECT_EQ(target(ofItems(myComputer + QByteArray(driveD).replace(6, 1, "x") + file)), "") << "more than a drive";
+    EXPECT_EQ(target(ofItems(myComputer + driveD + driveD)), "");
+    EXPECT_EQ(target(ofItems(myComputer + driveD + file + file)), "") << "something in a file";
+    EXPECT_EQ(target(ofItems(myComputer + driveD + fileItem('\x32', "X", "a\\b"))), "") << "no name";
+    EXPECT_EQ(target(ofItems(myComputer + driveD + fileItem('\x32', "X", ".."))), "");
+    EXPECT_EQ(target(ofItems(myComputer + driveD + fileItem('\x32', "", ""))), "");
+    EXPECT_EQ(target(ofItems(myComputer + driveD + fileItem('\x30', "X", "x"))), "") << "neither file nor folder";
+}
+
+TEST(ShellLinkTest, DamagedItemsCostOnlyThemselves) {
+    const QByteArray file = fileItem('\x32', "X.EXE", "long.exe");
+    const auto beside = [](const QByteArray& items) {
+        return target(header(0x03) + shortNumber(items.size()) + items + ansiInfo("C:\\x.exe", ""));
+    };
+    EXPECT_EQ(beside("12345"), "C:/x.exe");
+    EXPECT_EQ(beside(myComputer + driveD + file.left(file.size() - 1)), "C:/x.exe");
+    EXPECT_EQ(target(header(0x81) + shortNumber((myComputer + driveD).size()) + myComputer + driveD), "") << "no end";
+    EXPECT_EQ(target(ofItems(myComputer + driveD + shortNumber(2))), "") << "an item without a type";
+}
+
+TEST(ShellLinkTest, SurvivesDamagedItems) {
+    const QByteArray whole = ofItems(myComputer + driveD + folderGames + fileItem('\x32', "X.EXE", "long.exe"));
+    for (int position = 0x4C; position + 2 <= whole.size(); ++position) {
+        for (const int wrong : {0, 1, 2, 3, 0x7FFF, 0xFFFF}) {
+            parseShellLink(QByteArray(whole).replace(position, 2, shortNumber(wrong)));
+        }
+    }
+}
+
 TEST(ShellLinkTest, SkipsTheItemList) {
     EXPECT_EQ(target(header(0x03) + shortNumber(5) + "12345" + ansiInfo("C:\\x.exe", "")), "C:/x.exe");
 }

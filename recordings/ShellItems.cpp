@@ -1,0 +1,161 @@
+#include "recordings/ShellItems.h"
+
+#include "recordings/AnsiText.h"
+#include "recordings/DrivePath.h"
+#include "recordings/Utf16Text.h"
+
+#include <QStringList>
+#include <QtEndian>
+
+#include <vector>
+
+namespace Recordings {
+
+namespace {
+
+// An item is its size, which counts itself, a type, and what the type says; an empty one ends the list.
+constexpr qint64 typeOffset = 2;
+constexpr int rootType = 0x1F;
+constexpr int classMask = 0x70; // of a type
+constexpr int driveClass = 0x20;
+constexpr int hasNameFlag = 0x01;
+constexpr int fileClass = 0x30;
+constexpr int isFolderFlag = 0x01;
+constexpr int isFileFlag = 0x02;
+constexpr int isWideFlag = 0x04;
+
+constexpr qint64 rootIdOffset = 4;
+const char myComputer[] = "\xE0\x4F\xD0\x20\xEA\x3A\x69\x10\xA2\xD8\x08\x00\x2B\x30\x30\x9D";
+constexpr int idSize = 16;
+
+constexpr qint64 driveNameOffset = 3;
+constexpr int driveItemSize = 25;
+
+// A file's item: its size, dates and attributes, its short name, and a block with its name in UTF-16, whose offset is
+// the item's last number. Before Windows XP it had no block, and the long name stood in place of the short one.
+constexpr qint64 shortNameOffset = 14;
+constexpr quint32 nameBlock = 0xBEEF0004;
+constexpr qint64 blockTypeOffset = 4;
+constexpr qint64 blockNameOffset = 16; // where the block says where its name is
+constexpr qint64 blockHeaderSize = 20; // of version 3; later ones tell more
+constexpr quint16 blockVersion = 3;
+
+constexpr char myComputerOrder = 0x50; // among the items of the desktop
+
+int typeOf(const ByteView& item) {
+    return item.number16(typeOffset - 1).value_or(0) >> 8U;
+}
+
+std::vector<ByteView> itemsOf(const ByteView& list) {
+    std::vector<ByteView> items;
+    for (qint64 position = 0;;) {
+        const std::optional<quint16> size = list.number16(position);
+        const std::optional<ByteView> item = size ? list.part(position, *size) : std::nullopt;
+        if (!item || (*size > 0 && *size <= typeOffset)) {
+            return {};
+        }
+        if (*size == 0) {
+            return items;
+        }
+        items.push_back(*item);
+        position += *size;
+    }
+}
+
+bool isMyComputer(const ByteView& item) {
+    const std::optional<ByteView> id = item.part(rootIdOffset, idSize);
+    return typeOf(item) == rootType && id && id->isEqual(QByteArray::fromRawData(myComputer, idSize));
+}
+
+/// "C:"; empty for what is no drive.
+QString driveOf(const ByteView& item) {
+    const QString root = item.ansiText(driveNameOffset).value_or(QString());
+    const bool isDrive = (typeOf(item) & (classMask | hasNameFlag)) == (driveClass | hasNameFlag) && root.size() == 3 &&
+                         root.endsWith(QLatin1String(":\\")) && DrivePath::parse(root);
+    return isDrive ? root.left(2) : QString();
+}
+
+QString nameIn(const ByteView& item) {
+    const quint16 offset = item.number16(item.size() - 2).value_or(0);
+    const std::optional<ByteView> rest = item.part(offset, item.size() - offset);
+    const std::optional<ByteView> block = rest ? rest->part(0, rest->number16(0).value_or(0)) : std::nullopt;
+    if (offset > shortNameOffset && block && block->number32(blockTypeOffset) == nameBlock) {
+        return block->wideText(block->number16(blockNameOffset).value_or(0)).value_or(QString());
+    }
+    const bool isWide = (typeOf(item) & isWideFlag) != 0;
+    return (isWide ? item.wideText(shortNameOffset) : item.ansiText(shortNameOffset)).value_or(QString());
+}
+
+/// Empty for what is no file and no folder. What is below the item must be in a folder.
+QString nameOf(const ByteView& item, bool isLast) {
+    const int type = typeOf(item);
+    const bool isKind = (type & isFolderFlag) != 0 || ((type & isFileFlag) != 0 && isLast);
+    const QString name = (type & classMask) == fileClass && isKind ? nameIn(item) : QString();
+    return DrivePath::canName(name) ? name : QString();
+}
+
+// Writing
+
+QByteArray number16(int number) {
+    QByteArray bytes(2, Qt::Uninitialized);
+    qToLittleEndian(static_cast<quint16>(number), bytes.data());
+    return bytes;
+}
+
+QByteArray itemOf(const QByteArray& contents) {
+    return number16(contents.size() + 2) + contents;
+}
+
+QByteArray fileItem(const QString& name, bool isFolder) {
+    QByteArray contents;
+    contents += static_cast<char>(fileClass | (isFolder ? isFolderFlag : isFileFlag));
+    contents += QByteArray(9, '\0'); // no size, no date
+    contents += number16(isFolder ? 0x10 : 0x20) + toAnsi(name) + '\0';
+    if (contents.size() % 2 != 0) {
+        contents += '\0';
+    }
+    const QByteArray wide = toUtf16(name + QChar(u'\0'));
+    const int size = static_cast<int>(blockHeaderSize) + wide.size() + 2;
+    const int offset = contents.size() + 2;
+    contents += number16(size) + number16(blockVersion) + number16(nameBlock & 0xFFFF) + number16(nameBlock >> 16U);
+    contents += QByteArray(8, '\0') + number16(blockHeaderSize) + number16(0) + wide + number16(offset);
+    return itemOf(contents);
+}
+
+} // namespace
+
+QString pathOfShellItems(const ByteView& items) {
+    const std::vector<ByteView> list = itemsOf(items);
+    if (list.size() < 2 || !isMyComputer(list.front())) {
+        return {};
+    }
+    QStringList names{driveOf(list.at(1))};
+    for (std::size_t i = 2; i < list.size(); ++i) {
+        names.append(nameOf(list.at(i), i + 1 == list.size()));
+    }
+    if (names.contains(QString())) {
+        return {};
+    }
+    return names.size() == 1 ? names.first() + QLatin1Char('\\') : names.join(QLatin1Char('\\'));
+}
+
+QByteArray renderShellItems(const QString& path) {
+    const std::optional<DrivePath> parsed = DrivePath::parse(path);
+    if (!parsed || !parsed->isValid) {
+        return {};
+    }
+    QByteArray root;
+    root += static_cast<char>(rootType);
+    root += myComputerOrder;
+    const QByteArray drive = QByteArray(1, static_cast<char>(driveClass | 0x0F)) +
+                             static_cast<char>(parsed->letter.unicode()) + QByteArray(":\\");
+    QByteArray items =
+        itemOf(root + QByteArray(myComputer, idSize)) + itemOf(drive.leftJustified(driveItemSize - 2, '\0'));
+    for (int i = 0; i < parsed->names.size(); ++i) {
+        items += fileItem(parsed->names.at(i), i + 1 < parsed->names.size());
+    }
+    items += number16(0);
+    return items.size() <= 0xFFFF ? items : QByteArray();
+}
+
+} // namespace Recordings
