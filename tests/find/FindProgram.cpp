@@ -74,6 +74,21 @@ void FindProgram::setInput(const QByteArray& input) {
     m_inputFile = file(QStringLiteral("input"), input);
 }
 
+void FindProgram::runUntilItSearches(const QStringList& arguments,
+                                     const std::function<void(QProcess& process)>& end) const {
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.start(QStringLiteral(LURULUDRI_FIND),
+                  QStringList{QStringLiteral("--plugin"), QStringLiteral(LURULUDRI_FAKE_PLUGIN)} + arguments);
+    EXPECT_TRUE(process.waitForStarted(longestRunMs)) << process.errorString().toStdString();
+    while (process.state() != QProcess::NotRunning && !fakeLog().contains(QStringLiteral("searching"))) {
+        process.waitForFinished(10);
+    }
+    EXPECT_EQ(process.state(), QProcess::Running);
+    end(process);
+    EXPECT_TRUE(process.waitForFinished(longestRunMs));
+}
+
 void FindProgram::redirect(const QString& outputFile, const QString& errorFile) {
     m_outputFile = outputFile;
     m_errorFile = errorFile;

@@ -8,6 +8,10 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
+
+class QProcess;
+
 /// What one run of luruludri-find came to. Line ends are "\n" on every system.
 struct FindRun {
     int exitStatus = -1; ///< -1 when the program crashed or did not start
@@ -32,6 +36,9 @@ public:
 
     /// Runs with the fake plug-in.
     FindRun run(const QStringList& arguments) const;
+
+    /// Runs with the fake plug-in, in its mode "endless", until it searches; `end` then ends the run from outside.
+    void runUntilItSearches(const QStringList& arguments, const std::function<void(QProcess& process)>& end) const;
 
     /// Runs with nothing but the arguments.
     FindRun runBare(const QStringList& arguments) const;

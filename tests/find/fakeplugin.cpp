@@ -50,6 +50,10 @@ public:
     ~FakeFinder() override { note(QStringLiteral("~") + m_name.section(QLatin1Char('('), 0, 0)); }
 
     bool find(GameLocation& location) override {
+        if (isMode("endless")) {
+            note(QStringLiteral("searching"));
+            QThread::sleep(600); // until the test ends it
+        }
         if (isMode("slow") || isMode("slow and loud")) {
             QThread::msleep(50);
         }

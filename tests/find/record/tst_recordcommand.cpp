@@ -6,10 +6,14 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 
 namespace {
 
 constexpr const char* noGames = R"({"games": []})";
+
+constexpr const char* oneGame =
+    R"({"games": [{"name": "Wal", "finders": [{"type": "universalApp", "packageFamily": "Wal"}]}]})";
 
 QStringList filesIn(const QString& folder) {
     return QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
@@ -48,6 +52,20 @@ TEST(RecordCommand, APluginThatTellsNothingLeavesNoFile) {
     program.setFakeMode("no memory");
     EXPECT_EQ(program.run({"record", folder + "/pc", catalogue}).errors, "luruludri-find: out of memory\n");
     EXPECT_EQ(filesIn(folder), QStringList{"x"});
+}
+
+TEST(RecordCommand, AKillLeavesNothing) {
+    FindProgram program;
+    const QString catalogue = program.file("one.json", oneGame);
+    const QString folder = QFileInfo(program.file("new/x", "")).path();
+    const QString temporary = QFileInfo(program.file("temporary/x", "")).path();
+    program.setFakeMode("endless");
+    for (const char* const variable : {"TMPDIR", "TEMP", "TMP"}) {
+        program.setVariable(variable, QDir::toNativeSeparators(temporary));
+    }
+    program.runUntilItSearches({"record", folder + "/pc", catalogue}, [](QProcess& process) { process.kill(); });
+    EXPECT_EQ(filesIn(folder), QStringList{"x"});
+    EXPECT_EQ(filesIn(temporary), QStringList{"x"});
 }
 
 TEST(RecordCommand, EverythingIsGoneBeforeThePluginIs) {
