@@ -1,8 +1,10 @@
 #include "find/explain/EventText.h"
 
 #include "find/cli/OneLine.h"
+
 #include <QByteArray>
 
+#include <algorithm>
 #include <cstring>
 #include <variant>
 
@@ -11,11 +13,11 @@ namespace Find {
 namespace {
 
 QString quoted(const QString& text) {
-    return QLatin1Char('"') + oneLine(text) + QLatin1Char('"');
+    return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
 QString placeText(const Trace::KeyPlace& place) {
-    return QStringLiteral("%1\\%2 (%3-bit view)").arg(place.root, oneLine(place.key), QString::number(place.view));
+    return QStringLiteral("%1\\%2 (%3-bit view)").arg(place.root, place.key, QString::number(place.view));
 }
 
 QString errorText(quint32 error) {
@@ -62,13 +64,13 @@ QString counted(int count, const char* one, const char* many) {
 }
 
 QString textOrNone(const QString& text) {
-    return text.isEmpty() ? QStringLiteral("none") : oneLine(text);
+    return text.isEmpty() ? QStringLiteral("none") : text;
 }
 
 QStringList withNames(const QString& line, const QStringList& names) {
     QStringList lines{line};
     for (const QString& name : names) {
-        lines.append(QStringLiteral("    ") + oneLine(name));
+        lines.append(QStringLiteral("    ") + name);
     }
     return lines;
 }
@@ -81,7 +83,7 @@ QStringList linesOf(const Trace::Key& event) {
 }
 
 QStringList linesOf(const Trace::Value& event) {
-    const QString name = event.name.isEmpty() ? QStringLiteral("(default)") : oneLine(event.name);
+    const QString name = event.name.isEmpty() ? QStringLiteral("(default)") : event.name;
     if (event.error != 0) {
         return {QStringLiteral("    %1: %2").arg(name, errorText(event.error))};
     }
@@ -94,38 +96,37 @@ QStringList linesOf(const Trace::SubKeys& event) {
 }
 
 QStringList linesOf(const Trace::Exists& event) {
-    return {QStringLiteral("%1: %2").arg(oneLine(event.path),
-                                         event.found ? QStringLiteral("is there") : QStringLiteral("missing"))};
+    return {
+        QStringLiteral("%1: %2").arg(event.path, event.found ? QStringLiteral("is there") : QStringLiteral("missing"))};
 }
 
 QStringList linesOf(const Trace::List& event) {
     return withNames(
-        QStringLiteral("%1, files %2: %3").arg(oneLine(event.path), event.pattern, QString::number(event.names.size())),
+        QStringLiteral("%1, files %2: %3").arg(event.path, event.pattern, QString::number(event.names.size())),
         event.names);
 }
 
 QStringList linesOf(const Trace::Walk& event) {
     const QStringList names = event.folders + event.files;
-    return withNames(QStringLiteral("%1: %2").arg(oneLine(event.path), counted(names.size(), "entry", "entries")),
-                     names);
+    return withNames(QStringLiteral("%1: %2").arg(event.path, counted(names.size(), "entry", "entries")), names);
 }
 
 QStringList linesOf(const Trace::Read& event) {
-    return {QStringLiteral("file %1: %2").arg(oneLine(event.path), counted(event.bytes, "byte", "bytes"))};
+    return {QStringLiteral("file %1: %2").arg(event.path, counted(event.bytes, "byte", "bytes"))};
 }
 
 QStringList linesOf(const Trace::Shortcut& event) {
-    const QString target = event.target.isEmpty() ? QStringLiteral("nothing") : oneLine(event.target);
-    return {QStringLiteral("shortcut %1: leads to %2").arg(oneLine(event.path), target)};
+    const QString target = event.target.isEmpty() ? QStringLiteral("nothing") : event.target;
+    return {QStringLiteral("shortcut %1: leads to %2").arg(event.path, target)};
 }
 
 QStringList linesOf(const Trace::ShellFolder& event) {
-    const QString path = event.path.isEmpty() ? QStringLiteral("there is none") : oneLine(event.path);
+    const QString path = event.path.isEmpty() ? QStringLiteral("there is none") : event.path;
     return {QStringLiteral("shell folder %1: %2").arg(QString::number(event.csidl), path)};
 }
 
 QStringList linesOf(const Trace::Volume& event) {
-    return {QStringLiteral("drive %1: volume %2").arg(event.drive, oneLine(event.name))};
+    return {QStringLiteral("drive %1: volume %2").arg(event.drive, event.name)};
 }
 
 QStringList linesOf(const Trace::Environment& event) {
@@ -133,16 +134,16 @@ QStringList linesOf(const Trace::Environment& event) {
 }
 
 QStringList linesOf(const Trace::Package& event) {
-    const QString family = oneLine(event.family);
+    const QString& family = event.family;
     if (!event.supported) {
         return {QStringLiteral("app package %1: this Windows knows no app packages").arg(family)};
     }
     if (event.fullName.isEmpty()) {
         return {QStringLiteral("app package %1: not installed").arg(family)};
     }
-    const QString application = event.applicationIds.isEmpty() ? QStringLiteral("without an application")
-                                                               : oneLine(event.applicationIds.constFirst());
-    return {QStringLiteral("app package %1: %2, %3").arg(family, oneLine(event.fullName), application)};
+    const QString application =
+        event.applicationIds.isEmpty() ? QStringLiteral("without an application") : event.applicationIds.constFirst();
+    return {QStringLiteral("app package %1: %2, %3").arg(family, event.fullName, application)};
 }
 
 QStringList linesOf(const Trace::UserLocation& event) {
@@ -150,11 +151,11 @@ QStringList linesOf(const Trace::UserLocation& event) {
 }
 
 QStringList linesOf(const Trace::Log& event) {
-    return {QStringLiteral("log: ") + oneLine(event.text)};
+    return {QStringLiteral("log: ") + event.text};
 }
 
 QStringList linesOf(const Trace::Note& event) {
-    return {QStringLiteral("* ") + oneLine(event.text)};
+    return {QStringLiteral("* ") + event.text};
 }
 
 // These tell of the search, not of the PC.
@@ -186,7 +187,9 @@ QStringList linesOf(const Trace::IndexEnd&) {
 } // namespace
 
 QStringList describeEvent(const TraceEvent& event) {
-    return std::visit([](const auto& one) { return linesOf(one); }, event);
+    QStringList lines = std::visit([](const auto& one) { return linesOf(one); }, event);
+    std::transform(lines.begin(), lines.end(), lines.begin(), oneLine);
+    return lines;
 }
 
 bool isOfLogLevel(const TraceEvent& event) {

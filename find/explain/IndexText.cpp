@@ -71,7 +71,8 @@ QStringList describeIndex(const TraceSection& index, const QStringList& words) {
         brief += inBrief(block, words, leftOut);
     }
     const bool isBrief = !words.isEmpty() && all.size() > mostLines && leftOut > 0;
-    QStringList lines{QStringLiteral("The list %1 is made:").arg(index.name)};
+    const QString name = oneLine(index.name);
+    QStringList lines{QStringLiteral("The list %1 is made:").arg(name)};
     const QStringList& shown = isBrief ? brief : all;
     for (const QString& line : shown) {
         lines.append(QStringLiteral("  ") + line);
@@ -80,8 +81,8 @@ QStringList describeIndex(const TraceSection& index, const QStringList& words) {
         lines.append(QStringLiteral("  … and %1 lines about others (--all shows them)").arg(leftOut));
     }
     lines.append(QStringLiteral("The list %1 has %2.")
-                     .arg(index.name, index.entries == 1 ? QStringLiteral("1 entry")
-                                                         : QStringLiteral("%1 entries").arg(index.entries)));
+                     .arg(name, index.entries == 1 ? QStringLiteral("1 entry")
+                                                   : QStringLiteral("%1 entries").arg(index.entries)));
     return lines;
 }
 
@@ -94,8 +95,7 @@ QStringList similarNames(const TraceSection& section, const QStringList& words) 
         }
         const auto* const entry = std::get_if<Trace::Entry>(&std::get<TraceEvent>(part));
         if (entry != nullptr && mentions(entry->name, words)) {
-            names.append(
-                QStringLiteral("%1: \"%2\", %3").arg(section.name, oneLine(entry->name), oneLine(entry->folder)));
+            names.append(oneLine(QStringLiteral("%1: \"%2\", %3").arg(section.name, entry->name, entry->folder)));
         }
     }
     names.removeDuplicates();

@@ -68,4 +68,20 @@ TEST(EventText, SaysNothingOfWhatTellsOfTheSearch) {
     }
 }
 
+TEST(EventText, HasALineForEachEventWhateverItsTextsHold) {
+    const QByteArray hostile = R"("a\n\u001b[31m\u009b\u2028b")";
+    const QString shown = "a  [31m  b";
+    const QByteArray place = "\"root\":" + hostile + ",\"view\":64,\"key\":" + hostile;
+    const auto tell = [&](const QByteArray& event, const QByteArray& fields) {
+        return describe("{\"event\":\"" + event + "\"," + fields + "}").join("|");
+    };
+    EXPECT_EQ(tell("key", place), "registry key " + shown + "\\" + shown + " (64-bit view)");
+    EXPECT_EQ(tell("list", "\"path\":" + hostile + ",\"pattern\":" + hostile + ",\"names\":[" + hostile + "]"),
+              shown + ", files " + shown + ": 1|    " + shown);
+    EXPECT_EQ(tell("volume", "\"drive\":" + hostile + ",\"name\":" + hostile), "drive " + shown + ": volume " + shown);
+    EXPECT_EQ(tell("environment", "\"name\":" + hostile + ",\"value\":" + hostile),
+              "environment variable " + shown + ": " + shown);
+    EXPECT_EQ(tell("note", "\"text\":" + hostile), "* " + shown);
+}
+
 } // namespace
