@@ -36,6 +36,21 @@ Mustache::data listData(const Items& items, MakeData makeData) {
     return list;
 }
 
+/// Rows in groups, of which a browser lays out only those that are seen.
+template <class Items, class MakeData>
+Mustache::data groupsData(const Items& items, MakeData makeData) {
+    constexpr std::size_t rowsOfGroup = 50;
+    Mustache::list groups;
+    for (std::size_t first = 0; first < items.size(); first += rowsOfGroup) {
+        Mustache::list rows;
+        for (std::size_t i = first; i < std::min(items.size(), first + rowsOfGroup); ++i) {
+            rows.push_back(makeData(items[i]));
+        }
+        groups.push_back(Mustache::data("rows", rows));
+    }
+    return groups;
+}
+
 Mustache::data textsData(const QStringList& texts) {
     return listData(texts, [](const QString& text) { return Mustache::data("text", textData(text)); });
 }
@@ -205,11 +220,12 @@ void addOrigin(const ReportOrigin& origin, Mustache::data& page) {
 }
 
 void addTables(const ReportData& report, Mustache::data& page) {
-    page["games"] = listData(report.games, gameData);
+    page["gameGroups"] = groupsData(report.games, gameData);
     page["finderNames"] =
         listData(finderNamesOf(report), [](const QString& name) { return Mustache::data("name", textData(name)); });
     page["runtimes"] = listData(report.runtimes, runtimeData);
-    page["others"] = listData(report.others, otherData);
+    page["otherGroups"] = groupsData(report.others, otherData);
+    page["hasOthers"] = !report.others.empty();
     page["faults"] = textsData(report.faults);
     page["lists"] = listData(report.lists, madeListData);
     page["contents"] = listData(report.contents, amountData);
@@ -224,24 +240,34 @@ void addOwn(const char* name, const char* hashName, const char* file, Mustache::
     page[hashName] = hashOf(text);
 }
 
-} // namespace
-
-QString withControlPictures(const QString& text) {
+QChar pictureOf(QChar character) {
     constexpr ushort firstPicture = 0x2400;
     constexpr ushort deleteCharacter = 0x7F;
     constexpr ushort pictureOfDelete = 0x2421;
     constexpr ushort pictureOfNewline = 0x2424;
+    const ushort unit = character.unicode();
+    if (unit < u' ') {
+        return {static_cast<ushort>(firstPicture + unit)};
+    }
+    if (unit == deleteCharacter) {
+        return {pictureOfDelete};
+    }
+    if (unit == QChar::LineSeparator || unit == QChar::ParagraphSeparator) {
+        return {pictureOfNewline};
+    }
+    const bool isUnseen = character.category() == QChar::Other_Control || character.isSurrogate();
+    return isUnseen ? QChar(QChar::ReplacementCharacter) : character;
+}
+
+} // namespace
+
+QString withControlPictures(const QString& text) {
     QString shown = text;
-    for (QChar& character : shown) {
-        const ushort unit = character.unicode();
-        if (unit < u' ') {
-            character = QChar(static_cast<ushort>(firstPicture + unit));
-        } else if (unit == deleteCharacter) {
-            character = QChar(pictureOfDelete);
-        } else if (unit == QChar::LineSeparator || unit == QChar::ParagraphSeparator) {
-            character = QChar(pictureOfNewline);
-        } else if (character.category() == QChar::Other_Control) {
-            character = QChar(QChar::ReplacementCharacter);
+    for (int i = 0; i < shown.size(); ++i) {
+        if (shown.at(i).isHighSurrogate() && i + 1 < shown.size() && shown.at(i + 1).isLowSurrogate()) {
+            ++i;
+        } else {
+            shown[i] = pictureOf(shown.at(i));
         }
     }
     return shown;

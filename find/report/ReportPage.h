@@ -20,7 +20,8 @@ struct ReportOrigin {
 /// `recording` is the text of the recorded PC that it carries. Whatever is in the texts, they stay texts.
 QByteArray renderReportPage(const ReportData& data, const ReportOrigin& origin, const QByteArray& recording);
 
-/// The text with a picture in the place of each control character, which HTML doesn't take or nobody would see.
+/// The text with a picture in the place of each control character, which HTML doesn't take or nobody would see, and the
+/// replacement character in that of half a pair.
 QString withControlPictures(const QString& text);
 
 } // namespace Find

@@ -19,16 +19,22 @@ class List {
         this.table = document.getElementById(id + '-table');
         this.count = document.getElementById(id + '-count');
         this.none = document.getElementById(id + '-none');
-        this.body = this.table.tBodies[0];
+        this.groups = [...this.table.tBodies];
         // Prepared once, so that a key press only compares.
-        this.rows = [...this.body.rows].map((row, place) => ({
+        this.entries = this.groups.flatMap(group => [...group.rows].map(row => ({
             row,
-            place,
+            group,
             text: folded([...row.cells].map(textOf).join('\n')),
             state: row.dataset.state,
             finders: [...row.querySelectorAll('.finders span')].map(finder => finder.textContent),
-            isShown: true,
-        }));
+            isShown: !row.hidden, // a page that was saved while it was filtered
+        })));
+        // Not in the elements' own styles, which the page's policy forbids where a page is saved with them.
+        this.heights = new CSSStyleSheet();
+        this.groups.forEach((group, number) => {
+            this.heights.insertRule(`#${this.table.id} tbody:nth-of-type(${number + 1}) {}`, number);
+        });
+        document.adoptedStyleSheets.push(this.heights);
         this.headings = [...this.table.tHead.rows[0].cells];
         this.headings.forEach((heading, column) => this.makeSortable(heading, column));
     }
@@ -36,8 +42,8 @@ class List {
     makeSortable(heading, column) {
         const button = document.createElement('button');
         button.type = 'button';
-        button.append(...heading.childNodes);
-        heading.append(button);
+        button.append(heading.textContent);
+        heading.replaceChildren(button);
         heading.setAttribute('aria-sort', 'none');
         button.addEventListener('click', () => this.sort(column));
     }
@@ -50,16 +56,28 @@ class List {
         this.headings.forEach(other => other.setAttribute('aria-sort', 'none'));
         heading.setAttribute('aria-sort', order);
         const sign = order === 'descending' ? -1 : 1;
-        const keyOf = entry => textOf(columnOf(entry.row, column));
-        const sorted = this.rows.map(entry => ({entry, key: order === 'none' ? '' : keyOf(entry)}));
-        sorted.sort((a, b) => sign * collator.compare(a.key, b.key) || a.entry.place - b.entry.place);
-        this.body.append(...sorted.map(({entry}) => entry.row));
+        const keys = this.entries.map(entry => textOf(columnOf(entry.row, column)));
+        const places = [...keys.keys()];
+        if (order !== 'none') {
+            places.sort((a, b) => sign * collator.compare(keys[a], keys[b]) || a - b);
+        }
+        this.putInOrder(places.map(place => this.entries[place]));
+    }
+
+    putInOrder(entries) {
+        const size = Math.ceil(entries.length / this.groups.length);
+        this.groups.forEach((group, number) => {
+            const own = entries.slice(number * size, (number + 1) * size);
+            own.forEach(entry => { entry.group = group; });
+            group.append(...own.map(entry => entry.row));
+        });
+        this.showGroups();
     }
 
     /** Shows the rows that pass. */
     filter(passes) {
         let shown = 0;
-        for (const entry of this.rows) {
+        for (const entry of this.entries) {
             const isShown = passes(entry);
             shown += isShown ? 1 : 0;
             if (isShown !== entry.isShown) {
@@ -67,8 +85,30 @@ class List {
                 entry.row.hidden = !isShown;
             }
         }
-        this.count.textContent = shown === this.rows.length ? '' : `${shown} of ${this.rows.length} shown`;
+        this.showGroups();
+        this.count.textContent = shown === this.entries.length ? '' : `${shown} of ${this.entries.length} shown`;
         this.none.hidden = shown > 0;
+    }
+
+    /**
+     * Tells how high the groups are about, and puts off all but the first that have rows to show until these are seen:
+     * a browser would lay out at once all that were near a moment ago, when few rows were shown.
+     */
+    showGroups() {
+        const rowsAtOnce = 100;
+        const shown = new Map(this.groups.map(group => [group, 0]));
+        for (const entry of this.entries) {
+            shown.set(entry.group, shown.get(entry.group) + (entry.isShown ? 1 : 0));
+        }
+        let before = 0;
+        for (const [number, [group, rows]] of [...shown].entries()) {
+            this.heights.cssRules[number].style.setProperty('--rows', rows);
+            group.classList.toggle('later', rows === 0 || before > rowsAtOnce);
+            before += rows;
+        }
+        const showAll = () => shown.forEach((rows, group) => group.classList.toggle('later', rows === 0));
+        cancelAnimationFrame(this.next);
+        this.next = requestAnimationFrame(() => { this.next = requestAnimationFrame(showAll); });
     }
 }
 
@@ -100,5 +140,6 @@ function update() {
 }
 
 tools.addEventListener('input', update);
+tools.addEventListener('change', update);
 tools.hidden = false;
 update(); // what a browser remembers of an earlier visit holds
