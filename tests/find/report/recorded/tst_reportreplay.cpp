@@ -1,0 +1,109 @@
+#include "FindProgram.h"
+#include "recorded/FullPc.h"
+
+#include "common/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+namespace {
+
+class ReportTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        program.setVariable("XDG_DATA_HOME", program.folder());
+        program.setVariable("XDG_CONFIG_HOME", program.folder() + "/settings");
+    }
+
+    QString path(const QString& name) const { return program.folder() + '/' + name; }
+
+    QString contents(const QString& name) const {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(file.readAll());
+    }
+
+    /// Makes the report page.html of the PC, anew.
+    FindRun report(const QString& pc, const QString& catalogue, const QStringList& options = {}) {
+        QFile::remove(path("page.html"));
+        return program.runBare(QStringList{"--pc", pc, "report", path("page"), catalogue} + options);
+    }
+
+    QString answers(const QString& pc, const QString& catalogue) {
+        const FindRun run = program.runBare({"--pc", pc, "--json", catalogue});
+        EXPECT_EQ(run.errors, "");
+        return run.output;
+    }
+
+    FindProgram program;
+    const QString samplePc = LURULUDRI_SAMPLES "/pc";
+    const QString sampleCatalogue = LURULUDRI_SAMPLES "/catalogue.json";
+};
+
+TEST_F(ReportTest, APageAnswersAsThePcDid) {
+    const FullPc pc(program);
+    const FindRun run = report(pc.folder(), pc.catalogue(), {"--keep-names"});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(answers(path("page.html"), pc.catalogue()), answers(pc.folder(), pc.catalogue()));
+}
+
+TEST_F(ReportTest, ThePageTellsNoPrivateNameAndNoSecret) {
+    const FullPc pc(program);
+    const FindRun run = report(pc.folder(), pc.catalogue());
+    EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
+    const QString page = contents("page.html");
+    for (const QString& name : {QString("Anneliese"), QString("KAEFER-PC"), FullPc::secret}) {
+        EXPECT_FALSE(page.contains(name, Qt::CaseInsensitive)) << name.toStdString();
+        EXPECT_TRUE(run.output.contains(name) || name == FullPc::secret) << "who made it may know";
+    }
+}
+
+TEST_F(ReportTest, TheRecordingInThePageIsTheOneThatRecordMakes) {
+    ASSERT_EQ(report(samplePc, sampleCatalogue).exitStatus, 0);
+    ASSERT_EQ(program.runBare({"--pc", samplePc, "record", path("1"), sampleCatalogue}).exitStatus, 0);
+    ASSERT_EQ(program.runBare({"--pc", path("page.html"), "record", path("2"), sampleCatalogue}).exitStatus, 0);
+    EXPECT_EQ(contents("1.json"), contents("2.json"));
+}
+
+TEST_F(ReportTest, APageIsUnpacked) {
+    ASSERT_EQ(report(samplePc, sampleCatalogue).exitStatus, 0);
+    const QString expected = answers(path("page.html"), sampleCatalogue);
+    ASSERT_EQ(program.runBare({"unpack", path("page.html"), path("folder")}).exitStatus, 0);
+    EXPECT_EQ(answers(path("folder"), sampleCatalogue), expected);
+}
+
+TEST_F(ReportTest, OfAReplayedPageIsTheSame) {
+    ASSERT_EQ(report(samplePc, sampleCatalogue).exitStatus, 0);
+    ASSERT_TRUE(QFile::rename(path("page.html"), path("first.html")));
+    ASSERT_EQ(report(path("first.html"), sampleCatalogue).exitStatus, 0);
+    const auto games = [this](const QString& name) {
+        const QString page = contents(name);
+        return page.mid(page.indexOf("<table"), page.indexOf("How the lists were made") - page.indexOf("<table"));
+    };
+    EXPECT_EQ(games("page.html"), games("first.html"));
+}
+
+TEST_F(ReportTest, SaysWhatItIsOnTheConsole) {
+    const FindRun run = report(samplePc, sampleCatalogue);
+    EXPECT_TRUE(run.output.startsWith("14 of 17 games found\nRecorded into " + path("page.html") + ":\n"));
+    EXPECT_TRUE(run.output.contains("\"Jördis\" is now \"user\""));
+}
+
+TEST_F(ReportTest, FaultsOfTheRecordedPcAreInThePage) {
+    const QString pc = program.file("pc.json", "{\"format\": \"luruludri-pc\", \"version\": 1,\n\"volumes\": 3}");
+    const FindRun run = report(pc, program.file("none.json", R"({"games": []})"));
+    EXPECT_EQ(run.exitStatus, 2) << "as for any answers of a PC with faults";
+    EXPECT_TRUE(contents("page.html").contains("<li><bdi>" + pc + ":2: volumes: "));
+}
+
+TEST_F(ReportTest, WhatIsNoPageOfAPcIsRefused) {
+    const QString page = program.file("x.html", "<!DOCTYPE html><p>");
+    EXPECT_EQ(program.runBare({"--pc", page, "--json", sampleCatalogue}).errors,
+              "luruludri-find: " + page + ": this page carries no recorded PC\n");
+    EXPECT_EQ(program.runBare({"unpack", page, path("new")}).errors,
+              "luruludri-find: " + page + ": this page carries no recorded PC\n");
+}
+
+} // namespace
