@@ -54,6 +54,7 @@ std::vector<const InstalledEntry*> SimilarNames::mentioning(const QStringList& w
     std::sort(places.begin(), places.end());
     places.erase(std::unique(places.begin(), places.end()), places.end());
     std::vector<const InstalledEntry*> entries;
+    entries.reserve(places.size());
     for (const std::size_t place : places) {
         entries.push_back(&m_entries[place]);
     }
