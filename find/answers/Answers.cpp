@@ -2,7 +2,7 @@
 
 #include "core/IGameFinderFactory.h"
 #include "find/catalogue/FinderTypes.h"
-#include "find/cli/Progress.h"
+#include "find/terminal/Progress.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "find/answers/Report.h"
 
 #include "find/answers/Answers.h"
-#include "find/cli/Table.h"
+#include "find/terminal/Table.h"
 
 #include <QJsonArray>
 

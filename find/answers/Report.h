@@ -1,6 +1,6 @@
 #pragma once
 
-#include "find/cli/Terminal.h"
+#include "find/terminal/Terminal.h"
 
 #include <QJsonObject>
 #include <QString>

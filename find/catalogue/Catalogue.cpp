@@ -1,7 +1,7 @@
 #include "find/catalogue/Catalogue.h"
 
 #include "find/catalogue/CatalogueReader.h"
-#include "find/cli/JsonText.h"
+#include "find/catalogue/JsonText.h"
 
 #include <QFile>
 #include <QJsonDocument>

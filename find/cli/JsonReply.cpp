@@ -1,7 +1,7 @@
 #include "find/cli/JsonReply.h"
 
-#include "find/cli/Console.h"
-#include "find/cli/OneLine.h"
+#include "find/terminal/Console.h"
+#include "find/terminal/OneLine.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -9,16 +9,16 @@
 #include "find/catalogue/Catalogue.h"
 #include "find/cli/CommandForms.h"
 #include "find/cli/CommandLine.h"
-#include "find/cli/Console.h"
 #include "find/cli/DidYouMean.h"
 #include "find/cli/JsonReply.h"
-#include "find/cli/OneLine.h"
-#include "find/cli/Progress.h"
+#include "find/cli/RecordCommand.h"
+#include "find/cli/ReportCommand.h"
+#include "find/cli/UnpackCommand.h"
 #include "find/explain/Explanation.h"
 #include "find/explain/PluginTrace.h"
-#include "find/record/RecordCommand.h"
-#include "find/record/UnpackCommand.h"
-#include "find/report/ReportCommand.h"
+#include "find/terminal/Console.h"
+#include "find/terminal/OneLine.h"
+#include "find/terminal/Progress.h"
 
 #include <QDir>
 #include <QFileInfo>

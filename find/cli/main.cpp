@@ -1,6 +1,6 @@
-#include "find/cli/Console.h"
 #include "find/cli/JsonReply.h"
 #include "find/cli/Program.h"
+#include "find/terminal/Console.h"
 
 #include <QCoreApplication>
 #include <QLatin1String>

@@ -1,6 +1,6 @@
 #include "find/explain/EventText.h"
 
-#include "find/cli/OneLine.h"
+#include "find/terminal/OneLine.h"
 
 #include <QByteArray>
 

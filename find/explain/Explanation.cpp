@@ -2,11 +2,11 @@
 
 #include "find/answers/Answers.h"
 #include "find/catalogue/FinderTypes.h"
-#include "find/cli/OneLine.h"
 #include "find/explain/EventText.h"
 #include "find/explain/IndexText.h"
 #include "find/explain/TraceTree.h"
 #include "find/explain/Words.h"
+#include "find/terminal/OneLine.h"
 
 #include <QStringList>
 

@@ -1,9 +1,9 @@
 #include "find/explain/IndexText.h"
 
-#include "find/cli/OneLine.h"
 #include "find/explain/EventText.h"
 #include "find/explain/TraceTree.h"
 #include "find/explain/Words.h"
+#include "find/terminal/OneLine.h"
 
 #include <algorithm>
 

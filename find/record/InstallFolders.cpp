@@ -1,8 +1,8 @@
 #include "find/record/InstallFolders.h"
 
-#include "find/cli/Progress.h"
 #include "find/pc/AnsweringPc.h"
 #include "find/record/Probe.h"
+#include "find/terminal/Progress.h"
 
 #include <algorithm>
 #include <iterator>

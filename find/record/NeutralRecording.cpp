@@ -1,10 +1,10 @@
 #include "find/record/NeutralRecording.h"
 
-#include "find/cli/Progress.h"
 #include "find/pc/AnsweringPc.h"
 #include "find/record/AskedWords.h"
 #include "find/record/PcRecord.h"
 #include "find/record/UsedParts.h"
+#include "find/terminal/Progress.h"
 #include "recordings/NeutralPc.h"
 #include "recordings/PrivateNames.h"
 

@@ -1,10 +1,10 @@
 #include "find/record/PcRecord.h"
 
-#include "find/cli/Progress.h"
 #include "find/pc/AnsweringPc.h"
 #include "find/record/PcFacts.h"
 #include "find/record/RegistryRecord.h"
 #include "find/record/UsedParts.h"
+#include "find/terminal/Progress.h"
 #include "recordings/ShellLink.h"
 
 #include <QDir>

@@ -5,9 +5,9 @@
 #include "find/catalogue/FinderTypes.h"
 #include "find/catalogue/IndexEntries.h"
 #include "find/catalogue/Inventory.h"
-#include "find/cli/Progress.h"
 #include "find/pc/AnsweringPc.h"
 #include "find/record/Probe.h"
+#include "find/terminal/Progress.h"
 
 #include <memory>
 

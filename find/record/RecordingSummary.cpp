@@ -1,7 +1,7 @@
 #include "find/record/RecordingSummary.h"
 
-#include "find/cli/OneLine.h"
 #include "find/record/InstallFolders.h"
+#include "find/terminal/OneLine.h"
 
 #include <QDir>
 #include <QFileInfo>

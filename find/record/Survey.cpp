@@ -2,9 +2,9 @@
 
 #include "core/IGameFinderFactory.h"
 #include "find/answers/Plugin.h"
-#include "find/cli/Progress.h"
 #include "find/explain/PluginTrace.h"
 #include "find/record/Questions.h"
+#include "find/terminal/Progress.h"
 
 #include <iterator>
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "find/cli/Console.h"
+#include "find/terminal/Console.h"
 
 #include <QByteArray>
 #include <QProcessEnvironment>

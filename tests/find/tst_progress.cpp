@@ -1,5 +1,5 @@
-#include "find/cli/Progress.h"
-#include "find/cli/TextWidth.h"
+#include "find/terminal/Progress.h"
+#include "find/terminal/TextWidth.h"
 
 #include "common/QtPrinters.h"
 

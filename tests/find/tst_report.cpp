@@ -1,6 +1,6 @@
 #include "find/answers/Answers.h"
 #include "find/answers/Report.h"
-#include "find/cli/OneLine.h"
+#include "find/terminal/OneLine.h"
 
 #include "common/QtPrinters.h"
 

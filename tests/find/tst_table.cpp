@@ -1,6 +1,6 @@
-#include "find/cli/OneLine.h"
-#include "find/cli/Table.h"
-#include "find/cli/TextWidth.h"
+#include "find/terminal/OneLine.h"
+#include "find/terminal/Table.h"
+#include "find/terminal/TextWidth.h"
 
 #include "common/QtPrinters.h"
 

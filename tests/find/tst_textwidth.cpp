@@ -1,5 +1,5 @@
-#include "find/cli/TextWidth.h"
-#include "find/cli/WrapText.h"
+#include "find/terminal/TextWidth.h"
+#include "find/terminal/WrapText.h"
 
 #include "common/QtPrinters.h"
 

@@ -2,7 +2,7 @@
 #include "PseudoTerminal.h"
 
 #include "common/QtPrinters.h"
-#include "find/cli/TextWidth.h"
+#include "find/terminal/TextWidth.h"
 
 #include <gtest/gtest.h>
 

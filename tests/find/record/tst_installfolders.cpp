@@ -1,8 +1,8 @@
 #include "TestTrace.h"
 
-#include "find/cli/Progress.h"
 #include "find/record/InstallFolders.h"
 #include "find/record/Probe.h"
+#include "find/terminal/Progress.h"
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"

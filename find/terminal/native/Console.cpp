@@ -1,4 +1,4 @@
-#include "find/cli/Console.h"
+#include "find/terminal/Console.h"
 
 #include <QTextCodec>
 

@@ -1,14 +1,14 @@
-#include "find/report/ReportCommand.h"
+#include "find/cli/ReportCommand.h"
 
 #include "find/cli/CommandLine.h"
-#include "find/cli/Console.h"
-#include "find/cli/OneLine.h"
 #include "find/record/NeutralRecording.h"
 #include "find/record/OutputFile.h"
 #include "find/record/RecordingSummary.h"
 #include "find/record/Survey.h"
 #include "find/report/ReportData.h"
 #include "find/report/ReportPage.h"
+#include "find/terminal/Console.h"
+#include "find/terminal/OneLine.h"
 #include "recordings/PcFile.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "find/cli/Terminal.h"
+#include "find/terminal/Terminal.h"
 
 #include <QProcessEnvironment>
 #include <QString>

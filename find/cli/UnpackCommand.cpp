@@ -1,9 +1,9 @@
-#include "find/record/UnpackCommand.h"
+#include "find/cli/UnpackCommand.h"
 
 #include "find/answers/ChosenRecording.h"
 #include "find/cli/CommandLine.h"
-#include "find/cli/Console.h"
 #include "find/record/OutputFolder.h"
+#include "find/terminal/Console.h"
 
 #include <QFileInfo>
 

@@ -1,4 +1,4 @@
-#include "find/cli/TextWidth.h"
+#include "find/terminal/TextWidth.h"
 
 #include <QChar>
 

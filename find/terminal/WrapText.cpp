@@ -1,6 +1,6 @@
-#include "find/cli/WrapText.h"
+#include "find/terminal/WrapText.h"
 
-#include "find/cli/TextWidth.h"
+#include "find/terminal/TextWidth.h"
 
 #include <QLatin1String>
 

@@ -1,8 +1,8 @@
-#include "find/cli/Progress.h"
+#include "find/terminal/Progress.h"
 
-#include "find/cli/Console.h"
-#include "find/cli/OneLine.h"
-#include "find/cli/TextWidth.h"
+#include "find/terminal/Console.h"
+#include "find/terminal/OneLine.h"
+#include "find/terminal/TextWidth.h"
 
 #include <QElapsedTimer>
 #include <QLatin1String>

@@ -1,11 +1,11 @@
-#include "find/record/RecordCommand.h"
+#include "find/cli/RecordCommand.h"
 
 #include "find/cli/CommandLine.h"
-#include "find/cli/Console.h"
 #include "find/record/NeutralRecording.h"
 #include "find/record/OutputFile.h"
 #include "find/record/RecordingSummary.h"
 #include "find/record/Survey.h"
+#include "find/terminal/Console.h"
 #include "recordings/PcFile.h"
 
 namespace Find {

@@ -1,4 +1,4 @@
-#include "find/cli/OneLine.h"
+#include "find/terminal/OneLine.h"
 
 #include <QChar>
 

@@ -1,4 +1,4 @@
-#include "find/cli/TableLayout.h"
+#include "find/terminal/TableLayout.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "find/cli/Complaint.h"
-#include "find/cli/Terminal.h"
+#include "find/terminal/Complaint.h"
+#include "find/terminal/Terminal.h"
 
 #include <QString>
 #include <QtGlobal>

@@ -1,7 +1,7 @@
-#include "find/cli/Console.h"
+#include "find/terminal/Console.h"
 
-#include "find/cli/OneLine.h"
-#include "find/cli/TextWidth.h"
+#include "find/terminal/OneLine.h"
+#include "find/terminal/TextWidth.h"
 
 #include <QByteArray>
 #include <QLatin1String>

@@ -1,4 +1,4 @@
-#include "find/cli/JsonText.h"
+#include "find/catalogue/JsonText.h"
 
 #include <QtGlobal>
 

@@ -1,9 +1,9 @@
-#include "find/cli/Table.h"
+#include "find/terminal/Table.h"
 
-#include "find/cli/OneLine.h"
-#include "find/cli/TableLayout.h"
-#include "find/cli/TextWidth.h"
-#include "find/cli/WrapText.h"
+#include "find/terminal/OneLine.h"
+#include "find/terminal/TableLayout.h"
+#include "find/terminal/TextWidth.h"
+#include "find/terminal/WrapText.h"
 
 #include <QLatin1String>
 #include <QStringList>

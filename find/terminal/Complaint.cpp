@@ -1,4 +1,4 @@
-#include "find/cli/Complaint.h"
+#include "find/terminal/Complaint.h"
 
 namespace Find {
 
