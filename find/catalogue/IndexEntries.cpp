@@ -16,15 +16,15 @@ void addNew(std::vector<IndexEntry>& entries, const IndexEntry& entry, IsSame is
 } // namespace
 
 IndexEntries::IndexEntries(const std::vector<Trace::Event>& events) {
-    QString index; // the list that is being made
+    QStringList indexes; // the lists that are being made, the last one for that before it
     for (const Trace::Event& event : events) {
         const auto* const entry = std::get_if<Trace::Entry>(&event);
         if (const auto* const begin = std::get_if<Trace::IndexBegin>(&event)) {
-            index = begin->name;
-        } else if (std::holds_alternative<Trace::IndexEnd>(event)) {
-            index.clear();
-        } else if (entry != nullptr && !index.isEmpty()) {
-            m_entries[index].push_back({entry->name, entry->folder});
+            indexes.append(begin->name);
+        } else if (std::holds_alternative<Trace::IndexEnd>(event) && !indexes.isEmpty()) {
+            indexes.removeLast();
+        } else if (entry != nullptr && !indexes.isEmpty()) {
+            m_entries[indexes.last()].push_back({entry->name, entry->folder});
         }
     }
 }

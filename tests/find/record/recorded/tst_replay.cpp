@@ -83,6 +83,20 @@ TEST_F(RecordTest, GamesThatNobodyKnewWhileRecordingAreFound) {
     EXPECT_EQ(answers(path("pc.json"), pc.catalogue()), expected);
 }
 
+TEST_F(RecordTest, SteamGamesThatNobodyKnewAreFoundWhereOnlyTheStartMenuKnowsSteam) {
+    program.file("pc/pc.json", R"({"shellFolders": {"startMenu": "C:\\Menu"}})");
+    program.file("pc/drives/C/Menu/Steam.lnk", Recordings::renderShellLink("D:\\Steam\\steam.exe"));
+    program.file("pc/drives/D/Steam/steam.exe", "");
+    program.file("pc/drives/D/Steam/steamapps/appmanifest_7.acf", "");
+    program.file("pc/drives/D/Steam/steamapps/common/Wal/wal.exe", "");
+    const QString catalogue = program.file("games.json", R"({"games": [{"name": "Wal", "finders": [
+        {"type": "steam", "appId": "7", "installFolderName": "Wal", "executables": ["wal.exe"]}]}]})");
+    ASSERT_EQ(record(path("pc"), "new", program.file("none.json", noGames)).exitStatus, 0);
+    const QString expected = answers(path("pc"), catalogue);
+    EXPECT_TRUE(expected.contains("\"found\": true"));
+    EXPECT_EQ(answers(path("new.json"), catalogue), expected);
+}
+
 TEST_F(RecordTest, NothingIsTakenThatNoFinderReads) {
     const FullPc pc(program);
     for (const QStringList& options : {QStringList{}, QStringList{"--keep-names"}}) {
