@@ -22,7 +22,8 @@ bool isSeparator(QChar character) {
 /// The folder in which the probe was looked for; empty when something else was.
 QString folderOfProbe(const QString& path) {
     const int end = path.size() - probeName().size();
-    return end > 0 && path.endsWith(probeName()) && isSeparator(path.at(end - 1)) ? path.left(end - 1) : QString();
+    const bool isProbe = end > 0 && path.endsWith(probeName()) && isSeparator(path.at(end - 1));
+    return isProbe ? path.left(end - 1).trimmed() : QString(); // as a finder that is asked for the game may trim it
 }
 
 class ExecutableWalk {

@@ -97,6 +97,23 @@ TEST_F(RecordTest, SteamGamesThatNobodyKnewAreFoundWhereOnlyTheStartMenuKnowsSte
     EXPECT_EQ(answers(path("new.json"), catalogue), expected);
 }
 
+TEST_F(RecordTest, ASteamGameThatNobodyKnewIsFoundWhereBlanksFollowItsFolder) {
+    program.file("pc/registry/all.reg", R"(Windows Registry Editor Version 5.00
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Uninstall\Steam App 7]
+"DisplayName"="Wal"
+"InstallLocation"="D:\\Wal  "
+"UninstallString"="steam://uninstall/7"
+)");
+    program.file("pc/drives/D/Wal/bin/wal.exe", "");
+    const QString catalogue = program.file("games.json", R"({"games": [{"name": "Wal", "finders": [
+        {"type": "steam", "appId": "7", "installFolderName": "", "executables": ["bin\\wal.exe"]}]}]})");
+    ASSERT_EQ(record(path("pc"), "new", program.file("none.json", noGames)).exitStatus, 0);
+    const QString expected = answers(path("pc"), catalogue);
+    EXPECT_TRUE(expected.contains("\"found\": true"));
+    EXPECT_EQ(answers(path("new.json"), catalogue), expected);
+}
+
 TEST_F(RecordTest, NothingIsTakenThatNoFinderReads) {
     const FullPc pc(program);
     for (const QStringList& options : {QStringList{}, QStringList{"--keep-names"}}) {
