@@ -15,6 +15,8 @@
 #include <QJsonObject>
 #include <QMap>
 
+#include <algorithm>
+
 namespace {
 
 /// How many PCs and from which seed on; the environment can say otherwise, so that another thousand need no other
@@ -60,6 +62,25 @@ void countAnswers(const QByteArray& catalogue, const QString& output, Scores& sc
     }
 }
 
+bool asksForAFolder(const QJsonObject& finder) {
+    const QJsonArray members = finder["finders"].toArray();
+    return finder["type"] == "folder" || std::any_of(members.begin(), members.end(), [](const QJsonValue& member) {
+               return asksForAFolder(member.toObject());
+           });
+}
+
+/// Those games that can be found although nobody knew of them when the PC was recorded: without folders that only the
+/// catalogue tells.
+QByteArray withoutFolders(const QByteArray& catalogue) {
+    QJsonArray games;
+    for (const QJsonValue& game : QJsonDocument::fromJson(catalogue).object()["games"].toArray()) {
+        if (!asksForAFolder(game.toObject())) {
+            games.append(game);
+        }
+    }
+    return QJsonDocument(QJsonObject{{"games", games}}).toJson();
+}
+
 /// One PC, there as long as this.
 class PcUnderTest {
 public:
@@ -78,18 +99,35 @@ public:
     /// What the program answers here.
     FindRun ask() const { return m_program.runBare(m_arguments + QStringList{"--json", m_catalogue}); }
 
-    /// What it answers elsewhere.
-    FindRun ask(const QString& pc) const { return m_program.runBare({"--pc", pc, "--json", m_catalogue}); }
-
     /// The file that it makes.
-    QString record() const {
-        const QString file = m_program.folder() + "/recording.json";
-        const FindRun run = m_program.runBare(m_arguments + QStringList{"record", file, m_catalogue});
+    QString record() const { return record("recording.json", m_catalogue); }
+
+    /// Whether a recording answers as the PC does.
+    void expectSameAnswers(const FindRun& answers, const QString& recording) const {
+        expectSame(answers, recording, m_catalogue);
+    }
+
+    /// The same when nobody knew a game while it was recorded.
+    void expectSameAnswersUnasked() const {
+        const QString games = m_program.file("without-folders.json", withoutFolders(m_made.catalogue));
+        const QString recording = record("unasked.json", m_program.file("none.json", R"({"games": []})"));
+        expectSame(m_program.runBare(m_arguments + QStringList{"--json", games}), recording, games);
+    }
+
+private:
+    QString record(const QString& name, const QString& catalogue) const {
+        const QString file = m_program.folder() + '/' + name;
+        const FindRun run = m_program.runBare(m_arguments + QStringList{"record", file, catalogue});
         EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
         return file;
     }
 
-private:
+    void expectSame(const FindRun& answers, const QString& recording, const QString& catalogue) const {
+        const FindRun again = m_program.runBare({"--pc", recording, "--json", catalogue});
+        EXPECT_EQ(again.output, answers.output);
+        EXPECT_EQ(again.errors, answers.errors);
+    }
+
     FindProgram m_program;
     RandomWorld m_world;
     RandomPc m_made;
@@ -126,9 +164,8 @@ protected:
             hand(folder, pc, recording, answers);
             return;
         }
-        const FindRun again = pc.ask(recording);
-        EXPECT_EQ(again.output, answers.output);
-        EXPECT_EQ(again.errors, answers.errors);
+        pc.expectSameAnswers(answers, recording);
+        pc.expectSameAnswersUnasked();
     }
 
     const int first = numberIn("LURULUDRI_FIRST_SEED", usualFirst);
