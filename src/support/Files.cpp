@@ -11,6 +11,9 @@ namespace Files {
 
 namespace {
 
+/// A thousand times what the launchers' own files have.
+constexpr qint64 largestFile = qint64{16} * 1024 * 1024;
+
 bool told(const QString& path, bool found) {
     Trace::tell([&] { return Trace::Exists{Paths::toNative(path), found}; });
     return found;
@@ -40,7 +43,8 @@ QStringList names(const QString& folder, const QString& pattern) {
 
 QByteArray readWholeFile(const QString& path) {
     QFile file(Platform::pathOnPc(path));
-    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const bool isToBeRead = file.open(QIODevice::ReadOnly) && file.size() <= largestFile;
+    const QByteArray bytes = isToBeRead ? file.readAll() : QByteArray();
     Trace::tell([&] { return Trace::Read{Paths::toNative(path), bytes.size()}; });
     return bytes;
 }

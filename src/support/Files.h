@@ -21,7 +21,8 @@ bool enter(QString& folder, const QString& name);
 /// The names of the folder's files that fit a pattern like "*.acf", without hidden ones; empty when it can't be listed.
 QStringList names(const QString& folder, const QString& pattern);
 
-/// All bytes of a file; empty when it is missing or can't be opened.
+/// All bytes of a file; empty when it is missing, can't be opened or has more than 16 MiB, so that no file takes all
+/// memory.
 QByteArray readWholeFile(const QString& path);
 
 /// Where a shortcut leads, with forward slashes; empty when it leads nowhere.

@@ -126,4 +126,17 @@ TEST_F(FolderFinderTest, KeepsNoUserLocation) {
     EXPECT_EQ(location.installFolder, "C:\\Games\\X");
 }
 
+TEST_F(FolderFinderTest, APathOfAnyLengthIsLookedFor) {
+    QString folder = "D:";
+    while (folder.size() < 300) {
+        folder += "\\" + QString(49, 'f');
+    }
+    pc.file(folder + "\\a.exe");
+    EXPECT_TRUE(find(folder, {QString(300, 'x'), "a.exe", QString(40'000, 'x')}));
+    EXPECT_THAT(location.executablePaths, ElementsAre(folder + "\\a.exe"));
+    for (const int length : {4'096, 40'000}) {
+        EXPECT_FALSE(find("D:\\" + QString(length, 'f'), {"a.exe"})) << length;
+    }
+}
+
 } // namespace

@@ -109,4 +109,32 @@ TEST_F(SteamLibraryFoldersTest, ListsALibraryAsOftenAsTheFileDoes) {
                 ElementsAre("D:/SteamLibrary/steamapps", "D:/SteamLibrary/steamapps"));
 }
 
+TEST_F(SteamLibraryFoldersTest, AFolderInPlaceOfTheFileListsNone) {
+    pc.folder(path);
+    EXPECT_THAT(parseLibraryFolders(path), IsEmpty());
+}
+
+TEST_F(SteamLibraryFoldersTest, AFileInPlaceOfALibraryIsPassedOver) {
+    pc.file("D:\\file");
+    EXPECT_THAT(parse("\"path\" \"D:\\\\file\"\n\"path\" \"D:\\\\SteamLibrary\"\n"),
+                ElementsAre("D:/SteamLibrary/steamapps"));
+}
+
+TEST_F(SteamLibraryFoldersTest, AFileLargerThanAnyRealOneListsNone) {
+    constexpr int largest = 16 * 1024 * 1024;
+    const QByteArray library = "\"path\" \"D:\\\\SteamLibrary\"\n";
+    EXPECT_THAT(parse(library.leftJustified(largest, ' ')), ElementsAre("D:/SteamLibrary/steamapps"));
+    EXPECT_THAT(parse(library.leftJustified(largest + 1, ' ')), IsEmpty());
+    pc.enlarge(path, qint64{1024} * 1024 * 1024);
+    EXPECT_THAT(parseLibraryFolders(path), IsEmpty());
+}
+
+TEST_F(SteamLibraryFoldersTest, APathOfAnyLengthIsALibraryThatIsGone) {
+    for (const int length : {260, 4'096, 40'000}) {
+        EXPECT_THAT(parse("\"path\" \"D:\\\\" + QByteArray(length, 'x') + "\"\n\"path\" \"D:\\\\SteamLibrary\"\n"),
+                    ElementsAre("D:/SteamLibrary/steamapps"))
+            << length;
+    }
+}
+
 } // namespace

@@ -216,4 +216,34 @@ TEST_F(EpicManifestIndexTest, ManifestsKeepTheFileSystemsOrder) {
     EXPECT_THAT(appNames(), ElementsAre("a", "B", "C", "_")) << "neither by code nor by small letters";
 }
 
+TEST_F(EpicManifestIndexTest, AManifestLargerThanAnyRealOneIsSkipped) {
+    constexpr int largest = 16 * 1024 * 1024;
+    const auto padded = [](const QString& name, int size) {
+        return manifestOf({name, name, "D:\\X"}).leftJustified(size, ' ');
+    };
+    addManifest(pc, "1.item", padded("Kiwi", largest));
+    addManifest(pc, "2.item", padded("Plum", largest + 1));
+    addManifest(pc, "3.item", manifestOf({"Quince", "Quince", "D:\\Quince"}));
+    pc.enlarge(manifestFolder + "\\3.item", qint64{1024} * 1024 * 1024);
+    EXPECT_THAT(appNames(), ElementsAre("Kiwi"));
+    EXPECT_THAT(pc.messages(logName),
+                ElementsAre(folderLine(), "A:   App: Kiwi | Kiwi", "W:   Skipped invalid manifest: 2.item",
+                            "W:   Skipped invalid manifest: 3.item"));
+}
+
+TEST_F(EpicManifestIndexTest, AFolderNamedLikeAManifestIsNone) {
+    addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Plum"});
+    pc.folder(manifestFolder + "\\1.item");
+    pc.folder(manifestFolder + "\\3.item\\x");
+    EXPECT_THAT(appNames(), ElementsAre("Plum"));
+    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine(), "A:   App: Plum | Plum"));
+}
+
+TEST_F(EpicManifestIndexTest, AFileInPlaceOfTheFolderHasNoManifests) {
+    pc.value(epicKey, "ModSdkMetadataDir", manifestFolder);
+    pc.file(manifestFolder);
+    EXPECT_THAT(appNames(), IsEmpty());
+    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine(), "A: No apps"));
+}
+
 } // namespace

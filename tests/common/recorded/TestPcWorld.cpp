@@ -160,6 +160,11 @@ void TestPc::removeFile(const QString& path) {
     m_world->rename();
 }
 
+void TestPc::enlarge(const QString& path, qint64 size) {
+    QFile::resize(m_world->realPath(path), size);
+    m_world->rename();
+}
+
 void TestPc::hide(const QString& path) {
     m_world->hide(path);
     m_world->describe();

@@ -236,6 +236,10 @@ void TestPc::removeFile(const QString& path) {
     QFile::remove(path);
 }
 
+void TestPc::enlarge(const QString& path, qint64 size) {
+    QFile::resize(path, size);
+}
+
 void TestPc::hide(const QString& path) {
     ::SetFileAttributesW(wide(path), ::GetFileAttributesW(wide(path)) | FILE_ATTRIBUTE_HIDDEN);
 }

@@ -1,7 +1,12 @@
 #include "stores/EpicManifestIndex.h"
 
+#include "common/EpicLauncher.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "recordings/Recording.h"
+#include "support/Files.h"
+
+#include <QFile>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,6 +21,37 @@ TEST(EpicRecordedTest, WithoutTheCommonDataThePathBeginsAtTheRoot) {
     EXPECT_TRUE(index.entries().empty());
     EXPECT_THAT(TestPc::messages("Quorvan.Finders.EpicStore"),
                 ElementsAre("A: MetaDir Folder: /Epic/EpicGamesLauncher/Data/Manifests", "A: No apps"));
+}
+
+/// Where the recording's folder has the folder of the manifests.
+QString recordedFolder() {
+    return qEnvironmentVariable(Recordings::environmentVariable) + "/drives/C/Epic/Manifests";
+}
+
+TEST(EpicRecordedTest, AManifestThatVanishesOnceItWasListedIsSkipped) {
+    TestPc pc;
+    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
+    addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Plum"});
+    ASSERT_THAT(Files::names(manifestFolder, "*.item"), ElementsAre("1.item", "2.item"));
+    ASSERT_TRUE(QFile::remove(recordedFolder() + "/1.item"));
+    EpicManifestIndex index;
+    EXPECT_EQ(index.entries().size(), 1U);
+    EXPECT_THAT(TestPc::messages("Quorvan.Finders.EpicStore"),
+                ElementsAre("A: MetaDir Folder: " + manifestFolder, "W:   Skipped invalid manifest: 1.item",
+                            "A:   App: Plum | Plum"));
+}
+
+TEST(EpicRecordedTest, AManifestIsFoundAmongAHundredThousandFiles) {
+    TestPc pc;
+    pc.folder(manifestFolder);
+    for (int i = 0; i < 100'000; ++i) {
+        QFile file(recordedFolder() + '/' + QString::number(i) + ".manifest");
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    addEpicApp(pc, "50000.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
+    EpicManifestIndex index;
+    ASSERT_EQ(index.entries().size(), 1U);
+    EXPECT_EQ(index.entries().front().AppName, "Kiwi");
 }
 
 } // namespace
