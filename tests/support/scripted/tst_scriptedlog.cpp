@@ -1,5 +1,7 @@
 #include "support/scripted/ScriptedLog.h"
 
+#include "platform/Folders.h"
+
 #include <QDir>
 
 #include <gmock/gmock.h>
@@ -147,7 +149,8 @@ TEST_F(ScriptedLogTest, AFileThatOpensForItsBannerHasOne) {
 }
 
 TEST_F(ScriptedLogTest, WithoutALocalFolderItLiesAtTheRootOfTheDrive) {
-    system.ownFolderPath = [](int, char16_t* buffer) {
+    system.ownFolderPath = [](int csidl, char16_t* buffer) {
+        EXPECT_EQ(csidl, Platform::csidlLocalAppData);
         std::memcpy(buffer, u"C:\\No", sizeof u"C:\\No"); // of no account, as the call fails
         return -1;
     };

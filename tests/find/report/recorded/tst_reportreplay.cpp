@@ -100,7 +100,7 @@ TEST_F(ReportTest, FaultsOfTheRecordedPcAreInThePage) {
 
 TEST_F(ReportTest, WhatIsNoPageOfAPcIsRefused) {
     const QString page = program.file("x.html", "<!DOCTYPE html><p>");
-    EXPECT_EQ(program.runBare({"--pc", page, "--json", sampleCatalogue}).errors,
+    EXPECT_EQ(program.runBare({"--pc", page, sampleCatalogue}).errors,
               "luruludri-find: " + page + ": this page carries no recorded PC\n");
     EXPECT_EQ(program.runBare({"unpack", page, path("new")}).errors,
               "luruludri-find: " + page + ": this page carries no recorded PC\n");
