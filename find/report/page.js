@@ -59,7 +59,7 @@ class List {
         const keys = this.entries.map(entry => textOf(columnOf(entry.row, column)));
         const places = [...keys.keys()];
         if (order !== 'none') {
-            places.sort((a, b) => sign * collator.compare(keys[a], keys[b]) || a - b);
+            places.sort((a, b) => sign * collator.compare(keys[a], keys[b]));
         }
         this.putInOrder(places.map(place => this.entries[place]));
     }
