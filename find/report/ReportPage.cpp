@@ -20,6 +20,7 @@ namespace Find {
 
 namespace {
 
+// Its operator[] takes over what it is given, where its set() copies that with all that is in it.
 namespace Mustache = kainjow::mustache;
 
 Mustache::data textData(const QString& text) {
@@ -46,7 +47,7 @@ Mustache::data groupsData(const Items& items, MakeData makeData) {
         for (std::size_t i = first; i < std::min(items.size(), first + rowsOfGroup); ++i) {
             rows.push_back(makeData(items[i]));
         }
-        groups.push_back(Mustache::data("rows", rows));
+        groups.emplace_back()["rows"] = rows;
     }
     return groups;
 }
@@ -120,7 +121,7 @@ Mustache::data explanationData(const std::vector<ExplanationLine>& lines) {
             ++line;
         } while (kind == ExplanationLine::Kind::Seen && line != lines.end() && line->kind == kind);
         Mustache::data block("text", texts.join(QLatin1Char('\n')).toStdString());
-        block.set(sectionOf(kind), true);
+        block[sectionOf(kind)] = true;
         blocks.push_back(block);
     }
     return blocks;
@@ -128,28 +129,28 @@ Mustache::data explanationData(const std::vector<ExplanationLine>& lines) {
 
 Mustache::data gameData(const ReportedGame& game) {
     Mustache::data data("name", textData(game.answer.name));
-    data.set("isFound", game.answer.found);
-    data.set("state", game.answer.found ? "found" : "missing");
+    data["isFound"] = game.answer.found;
+    data["state"] = game.answer.found ? "found" : "missing";
     data.set("finders",
              listData(game.finders, [](const QString& name) { return Mustache::data("name", textData(name)); }));
     if (game.answer.found) {
-        data.set("folder", pathData(game.answer.location.installFolder));
-        data.set("launch", pathData(game.answer.location.launchCommand));
+        data["folder"] = pathData(game.answer.location.installFolder);
+        data["launch"] = pathData(game.answer.location.launchCommand);
         return data;
     }
-    data.set("reason", textData(reasonOf(game)));
-    data.set("explanation", explanationData(game.explanation));
-    data.set("hasSimilar", !game.similar.isEmpty());
-    data.set("similar", textsData(game.similar));
+    data["reason"] = textData(reasonOf(game));
+    data["explanation"] = explanationData(game.explanation);
+    data["hasSimilar"] = !game.similar.isEmpty();
+    data["similar"] = textsData(game.similar);
     if (game.moreSimilar > 0) {
-        data.set("moreSimilar", Mustache::data("count", numberData(game.moreSimilar)));
+        data["moreSimilar"] = Mustache::data("count", numberData(game.moreSimilar));
     }
     return data;
 }
 
 Mustache::data runtimeData(const RuntimeAnswer& runtime) {
     Mustache::data data("title", textData(runtime.title));
-    data.set("isFound", !runtime.values.isEmpty());
+    data["isFound"] = !runtime.values.isEmpty();
     data.set("values",
              listData(runtime.values, [](const QString& value) { return Mustache::data("path", pathData(value)); }));
     return data;
@@ -157,8 +158,8 @@ Mustache::data runtimeData(const RuntimeAnswer& runtime) {
 
 Mustache::data otherData(const InstalledThing& thing) {
     Mustache::data data("name", textData(thing.name));
-    data.set("lists", textData(thing.lists.join(QLatin1String(", "))));
-    data.set("place", pathData(thing.place));
+    data["lists"] = textData(thing.lists.join(QLatin1String(", ")));
+    data["place"] = pathData(thing.place);
     return data;
 }
 
@@ -171,14 +172,14 @@ Mustache::data madeListData(const ReportedList& list) {
         lines.append(QStringLiteral("… and %1 more lines").arg(list.moreLines));
     }
     Mustache::data data("title", textData(list.title));
-    data.set("entries", list.entries == 1 ? "1 entry" : std::to_string(list.entries) + " entries");
-    data.set("text", lines.join(QLatin1Char('\n')).toStdString());
+    data["entries"] = list.entries == 1 ? "1 entry" : std::to_string(list.entries) + " entries";
+    data["text"] = lines.join(QLatin1Char('\n')).toStdString();
     return data;
 }
 
 Mustache::data amountData(const RecordedAmount& amount) {
     Mustache::data data("title", textData(amount.title));
-    data.set("text", textData(amount.text));
+    data["text"] = textData(amount.text);
     return data;
 }
 
