@@ -12,7 +12,7 @@ constexpr QLatin1Char backslash('\\');
 Registry neutralRegistry(const Registry& registry, const MapText& map) {
     Registry neutral;
     registry.visit([&](RegKey::Root root, const QStringList& path, const RegistryNode& key) {
-        const QStringList neutralPath = map(path.join(backslash)).split(backslash);
+        const QStringList neutralPath = map(path.join(backslash)).split(backslash, Qt::SkipEmptyParts);
         RegistryNode& node = neutral.make(root, neutralPath, RegistryView::Bits64);
         for (const auto& [folded, value] : key.values()) {
             const std::optional<QString> text = textOf(value.type, value.data);

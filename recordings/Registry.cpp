@@ -103,6 +103,9 @@ std::vector<QString> Registry::subKeys(const Layers& key) {
 void Registry::visit(
     const std::function<void(RegKey::Root root, const QStringList& path, const RegistryNode& key)>& visit) const {
     const auto visitHive = [&visit](RegKey::Root root, const RegistryNode& hive) {
+        if (!hive.values().empty()) {
+            visit(root, {}, hive);
+        }
         hive.visit([&](const QStringList& path, const RegistryNode& key) { visit(root, path, key); });
     };
     visitHive(RegKey::Root::CurrentUser, m_user);

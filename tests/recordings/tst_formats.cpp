@@ -59,6 +59,17 @@ TEST(Formats, RegistryFileKeepsTheSpellingOfKeysThatAreNamedByThoseBelowThem) {
     EXPECT_TRUE(again == registry);
 }
 
+TEST(Formats, ValuesOfARootAreKept) {
+    Pc pc;
+    pc.registry.apply({{RegKey::Root::CurrentUser, "", false, {{"a", false, 3, "b"}, {"", false, 3, "c"}}}});
+    pc.registry.apply({{RegKey::Root::CurrentUser, "X", false, {}}});
+    QStringList leftOut;
+    Registry again;
+    again.apply(parseRegFile(renderRegFile(pc.registry, leftOut), "x.reg").keys);
+    EXPECT_TRUE(again == pc.registry);
+    EXPECT_TRUE(readFile(renderPcFile(pc)) == pc) << renderPcFile(pc).toStdString();
+}
+
 TEST(Formats, RegistryFileTellsWhatItCannotHave) {
     QStringList leftOut;
     renderRegFile(OddPc::make(false).registry, leftOut);

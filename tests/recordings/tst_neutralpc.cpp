@@ -23,6 +23,8 @@ Recordings::Pc pcOf(const QString& name) {
     Recordings::Pc pc;
     Recordings::RegistryNode& key = pc.registry.make(Root::CurrentUser, {"Software", name + "_is1"}, View::Bits64);
     key.apply({"InstallLocation", false, 1, Recordings::storedText("C:\\Users\\" + name + "\\x")});
+    pc.registry.make(Root::CurrentUser, {}, View::Bits64)
+        .apply({"of a root", false, 1, Recordings::storedText("D:\\" + name)});
     const QString folder = "C:/Users/" + name;
     pc.drives.make(path(folder + "/z"), Kind::File);
     pc.drives.make(path(folder + "/b of " + name), Kind::Folder).isHidden = true;
