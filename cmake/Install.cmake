@@ -41,7 +41,7 @@ file(GLOB documents CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/*.md")
 # Those for who changes the library cite its sources, which are not in the package.
 list(FILTER documents EXCLUDE REGEX "/(architecture|testing|performance)\\.md$")
 install(FILES README.md DESTINATION .)
-install(FILES ${documents} DESTINATION docs)
+install(FILES ${documents} docs/catalogue.schema.json DESTINATION docs)
 install(FILES docs/host/CMakeLists.txt docs/host/main.cpp DESTINATION docs/host)
 
 # Windows has no Qt of its own. What is made by others travels with what they ask for.

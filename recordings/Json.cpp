@@ -40,6 +40,9 @@ private:
     bool take(QLatin1Char wanted);
     void skipSpace();
     bool fail(const QString& message);
+    bool failAt(int position, const QString& message);
+
+    int column(int position) const { return position - m_lineBegin + 1; }
 
     QChar peek() const { return m_position < m_text.size() ? m_text.at(m_position) : QChar(); }
 
@@ -49,6 +52,7 @@ private:
     JsonFault& m_fault;
     int m_position = 0;
     int m_line = 1;
+    int m_lineBegin = 0;
 };
 
 bool Reader::readWhole(JsonValue& value) {
@@ -62,6 +66,7 @@ bool Reader::readWhole(JsonValue& value) {
 bool Reader::readValue(JsonValue& value, int depth) {
     skipSpace();
     value.line = m_line;
+    value.column = column(m_position);
     if (depth > deepest) {
         return fail(QStringLiteral("too deep"));
     }
@@ -84,6 +89,8 @@ bool Reader::readMembers(JsonValue& object, int depth) {
     bool isEnd = take(QLatin1Char('}'));
     while (!isEnd) {
         JsonValue member;
+        skipSpace();
+        member.namePlace = {m_line, column(m_position)};
         if (!take(quote)) {
             return fail(QStringLiteral("a name in quotes is expected"));
         }
@@ -119,6 +126,7 @@ bool Reader::readSeparator(QLatin1Char end, bool& isEnd) {
 }
 
 bool Reader::readString(QString& string) {
+    const int quoteBefore = m_position - 1;
     while (true) {
         const int begin = m_position;
         while (!atEnd() && peek() != quote && peek() != backslash && peek().unicode() >= 0x20) {
@@ -126,7 +134,7 @@ bool Reader::readString(QString& string) {
         }
         string += m_text.midRef(begin, m_position - begin);
         if (atEnd() || peek() == QLatin1Char('\n')) {
-            return fail(QStringLiteral("the string is not closed"));
+            return failAt(quoteBefore, QStringLiteral("the string is not closed"));
         }
         if (peek() == quote) {
             ++m_position;
@@ -142,7 +150,7 @@ bool Reader::readString(QString& string) {
 }
 
 bool Reader::readEscape(QString& string) {
-    ++m_position;
+    const int begin = m_position++;
     for (const Escape& escape : escapes) {
         if (peek() == QLatin1Char(escape.letter)) {
             ++m_position;
@@ -154,7 +162,7 @@ bool Reader::readEscape(QString& string) {
     const QStringRef digits = m_text.midRef(m_position + 1, 4);
     const ushort unit = digits.toUShort(&isHexadecimal, 16);
     if (peek() != QLatin1Char('u') || digits.size() != 4 || !isHexadecimal) {
-        return fail(QStringLiteral("a backslash in a string must be doubled"));
+        return failAt(begin, QStringLiteral("a backslash in a string must be doubled"));
     }
     m_position += 5;
     string += QChar(unit);
@@ -175,7 +183,7 @@ bool Reader::readWord(JsonValue& value) {
     } else if (!word.isEmpty() && (word.at(0).isDigit() || word.at(0) == QLatin1Char('-'))) {
         value.kind = JsonValue::Kind::Number;
     } else if (word != QLatin1String("null")) {
-        return fail(QStringLiteral("a value is expected"));
+        return failAt(begin, QStringLiteral("a value is expected"));
     }
     return true;
 }
@@ -190,13 +198,19 @@ bool Reader::take(QLatin1Char wanted) {
 void Reader::skipSpace() {
     while (peek() == QLatin1Char(' ') || peek() == QLatin1Char('\t') || peek() == QLatin1Char('\r') ||
            peek() == QLatin1Char('\n')) {
-        m_line += peek() == QLatin1Char('\n') ? 1 : 0;
-        ++m_position;
+        if (m_text.at(m_position++) == QLatin1Char('\n')) {
+            ++m_line;
+            m_lineBegin = m_position;
+        }
     }
 }
 
 bool Reader::fail(const QString& message) {
-    m_fault = {m_line, message};
+    return failAt(m_position, message);
+}
+
+bool Reader::failAt(int position, const QString& message) {
+    m_fault = {m_line, column(position), message};
     return false;
 }
 
@@ -205,7 +219,7 @@ bool Reader::fail(const QString& message) {
 std::optional<JsonValue> parseJson(const QByteArray& json, JsonFault& fault) {
     const std::optional<QString> text = decoded(json.startsWith("\xEF\xBB\xBF") ? json.mid(3) : json);
     if (!text) {
-        fault = {0, QStringLiteral("the file is not UTF-8")};
+        fault = {0, 0, QStringLiteral("the file is not UTF-8")};
         return std::nullopt;
     }
     JsonValue value;
@@ -216,19 +230,19 @@ std::optional<JsonValue> parseJson(const QByteArray& json, JsonFault& fault) {
 }
 
 JsonValue JsonValue::string(const QString& name, const QString& text) {
-    return {Kind::String, 1, name, text, {}};
+    return {Kind::String, 1, 1, {}, name, text, {}};
 }
 
 JsonValue JsonValue::number(const QString& name, qint64 number) {
-    return {Kind::Number, 1, name, QString::number(number), {}};
+    return {Kind::Number, 1, 1, {}, name, QString::number(number), {}};
 }
 
 JsonValue JsonValue::array(const QString& name) {
-    return {Kind::Array, 1, name, {}, {}};
+    return {Kind::Array, 1, 1, {}, name, {}, {}};
 }
 
 JsonValue JsonValue::object(const QString& name) {
-    return {Kind::Object, 1, name, {}, {}};
+    return {Kind::Object, 1, 1, {}, name, {}, {}};
 }
 
 const JsonValue* JsonValue::member(QLatin1String wanted) const {

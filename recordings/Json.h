@@ -8,13 +8,21 @@
 
 namespace Recordings {
 
-/// One value of a JSON text and the line in which it begins. QJsonDocument has no lines, ends the process when memory
-/// runs out and reads "C:\Games" without its backslash, and without a word.
+/// A place in a text, counted from 1; the column in UTF-16 units, as editors do.
+struct JsonPlace {
+    int line = 1;
+    int column = 1;
+};
+
+/// One value of a JSON text and where it begins. QJsonDocument has no lines, keeps one of two members of a name, ends
+/// the process when memory runs out and reads "C:\Games" without its backslash, and without a word.
 struct JsonValue {
     enum class Kind { Null, Boolean, Number, String, Array, Object };
 
     Kind kind = Kind::Null;
     int line = 1;
+    int column = 1;
+    JsonPlace namePlace;          ///< where the name begins
     QString name;                 ///< of a member of an object
     QString text;                 ///< of a string; a number or a word as it is written
     std::vector<JsonValue> items; ///< of an array, or the members of an object in their order
@@ -29,7 +37,8 @@ struct JsonValue {
 };
 
 struct JsonFault {
-    int line = 0;
+    int line = 0; ///< 0 for the whole text
+    int column = 0;
     QString message;
 };
 

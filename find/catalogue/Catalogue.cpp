@@ -1,11 +1,9 @@
 #include "find/catalogue/Catalogue.h"
 
 #include "find/catalogue/CatalogueReader.h"
-#include "find/catalogue/JsonText.h"
+#include "recordings/Json.h"
 
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonParseError>
 
 #include <algorithm>
 #include <cstdio>
@@ -14,67 +12,46 @@ namespace Find {
 
 namespace {
 
-CatalogueFault textFault(const QByteArray& json, int offset, const QString& message) {
-    const TextPosition position = textPosition(json, offset);
-    return {position.line, position.column, message};
+const QLatin1String byteOrderMark("\xEF\xBB\xBF");
+
+CatalogueFaults wholeFault(const QString& message) {
+    return {{0, 0, message}};
 }
 
-/// The fault of a text that holds no JSON document; no value when it holds one, which is then in `document`.
-std::optional<CatalogueFault> parseDocument(const QByteArray& json, QJsonDocument& document) {
-    if (json.trimmed().isEmpty()) {
-        return CatalogueFault{0, 0, QStringLiteral("the file is empty")};
-    }
-    if (json.startsWith("\xFF\xFE") || json.startsWith("\xFE\xFF")) {
-        return CatalogueFault{0, 0, QStringLiteral("the file is UTF-16; UTF-8 is needed")};
-    }
-    const std::optional<JsonFault> stringFault = findStringFault(json);
-    if (stringFault) {
-        return textFault(json, stringFault->offset, stringFault->message);
-    }
-    QJsonParseError error;
-    document = QJsonDocument::fromJson(json, &error);
-    if (error.error != QJsonParseError::NoError) {
-        // Qt has gone past the character at fault, unless all before it was good.
-        const bool isBehind = error.error != QJsonParseError::GarbageAtEnd;
-        return textFault(json, error.offset - (isBehind ? 1 : 0), error.errorString());
-    }
-    return std::nullopt;
+bool isEmpty(const QByteArray& json) {
+    const int begin = json.startsWith(byteOrderMark.data()) ? byteOrderMark.size() : 0;
+    return json.mid(begin).trimmed().isEmpty();
 }
 
 } // namespace
 
-std::optional<Catalogue> parseCatalogue(const QByteArray& json, CatalogueFault& fault) {
-    const QByteArray byteOrderMark = QByteArrayLiteral("\xEF\xBB\xBF");
-    const QByteArray text = json.startsWith(byteOrderMark) ? json.mid(byteOrderMark.size()) : json;
-    QJsonDocument document;
-    const std::optional<CatalogueFault> documentFault = parseDocument(text, document);
-    if (documentFault) {
-        fault = *documentFault;
+std::optional<Catalogue> parseCatalogue(const QByteArray& json, CatalogueFaults& faults) {
+    if (isEmpty(json)) {
+        faults = wholeFault(QStringLiteral("the file is empty"));
         return std::nullopt;
     }
-
+    Recordings::JsonFault fault;
+    const std::optional<Recordings::JsonValue> document = Recordings::parseJson(json, fault);
+    if (!document) {
+        faults = {{fault.line, fault.column, fault.message}};
+        return std::nullopt;
+    }
     CatalogueReader reader;
-    Catalogue catalogue;
-    if (!reader.read(document, catalogue)) {
-        fault = {0, 0, reader.fault()};
-        return std::nullopt;
-    }
-    return catalogue;
+    Catalogue catalogue = reader.read(*document);
+    faults = reader.faults();
+    return faults.empty() ? std::optional<Catalogue>(std::move(catalogue)) : std::nullopt;
 }
 
-std::optional<Catalogue> readCatalogue(const QString& fileName, CatalogueFault& fault) {
+std::optional<Catalogue> readCatalogue(const QString& fileName, CatalogueFaults& faults) {
     QFile file(fileName);
     const bool isInput = fileName == QLatin1String("-");
-    if (!(isInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly))) {
-        fault = {0, 0, QStringLiteral("cannot be read: ") + file.errorString()};
-        return std::nullopt;
-    }
-    const QByteArray json = file.readAll();
+    const bool isOpen = isInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    const QByteArray json = isOpen ? file.readAll() : QByteArray();
     if (file.error() != QFileDevice::NoError) {
-        fault = {0, 0, QStringLiteral("cannot be read: ") + file.errorString()};
+        faults = wholeFault(QStringLiteral("cannot be read: ") + file.errorString());
         return std::nullopt;
     }
-    return parseCatalogue(json, fault);
+    return parseCatalogue(json, faults);
 }
 
 std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringList& names, QString& unknown) {

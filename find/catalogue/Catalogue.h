@@ -31,20 +31,22 @@ using Catalogue = std::vector<Game>;
 
 /// Why a catalogue cannot be used.
 struct CatalogueFault {
-    int line = 0; ///< line and column count from 1; both 0 when the fault is not one of the JSON text
+    int line = 0; ///< line and column count from 1; both 0 when the fault is one of the whole file
     int column = 0;
     QString message;
 };
 
+using CatalogueFaults = std::vector<CatalogueFault>;
+
 /// The number of finders that one multi finder holds.
 constexpr std::size_t mostFinders = 11;
 
-/// The catalogue that a JSON text describes (docs/catalogue.md). No value when it has a fault; `fault` is then the
-/// first one.
-std::optional<Catalogue> parseCatalogue(const QByteArray& json, CatalogueFault& fault);
+/// The catalogue that a JSON text describes (docs/catalogue.md). No value when it has faults; `faults` are then all of
+/// them in their order, or the first when the text is no JSON.
+std::optional<Catalogue> parseCatalogue(const QByteArray& json, CatalogueFaults& faults);
 
 /// The same for a file; "-" is standard input.
-std::optional<Catalogue> readCatalogue(const QString& file, CatalogueFault& fault);
+std::optional<Catalogue> readCatalogue(const QString& file, CatalogueFaults& faults);
 
 /// The games of these names, each once and in the catalogue's order, letter case ignored; all when there are no names.
 /// No value when a name is not in the catalogue; `unknown` is then that name.

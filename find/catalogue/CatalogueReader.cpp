@@ -1,11 +1,7 @@
 #include "find/catalogue/CatalogueReader.h"
 
 #include "find/catalogue/FinderTypes.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QJsonValue>
+#include "find/terminal/DidYouMean.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,41 +11,52 @@ namespace Find {
 
 namespace {
 
-QString typeField() {
-    return QStringLiteral("type");
+using Kind = Recordings::JsonValue::Kind;
+
+const QLatin1String typeMember("type");
+const QLatin1String gamesMember("games");
+const QLatin1String nameMember("name");
+const QLatin1String findersMember("finders");
+const QLatin1String schemaMember("$schema"); // by which editors know what can stand in the file
+
+QString pathOf(const QString& path, const QString& member) {
+    return path.isEmpty() ? member : path + QLatin1Char('.') + member;
 }
 
-QString placeOf(const QString& place, const QString& field) {
-    return place.isEmpty() ? field : place + QLatin1Char('.') + field;
+QString pathOf(const QString& path, std::size_t index) {
+    return QStringLiteral("%1[%2]").arg(path).arg(index);
 }
 
-QString placeOf(const QString& place, int index) {
-    return QStringLiteral("%1[%2]").arg(place).arg(index);
-}
-
-QString typeName(int type) {
-    switch (type) {
-    case QJsonValue::Bool:
+QString kindName(Kind kind) {
+    switch (kind) {
+    case Kind::Boolean:
         return QStringLiteral("a truth value");
-    case QJsonValue::Double:
+    case Kind::Number:
         return QStringLiteral("a number");
-    case QJsonValue::String:
+    case Kind::String:
         return QStringLiteral("a string");
-    case QJsonValue::Array:
+    case Kind::Array:
         return QStringLiteral("a list");
-    case QJsonValue::Object:
+    case Kind::Object:
         return QStringLiteral("an object");
-    default:
-        return QStringLiteral("null");
+    case Kind::Null:
+        break;
     }
+    return QStringLiteral("null");
 }
 
-QString knownTypes() {
+QStringList knownTypes() {
     QStringList names;
     for (const FinderType& type : finderTypes()) {
         names.append(QLatin1String(type.name));
     }
-    return names.join(QLatin1String(", "));
+    return names;
+}
+
+/// What could have been written in the place of a word that is not known.
+QString hint(const QString& word, const QStringList& known) {
+    const QString meant = didYouMean(word, known);
+    return meant.isEmpty() ? QStringLiteral(" (known: %1)").arg(known.join(QLatin1String(", "))) : meant;
 }
 
 bool hasControlCharacter(const QString& text) {
@@ -59,166 +66,192 @@ bool hasControlCharacter(const QString& text) {
 
 } // namespace
 
-bool CatalogueReader::read(const QJsonDocument& document, Catalogue& catalogue) {
-    const QString field = QStringLiteral("games");
-    const QJsonValue root = document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
-    if (!expectType(root, QString(), QJsonValue::Object) || !expectFields(root.toObject(), QString(), {field}) ||
-        !expectType(root[field], field, QJsonValue::Array)) {
-        return false;
+Catalogue CatalogueReader::read(const Recordings::JsonValue& document) {
+    Catalogue catalogue;
+    if (!expectKind(document, QString(), Kind::Object)) {
+        return catalogue;
     }
-    const QJsonArray games = root[field].toArray();
-    for (int i = 0; i < games.size(); ++i) {
-        const QString place = placeOf(field, i);
-        Game game;
-        if (!readGame(games[i], place, game) || !expectNewName(catalogue, place, game.name)) {
-            return false;
-        }
+    expectMembers(document, QString(), {gamesMember}, {schemaMember});
+    const Value* const schema = document.member(schemaMember);
+    if (schema != nullptr) {
+        expectKind(*schema, schemaMember, Kind::String);
+    }
+    const Value* const games = document.member(gamesMember);
+    if (games == nullptr || !expectKind(*games, gamesMember, Kind::Array)) {
+        return catalogue;
+    }
+    for (std::size_t i = 0; i < games->items.size(); ++i) {
+        const QString path = pathOf(gamesMember, i);
+        Game game = readGame(games->items[i], path);
+        expectNewName(catalogue, games->items[i], path, game.name);
         catalogue.push_back(std::move(game));
     }
-    return true;
+    return catalogue;
 }
 
-bool CatalogueReader::readGame(const QJsonValue& value, const QString& place, Game& game) {
-    const QString name = QStringLiteral("name");
-    const QString finders = QStringLiteral("finders");
-    return expectType(value, place, QJsonValue::Object) && expectFields(value.toObject(), place, {name, finders}) &&
-           readValue(value[name], placeOf(place, name), game.name) &&
-           readValue(value[finders], placeOf(place, finders), game.finders);
+CatalogueFaults CatalogueReader::faults() const {
+    CatalogueFaults sorted = m_faults;
+    std::stable_sort(sorted.begin(), sorted.end(), [](const CatalogueFault& a, const CatalogueFault& b) {
+        return a.line != b.line ? a.line < b.line : a.column < b.column;
+    });
+    return sorted;
 }
 
-bool CatalogueReader::readFinder(const QJsonValue& value, const QString& place, FinderEntry& entry) {
-    const QJsonObject object = value.toObject();
-    if (!expectType(value, place, QJsonValue::Object) || !readType(object, place, entry)) {
-        return false;
+Game CatalogueReader::readGame(const Value& value, const QString& path) {
+    Game game;
+    if (!expectKind(value, path, Kind::Object)) {
+        return game;
     }
-    QStringList required = {typeField()};
+    expectMembers(value, path, {nameMember, findersMember});
+    if (const Value* const name = value.member(nameMember)) {
+        readInto(game.name, *name, pathOf(path, nameMember));
+    }
+    if (const Value* const finders = value.member(findersMember)) {
+        readInto(game.finders, *finders, pathOf(path, findersMember));
+    }
+    return game;
+}
+
+FinderEntry CatalogueReader::readFinder(const Value& value, const QString& path) {
+    FinderEntry entry;
+    entry.type = expectKind(value, path, Kind::Object) ? readType(value, path) : nullptr;
+    if (entry.type == nullptr) {
+        return entry;
+    }
+    QStringList required = {typeMember};
     QStringList optional;
     for (const FinderField& field : entry.type->fields) {
         const bool isNumber = std::holds_alternative<int FinderEntry::*>(field.target);
         (isNumber ? optional : required).append(QLatin1String(field.name));
     }
-    return expectFields(object, place, required, optional) &&
-           std::all_of(entry.type->fields.begin(), entry.type->fields.end(),
-                       [&](const FinderField& field) { return readField(object, place, field, entry); });
-}
-
-bool CatalogueReader::readType(const QJsonObject& object, const QString& place, FinderEntry& entry) {
-    if (!object.contains(typeField())) {
-        return fail(place, QStringLiteral("\"type\" is missing"));
-    }
-    QString name;
-    if (!readValue(object[typeField()], placeOf(place, typeField()), name)) {
-        return false;
-    }
-    entry.type = findFinderType(name);
-    return entry.type != nullptr ||
-           fail(place, QStringLiteral("unknown type \"%1\" (known: %2)").arg(name, knownTypes()));
-}
-
-bool CatalogueReader::readField(const QJsonObject& object, const QString& place, const FinderField& field,
-                                FinderEntry& entry) {
-    const QString name = QLatin1String(field.name);
-    if (!object.contains(name)) {
-        return true;
-    }
-    return std::visit([&](auto target) { return readValue(object[name], placeOf(place, name), entry.*target); },
-                      field.target);
-}
-
-bool CatalogueReader::readValue(const QJsonValue& value, const QString& place, std::vector<FinderEntry>& finders) {
-    if (!expectType(value, place, QJsonValue::Array)) {
-        return false;
-    }
-    const QJsonArray entries = value.toArray();
-    if (static_cast<std::size_t>(entries.size()) > mostFinders) {
-        return fail(place, QStringLiteral("%1 finders are more than a game can have (%2; put some into a \"multi\")")
-                               .arg(entries.size())
-                               .arg(mostFinders));
-    }
-    finders.resize(static_cast<std::size_t>(entries.size()));
-    for (int i = 0; i < entries.size(); ++i) {
-        if (!readFinder(entries[i], placeOf(place, i), finders[static_cast<std::size_t>(i)])) {
-            return false;
+    expectMembers(value, path, required, optional);
+    for (const FinderField& field : entry.type->fields) {
+        if (const Value* const member = value.member(QLatin1String(field.name))) {
+            readMember(*member, pathOf(path, QLatin1String(field.name)), field, entry);
         }
     }
-    return true;
+    return entry;
 }
 
-bool CatalogueReader::readValue(const QJsonValue& value, const QString& place, QStringList& texts) {
-    if (!expectType(value, place, QJsonValue::Array)) {
-        return false;
+const FinderType* CatalogueReader::readType(const Value& object, const QString& path) {
+    const Value* const type = object.member(typeMember);
+    if (type == nullptr) {
+        fail(object, path, QStringLiteral("\"type\" is missing"));
+        return nullptr;
     }
-    const QJsonArray elements = value.toArray();
-    for (int i = 0; i < elements.size(); ++i) {
+    if (!expectKind(*type, pathOf(path, typeMember), Kind::String)) {
+        return nullptr;
+    }
+    const FinderType* const found = findFinderType(type->text);
+    if (found == nullptr) {
+        fail(*type, path, QStringLiteral("unknown type \"%1\"").arg(type->text) + hint(type->text, knownTypes()));
+    }
+    return found;
+}
+
+void CatalogueReader::readMember(const Value& member, const QString& path, const FinderField& field,
+                                 FinderEntry& entry) {
+    std::visit([&](auto target) { readInto(entry.*target, member, path); }, field.target);
+}
+
+void CatalogueReader::readInto(std::vector<FinderEntry>& finders, const Value& value, const QString& path) {
+    if (!expectKind(value, path, Kind::Array)) {
+        return;
+    }
+    if (value.items.size() > mostFinders) {
+        fail(value, path,
+             QStringLiteral("%1 finders are more than a game can have (%2; put some into a \"multi\")")
+                 .arg(value.items.size())
+                 .arg(mostFinders));
+    }
+    for (std::size_t i = 0; i < value.items.size(); ++i) {
+        finders.push_back(readFinder(value.items[i], pathOf(path, i)));
+    }
+}
+
+void CatalogueReader::readInto(QStringList& texts, const Value& value, const QString& path) {
+    if (!expectKind(value, path, Kind::Array)) {
+        return;
+    }
+    for (std::size_t i = 0; i < value.items.size(); ++i) {
         QString text;
-        if (!readValue(elements[i], placeOf(place, i), text)) {
-            return false;
-        }
+        readInto(text, value.items[i], pathOf(path, i));
         texts.append(text);
     }
-    return true;
 }
 
-bool CatalogueReader::readValue(const QJsonValue& value, const QString& place, QString& text) {
-    if (!expectType(value, place, QJsonValue::String)) {
-        return false;
+void CatalogueReader::readInto(QString& text, const Value& value, const QString& path) {
+    if (!expectKind(value, path, Kind::String)) {
+        return;
     }
-    text = value.toString();
+    text = value.text;
     if (hasControlCharacter(text)) {
         // "D:\bin\new" is good JSON, but no folder.
-        return fail(place, QStringLiteral("control character in a text (a backslash is written \\\\)"));
+        fail(value, path, QStringLiteral("control character in a text (a backslash is written \\\\)"));
     }
-    return true;
 }
 
-bool CatalogueReader::readValue(const QJsonValue& value, const QString& place, int& number) {
-    if (!expectType(value, place, QJsonValue::Double)) {
-        return false;
+void CatalogueReader::readInto(int& number, const Value& value, const QString& path) {
+    if (!expectKind(value, path, Kind::Number)) {
+        return;
     }
-    const double wanted = value.toDouble();
-    if (std::trunc(wanted) != wanted || wanted < std::numeric_limits<int>::min() ||
+    bool isNumber = false;
+    const double wanted = value.text.toDouble(&isNumber);
+    if (!isNumber || std::trunc(wanted) != wanted || wanted < std::numeric_limits<int>::min() ||
         wanted > std::numeric_limits<int>::max()) {
-        return fail(place, QStringLiteral("a whole number of 32 bits is needed"));
+        fail(value, path, QStringLiteral("a whole number of 32 bits is needed"));
+        return;
     }
     number = static_cast<int>(wanted);
-    return true;
 }
 
-bool CatalogueReader::expectType(const QJsonValue& value, const QString& place, int type) {
-    return value.type() == type ||
-           fail(place, QStringLiteral("%1 is needed, not %2").arg(typeName(type), typeName(value.type())));
+bool CatalogueReader::expectKind(const Value& value, const QString& path, Value::Kind kind) {
+    return value.kind == kind ||
+           fail(value, path, QStringLiteral("%1 is needed, not %2").arg(kindName(kind), kindName(value.kind)));
 }
 
-bool CatalogueReader::expectFields(const QJsonObject& object, const QString& place, const QStringList& required,
-                                   const QStringList& optional) {
+void CatalogueReader::expectMembers(const Value& object, const QString& path, const QStringList& required,
+                                    const QStringList& optional) {
     const QStringList known = required + optional;
-    const QStringList present = object.keys();
-    for (const QString& name : present) {
-        if (!known.contains(name)) {
-            return fail(place,
-                        QStringLiteral("unknown field \"%1\" (known: %2)").arg(name, known.join(QLatin1String(", "))));
+    QStringList present;
+    for (const Value& member : object.items) {
+        const QString name = QStringLiteral("\"%1\"").arg(member.name);
+        if (!known.contains(member.name)) {
+            failAt(member.namePlace, path, QStringLiteral("unknown field ") + name + hint(member.name, known));
+        } else if (present.contains(member.name)) {
+            failAt(member.namePlace, path, name + QStringLiteral(" is there twice"));
         }
+        present.append(member.name);
     }
     for (const QString& name : required) {
         if (!present.contains(name)) {
-            return fail(place, QStringLiteral("\"%1\" is missing").arg(name));
+            fail(object, path, QStringLiteral("\"%1\" is missing").arg(name));
         }
     }
-    return true;
 }
 
-bool CatalogueReader::expectNewName(const Catalogue& catalogue, const QString& place, const QString& name) {
-    if (name.isEmpty()) {
-        return fail(place, QStringLiteral("\"name\" is empty"));
+void CatalogueReader::expectNewName(const Catalogue& catalogue, const Value& game, const QString& path,
+                                    const QString& name) {
+    const Value* const value = game.member(nameMember);
+    if (value == nullptr || value->kind != Kind::String) {
+        return; // which was told
     }
-    const bool isTaken = std::any_of(catalogue.begin(), catalogue.end(), [&](const Game& game) {
-        return game.name.compare(name, Qt::CaseInsensitive) == 0;
+    const bool isTaken = std::any_of(catalogue.begin(), catalogue.end(), [&](const Game& other) {
+        return other.name.compare(name, Qt::CaseInsensitive) == 0;
     });
-    return !isTaken || fail(place, QStringLiteral("there is a game \"%1\" already").arg(name));
+    if (name.isEmpty()) {
+        fail(*value, path, QStringLiteral("\"name\" is empty"));
+    } else if (isTaken) {
+        fail(*value, path, QStringLiteral("there is a game \"%1\" already").arg(name));
+    }
 }
 
-bool CatalogueReader::fail(const QString& place, const QString& message) {
-    m_fault = place.isEmpty() ? message : place + QLatin1String(": ") + message;
+bool CatalogueReader::fail(const Value& value, const QString& path, const QString& message) {
+    return failAt({value.line, value.column}, path, message);
+}
+
+bool CatalogueReader::failAt(const Recordings::JsonPlace& place, const QString& path, const QString& message) {
+    m_faults.push_back({place.line, place.column, path.isEmpty() ? message : path + QLatin1String(": ") + message});
     return false;
 }
 

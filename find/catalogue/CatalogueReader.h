@@ -1,47 +1,48 @@
 #pragma once
 
 #include "find/catalogue/Catalogue.h"
+#include "recordings/Json.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <vector>
 
-class QJsonDocument;
-class QJsonObject;
-class QJsonValue;
-
 namespace Find {
 
 struct FinderField;
 
-/// Reads games and finders out of a JSON document and stops at the first fault. Each operation is false when there is
-/// one; what it should have filled is then partly filled. `place` says where in the document a value is, as in
-/// "games[2].finders[0]"; empty for the whole document.
+/// Reads games and finders out of a JSON document and notes all its faults. `path` says where in the document a value
+/// is, as in "games[2].finders[0]"; empty for the whole document.
 class CatalogueReader {
 public:
-    bool read(const QJsonDocument& document, Catalogue& catalogue);
+    /// What is at fault is left out, or empty.
+    Catalogue read(const Recordings::JsonValue& document);
 
-    /// The fault's place and what it is; empty when there is none.
-    QString fault() const { return m_fault; }
+    /// In the order of the text; empty when there are none.
+    CatalogueFaults faults() const;
 
 private:
-    bool readGame(const QJsonValue& value, const QString& place, Game& game);
-    bool readFinder(const QJsonValue& value, const QString& place, FinderEntry& entry);
-    bool readType(const QJsonObject& object, const QString& place, FinderEntry& entry);
-    bool readField(const QJsonObject& object, const QString& place, const FinderField& field, FinderEntry& entry);
-    bool readValue(const QJsonValue& value, const QString& place, std::vector<FinderEntry>& finders);
-    bool readValue(const QJsonValue& value, const QString& place, QStringList& texts);
-    bool readValue(const QJsonValue& value, const QString& place, QString& text);
-    bool readValue(const QJsonValue& value, const QString& place, int& number);
+    using Value = Recordings::JsonValue;
 
-    bool expectType(const QJsonValue& value, const QString& place, int type);
-    bool expectFields(const QJsonObject& object, const QString& place, const QStringList& required,
-                      const QStringList& optional = {});
-    bool expectNewName(const Catalogue& catalogue, const QString& place, const QString& name);
-    bool fail(const QString& place, const QString& message);
+    Game readGame(const Value& value, const QString& path);
+    FinderEntry readFinder(const Value& value, const QString& path);
+    const FinderType* readType(const Value& object, const QString& path);
+    void readMember(const Value& member, const QString& path, const FinderField& field, FinderEntry& entry);
 
-    QString m_fault;
+    void readInto(std::vector<FinderEntry>& finders, const Value& value, const QString& path);
+    void readInto(QStringList& texts, const Value& value, const QString& path);
+    void readInto(QString& text, const Value& value, const QString& path);
+    void readInto(int& number, const Value& value, const QString& path);
+
+    bool expectKind(const Value& value, const QString& path, Value::Kind kind);
+    void expectMembers(const Value& object, const QString& path, const QStringList& required,
+                       const QStringList& optional = {});
+    void expectNewName(const Catalogue& catalogue, const Value& game, const QString& path, const QString& name);
+    bool fail(const Value& value, const QString& path, const QString& message);
+    bool failAt(const Recordings::JsonPlace& place, const QString& path, const QString& message);
+
+    CatalogueFaults m_faults;
 };
 
 } // namespace Find

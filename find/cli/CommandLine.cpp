@@ -1,7 +1,7 @@
 #include "find/cli/CommandLine.h"
 
 #include "find/cli/CommandTree.h"
-#include "find/cli/DidYouMean.h"
+#include "find/terminal/DidYouMean.h"
 
 #include <QFileInfo>
 

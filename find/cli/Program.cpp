@@ -9,7 +9,6 @@
 #include "find/catalogue/Catalogue.h"
 #include "find/cli/CommandForms.h"
 #include "find/cli/CommandLine.h"
-#include "find/cli/DidYouMean.h"
 #include "find/cli/JsonReply.h"
 #include "find/cli/RecordCommand.h"
 #include "find/cli/ReportCommand.h"
@@ -17,6 +16,7 @@
 #include "find/explain/Explanation.h"
 #include "find/explain/PluginTrace.h"
 #include "find/terminal/Console.h"
+#include "find/terminal/DidYouMean.h"
 #include "find/terminal/OneLine.h"
 #include "find/terminal/Progress.h"
 
@@ -48,10 +48,12 @@ QString shownName(const QString& file) {
     return file == standardInput() ? QStringLiteral("standard input") : file;
 }
 
-void complainOfCatalogue(const Options& options, const CatalogueFault& fault) {
+void complainOfCatalogue(const Options& options, const CatalogueFaults& faults) {
     const bool mayBeCommand = options.command == Command::FindGames && !QFileInfo::exists(options.catalogue);
     const QString meant = mayBeCommand ? didYouMean(options.catalogue, commandNames()) : QString();
-    Console::complain({shownName(options.catalogue), fault.line, fault.column, fault.message + meant});
+    for (const CatalogueFault& fault : faults) {
+        Console::complain({shownName(options.catalogue), fault.line, fault.column, fault.message + meant});
+    }
 }
 
 /// The games that the command is about. No value after a fault, of which the user has been told.
@@ -59,10 +61,10 @@ std::optional<Catalogue> loadGames(const Options& options) {
     if (options.command == Command::Runtimes || options.command == Command::Forget) {
         return Catalogue();
     }
-    CatalogueFault fault;
-    const std::optional<Catalogue> catalogue = readCatalogue(options.catalogue, fault);
+    CatalogueFaults faults;
+    const std::optional<Catalogue> catalogue = readCatalogue(options.catalogue, faults);
     if (!catalogue) {
-        complainOfCatalogue(options, fault);
+        complainOfCatalogue(options, faults);
         return std::nullopt;
     }
     QString unknown;

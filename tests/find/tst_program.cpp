@@ -138,7 +138,7 @@ TEST(Program, StandardInputIsRead) {
     program.setInput(twoGames);
     EXPECT_EQ(program.run({"-"}).output, program.run({program.file("games.json", twoGames)}).output);
     program.setInput("{\"games\": [\n    \"abc\n]}");
-    expectComplaint(program.run({"-"}), "luruludri-find: standard input:2:5: unterminated string");
+    expectComplaint(program.run({"-"}), "luruludri-find: standard input:2:5: the string is not closed");
 }
 
 TEST(Program, ARecordedPcIsReadFromStandardInput) {
@@ -173,7 +173,7 @@ TEST(Program, WithJsonErrorsAreJsonToo) {
     FindProgram program;
     const FindRun broken = program.run({"--json", program.file("Käfer.json", "{\"games\": [\n    \"abc\n]}")});
     EXPECT_EQ(broken.exitStatus, 2);
-    EXPECT_EQ(errorsOf(broken), QStringList{"unterminated string"});
+    EXPECT_EQ(errorsOf(broken), QStringList{"the string is not closed"});
     const QJsonObject error = QJsonDocument::fromJson(broken.output.toUtf8())["errors"][0].toObject();
     EXPECT_TRUE(error["file"].toString().endsWith("Käfer.json"));
     EXPECT_EQ(error["line"].toInt(), 2);
@@ -258,11 +258,11 @@ TEST(Program, ACatalogueThatCannotBeReadIsToldWithItsName) {
 TEST(Program, ABrokenCatalogueIsToldWithThePlace) {
     const FindProgram program;
     expectComplaint(program.run({program.file("Käfer.json", "{\"games\": [\n    \"abc\n]}")}),
-                    "Käfer.json:2:5: unterminated string");
+                    "Käfer.json:2:5: the string is not closed");
     expectComplaint(program.run({program.file("b.json", R"({"games": [{"name": "a", "finders": [{}]}]})")}),
-                    "b.json: games[0].finders[0]: \"type\" is missing");
+                    "b.json:1:38: games[0].finders[0]: \"type\" is missing");
     expectComplaint(program.run({program.file("c.json", R"({"games": [], "a\nb\u001b": 1})")}),
-                    "c.json: unknown field \"a b \" (known: games)");
+                    "c.json:1:15: unknown field \"a b \" (known: games, $schema)");
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
 

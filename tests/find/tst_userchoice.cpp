@@ -22,9 +22,9 @@ constexpr const char* games = R"({"games": [
         {"type": "userProvidedLocation", "key": "installed", "executables": ["w.exe"]}]}]}]})";
 
 TEST(UserChoice, TheCatalogueSaysWhatTheExecutablesAre) {
-    Find::CatalogueFault fault;
-    const auto catalogue = Find::parseCatalogue(games, fault);
-    ASSERT_TRUE(catalogue) << fault.message.toStdString();
+    Find::CatalogueFaults faults;
+    const auto catalogue = Find::parseCatalogue(games, faults);
+    ASSERT_TRUE(catalogue) << faults.front().message.toStdString();
     EXPECT_EQ(Find::executablesFor(*catalogue, "Käfer"), (QStringList{"bin\\k.exe", "k.exe", "wal.exe"}));
     EXPECT_EQ(Find::executablesFor(*catalogue, "installed "), QStringList{"w.exe"});
     EXPECT_EQ(Find::executablesFor(*catalogue, "käfer"), QStringList());

@@ -33,7 +33,7 @@ expect_package() {
     shift 2
     expect_equal "files of the package" "$(cd "$folder" && find . -type f -printf '%P\n' | LC_ALL=C sort)" "$(
         {
-            printf '%s\n' README.md bin/catalogue.json docs/host/{CMakeLists.txt,main.cpp} \
+            printf '%s\n' README.md bin/catalogue.json docs/catalogue.schema.json docs/host/{CMakeLists.txt,main.cpp} \
                 include/luruludri/{GameLocation,IGameFinder,IGameFinderFactory}.h \
                 lib/cmake/Luruludri/{DebugHost.h,LuruludriConfig.cmake,LuruludriConfigVersion.cmake} "$@"
             (cd "$source" && printf '%s\n' docs/*.md | grep -vE '/(architecture|testing|performance)\.md$')

@@ -44,6 +44,18 @@ TEST(JsonTest, ReadsMembersAndItemsWithTheirLines) {
     EXPECT_EQ(value.items[1].line, 6);
 }
 
+TEST(JsonTest, KnowsTheColumnsOfValuesAndNames) {
+    const JsonValue value = read("{\"ä\": [1,\r\n \"x\", {} ],\n\t\"b\" :  false}");
+    EXPECT_EQ(value.column, 1);
+    EXPECT_EQ(value.items[0].namePlace.column, 2);
+    EXPECT_EQ(value.items[0].column, 7);
+    EXPECT_EQ(value.items[0].items[1].column, 2);
+    EXPECT_EQ(value.items[0].items[2].column, 7);
+    EXPECT_EQ(value.items[1].namePlace.line, 3);
+    EXPECT_EQ(value.items[1].namePlace.column, 2);
+    EXPECT_EQ(value.items[1].column, 9);
+}
+
 TEST(JsonTest, ReadsEscapes) {
     EXPECT_EQ(read(R"("\"\\\/\b\f\n\r\t\u00e4\uD834\udd1e")").text, QString("\"\\/\b\f\n\r\tä𝄞"));
 }

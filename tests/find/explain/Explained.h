@@ -14,9 +14,9 @@
 /// What is told, line by line, of a game "Käferrennen" with these finders, after the PC under test was really asked.
 inline QStringList explained(const QByteArray& finders, bool isFull = false) {
     const QString json = QString("{\"games\": [{\"name\": \"Käferrennen\", \"finders\": [%1]}]}");
-    Find::CatalogueFault fault;
-    const auto catalogue = Find::parseCatalogue(json.arg(QString::fromUtf8(finders)).toUtf8(), fault);
-    EXPECT_TRUE(catalogue) << fault.message.toStdString();
+    Find::CatalogueFaults faults;
+    const auto catalogue = Find::parseCatalogue(json.arg(QString::fromUtf8(finders)).toUtf8(), faults);
+    EXPECT_TRUE(catalogue) << faults.front().message.toStdString();
     if (!catalogue) {
         return {};
     }

@@ -1,4 +1,4 @@
-#include "find/cli/DidYouMean.h"
+#include "find/terminal/DidYouMean.h"
 
 #include <algorithm>
 #include <cstdlib>
