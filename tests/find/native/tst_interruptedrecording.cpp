@@ -23,6 +23,9 @@ constexpr const char* oneGame =
 class InterruptedRecordingTest : public ::testing::Test {
 protected:
     void SetUp() override {
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            std::signal(signal, SIG_DFL); // which the program inherits; a shell's background or nohup ignores some
+        }
         program.setVariable("TMPDIR", temporary);
         program.setVariable("XDG_DATA_HOME", program.folder() + "/data");
     }
