@@ -25,7 +25,7 @@ CHANGED_FLAGS = "-O0 -w"
 BUILD_SECONDS = 1200
 LEAST_SECONDS = 30.0  # for the tests of a program
 # A changed program may allocate or write without end.
-LIMITS = ["prlimit", "--as=8589934592", "--fsize=67108864", "--core=0", "--"]
+LIMITS = ["prlimit", "--as=8589934592", "--fsize=1073741824", "--core=0", "--"]
 
 
 class BenchError(Exception):
