@@ -10,6 +10,7 @@ namespace Find {
 /// What the program does.
 enum class Command {
     FindGames,
+    List,     ///< tells all that is installed
     Runtimes, ///< asks for the VR runtimes only
     Locate,   ///< remembers where the user has a game
     Forget,   ///< forgets it

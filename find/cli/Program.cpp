@@ -10,6 +10,7 @@
 #include "find/cli/CommandForms.h"
 #include "find/cli/CommandLine.h"
 #include "find/cli/JsonReply.h"
+#include "find/cli/ListCommand.h"
 #include "find/cli/RecordCommand.h"
 #include "find/cli/ReportCommand.h"
 #include "find/cli/UnpackCommand.h"
@@ -58,7 +59,8 @@ void complainOfCatalogue(const Options& options, const CatalogueFaults& faults) 
 
 /// The games that the command is about. No value after a fault, of which the user has been told.
 std::optional<Catalogue> loadGames(const Options& options) {
-    if (options.command == Command::Runtimes || options.command == Command::Forget) {
+    if (options.command == Command::List || options.command == Command::Runtimes ||
+        options.command == Command::Forget) {
         return Catalogue();
     }
     CatalogueFaults faults;
@@ -137,7 +139,8 @@ ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& ga
         return explainGame(*factory, options, games, *trace);
     case Command::FindGames:
     case Command::Runtimes:
-    case Command::Record: // which ask otherwise
+    case Command::List: // which ask otherwise
+    case Command::Record:
     case Command::Report:
     case Command::Unpack: // which asks nothing
         break;
@@ -172,6 +175,8 @@ QString refusalToChoose(const Options& options, const std::optional<Recordings::
 
 ExitStatus act(const Options& options, const Catalogue& games, const Recordings::Pc* pc, const QStringList& problems) {
     switch (options.command) {
+    case Command::List:
+        return listPc(options);
     case Command::Record:
         return recordPc(options, games, pc);
     case Command::Report:

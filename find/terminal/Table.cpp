@@ -3,7 +3,6 @@
 #include "find/terminal/OneLine.h"
 #include "find/terminal/TableLayout.h"
 #include "find/terminal/TextWidth.h"
-#include "find/terminal/WrapText.h"
 
 #include <QLatin1String>
 #include <QStringList>
@@ -14,35 +13,24 @@ namespace Find {
 
 namespace {
 
-constexpr int hangingIndent = 2; // tells the rest of a cell from the next cell
-
 QString blanks(int count) {
     return QString(count, QLatin1Char(' '));
 }
 
-/// A cell as lines of at most `width` columns; at least one.
 QStringList linesOf(const TableCell& cell, int width) {
-    const QString text = oneLine(cell.text);
-    if (displayWidth(text) <= width) {
-        return {text};
-    }
-    QStringList lines = wrapText(text, width, std::max(width - hangingIndent, 1));
-    for (int i = 1; i < lines.size(); ++i) {
-        lines[i].prepend(blanks(hangingIndent));
-    }
-    return lines;
+    return hangingLines(oneLine(cell.text), width);
 }
 
 /// Collects lines of cells.
 class Lines {
 public:
     explicit Lines(const Terminal& terminal)
-        : m_isColoured(terminal.colours) {}
+        : m_terminal(terminal) {}
 
     /// The next cell of the line, at this column.
     void put(int column, const QString& text, Tone tone) {
         if (!text.isEmpty()) {
-            m_line += blanks(column - m_width) + coloured(text, tone);
+            m_line += blanks(column - m_width) + coloured(text, tone, m_terminal);
             m_width = column + displayWidth(text);
         }
     }
@@ -56,15 +44,7 @@ public:
     const QString& text() const { return m_text; }
 
 private:
-    QString coloured(const QString& text, Tone tone) const {
-        if (!m_isColoured || tone == Tone::Plain) {
-            return text;
-        }
-        const char* const colour = tone == Tone::Heading ? "\x1B[1m" : tone == Tone::Good ? "\x1B[32m" : "\x1B[33m";
-        return QLatin1String(colour) + text + QLatin1String("\x1B[0m");
-    }
-
-    bool m_isColoured;
+    const Terminal& m_terminal;
     QString m_text;
     QString m_line;
     int m_width = 0;

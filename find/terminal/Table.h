@@ -1,15 +1,13 @@
 #pragma once
 
 #include "find/terminal/Terminal.h"
+#include "find/terminal/ToneText.h"
 
 #include <QString>
 
 #include <vector>
 
 namespace Find {
-
-/// What a cell says at a glance. Shown by colour, so that the text has to say it too.
-enum class Tone { Plain, Heading, Good, Bad };
 
 struct TableCell {
     TableCell(const QString& cellText, Tone cellTone = Tone::Plain)

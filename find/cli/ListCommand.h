@@ -1,0 +1,12 @@
+#pragma once
+
+#include "find/cli/Program.h"
+
+namespace Find {
+
+struct Options;
+
+/// Tells all that is installed.
+ExitStatus listPc(const Options& options);
+
+} // namespace Find

@@ -1,0 +1,153 @@
+#include "FindProgram.h"
+
+#include "common/QtPrinters.h"
+#include "common/TestPc.h"
+#include "find/pc/System.h"
+#include "recordings/Recording.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+/// What the program says with the real plug-in.
+FindRun run(FindProgram& program, const QStringList& arguments) {
+    program.setVariable("XDG_DATA_HOME", program.folder());
+    program.setVariable("XDG_CONFIG_HOME", program.folder());
+    return program.runBare(arguments);
+}
+
+QJsonArray installed(const FindRun& list) {
+    EXPECT_EQ(list.exitStatus, 0) << list.errors.toStdString();
+    return QJsonDocument::fromJson(list.output.toUtf8())["installed"].toArray();
+}
+
+/// The entry of that name and list.
+QJsonValue entry(const QJsonArray& list, const QString& name, const QString& title) {
+    for (const QJsonValue one : list) {
+        if (one["name"] == name && one["list"] == title) {
+            return one;
+        }
+    }
+    ADD_FAILURE() << name.toStdString() << " is not listed";
+    return {};
+}
+
+/// The folder in which the game is found whose line is pasted into an empty catalogue.
+QString folderOfPasted(FindProgram& program, const QStringList& pc, const QString& line) {
+    const QString catalogue = program.file("pasted.json", ("{\"games\": [\n" + line + "\n]}").toUtf8());
+    const FindRun found = run(program, QStringList{"--json", catalogue} + pc);
+    EXPECT_EQ(found.exitStatus, 0) << line.toStdString() << found.output.toStdString();
+    return QJsonDocument::fromJson(found.output.toUtf8())["games"][0]["installFolder"].toString();
+}
+
+TEST(ListCommand, WhatItProposesForTheSamplePcIsFoundWhenItIsPasted) {
+    if (Find::isPcItself()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const QStringList pc = {"--pc", LURULUDRI_SAMPLES "/pc"};
+    const QJsonArray games = installed(run(program, QStringList{"list", "--json"} + pc));
+    const QStringList lines = run(program, QStringList{"list"} + pc).output.split("\n");
+    int pasted = 0;
+    for (const QString& line : lines) {
+        if (line.startsWith("    {\"name\": ")) {
+            while (games[pasted]["finders"].toArray().isEmpty()) {
+                ++pasted;
+            }
+            EXPECT_EQ(folderOfPasted(program, pc, line), games[pasted]["folder"].toString()) << line.toStdString();
+            const QJsonObject proposed = QJsonDocument::fromJson(line.toUtf8()).object();
+            EXPECT_EQ(proposed["finders"], games[pasted]["finders"]) << line.toStdString();
+            EXPECT_EQ(proposed["name"], games[pasted]["name"]);
+            ++pasted;
+        }
+    }
+    EXPECT_EQ(lines.value(lines.size() - 2), "21 installed, 18 of them with a line for a catalogue");
+    EXPECT_EQ(lines.filter("    {\"name\": ").size(), 18);
+}
+
+TEST(ListCommand, TellsAllListsOfTheSamplePc) {
+    if (Find::isPcItself()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    const QJsonArray games = installed(run(program, {"list", "--json", "--pc", LURULUDRI_SAMPLES "/pc"}));
+    EXPECT_EQ(entry(games, "Orbitkurier", "Steam")["folder"].toString(),
+              "D:/SteamLibrary/steamapps/common/Orbitkurier");
+    EXPECT_EQ(entry(games, "Sturmvogel 2 (Version 2.1)", "Uninstall registry")["folder"].toString(),
+              "D:/Spiele/Sturmvogel 2");
+    EXPECT_EQ(entry(games, "競走クラブ", "Start menu")["finders"][0]["executables"][0].toString(), "KeisoClub.exe");
+    EXPECT_EQ(entry(games, "Nebelpflug", "Epic launcher")["finders"][0]["type"].toString(), "epicStore");
+    EXPECT_EQ(entry(games, "federlicht-kolibri-canyon", "Oculus")["finders"][0]["softwareFolder"].toString(),
+              "federlicht-kolibri-canyon");
+    EXPECT_EQ(entry(games, "Zeppelinpost", "Games Explorer")["folder"].toString(), "D:\\Spiele\\Zeppelinpost");
+    EXPECT_EQ(entry(games, "Halmstaub.Gletscherspalte_8t4qz1rk6yw2e", "App packages")["finders"],
+              (QJsonArray{QJsonObject{{"type", "universalApp"},
+                                      {"packageFamily", "Halmstaub.Gletscherspalte_8t4qz1rk6yw2e"}}}));
+    EXPECT_EQ(entry(games, "federlicht-kolibri-canyon_assets", "Oculus")["finders"], QJsonArray());
+}
+
+/// The program over the PC under test.
+FindRun listOf(FindProgram& program, const QStringList& arguments = {"list", "--json"}) {
+    program.setVariable(Recordings::environmentVariable, qEnvironmentVariable(Recordings::environmentVariable));
+    return run(program, arguments);
+}
+
+TEST(ListCommand, AProgramOfTheUninstallRegistryIsListedWithWhatStartsIt) {
+    TestPc pc;
+    const TestKey key = {Platform::RootKey::LocalMachine,
+                         "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Käfer_is1",
+                         Platform::keyWow64_64Key};
+    pc.value(key, "DisplayName", QString("Käferrennen"));
+    pc.value(key, "InstallLocation", QString("D:\\Spiele\\Käfer"));
+    pc.value(key, "UninstallString", QString("D:\\Spiele\\Käfer\\unins000.exe"));
+    pc.file("D:\\Spiele\\Käfer\\unins000.exe");
+    pc.file("D:\\Spiele\\Käfer\\bin\\Kaeferrennen.exe");
+    pc.file("D:\\Spiele\\Käfer\\bin\\käferrennen.exe");
+    pc.file("D:\\Spiele\\Käfer\\crashreport.exe");
+    FindProgram program;
+    const QJsonValue game = entry(installed(listOf(program)), "Käferrennen", "Uninstall registry");
+    EXPECT_EQ(game["folder"].toString(), "D:\\Spiele\\Käfer");
+    EXPECT_EQ(game["finders"][0]["executables"].toArray(),
+              (QJsonArray{"bin\\käferrennen.exe", "bin\\Kaeferrennen.exe"}));
+    const QString line = listOf(program, {"list"}).output.section("    {", 1).section("\n", 0, 0);
+    EXPECT_EQ(folderOfPasted(program, {}, "{" + line), "D:\\Spiele\\Käfer");
+}
+
+TEST(ListCommand, WhatHasNoExecutableIsListedWithoutALine) {
+    TestPc pc;
+    const TestKey key = {Platform::RootKey::LocalMachine,
+                         "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Wal", Platform::keyWow64_64Key};
+    pc.value(key, "DisplayName", QString("Wal"));
+    pc.value(key, "InstallLocation", QString("D:\\Wal"));
+    pc.folder("D:\\Wal");
+    FindProgram program;
+    const QString text = listOf(program, {"list"}).output;
+    EXPECT_TRUE(text.contains("Wal\n    Uninstall registry: D:\\Wal\n    no finder was found for it\n"))
+        << text.toStdString();
+}
+
+TEST(ListCommand, AFolderThatTheUserChoseIsListed) {
+    if (Find::isPcItself()) {
+        GTEST_SKIP() << "the user's settings are the real ones";
+    }
+    TestPc pc;
+    pc.userChoice("wal", "D:\\Wal");
+    pc.file("D:\\Wal\\wal.exe");
+    FindProgram program;
+    const QJsonValue game = entry(installed(listOf(program)), "wal", "User's choices");
+    EXPECT_EQ(game["folder"].toString(), "D:\\Wal");
+    EXPECT_EQ(game["finders"][0]["key"].toString(), "wal");
+}
+
+TEST(ListCommand, APlugInThatTellsNothingIsRefused) {
+    FindProgram program;
+    const FindRun list = program.run({"list"});
+    EXPECT_EQ(list.exitStatus, 2);
+    EXPECT_EQ(list.errors, "luruludri-find: the plug-in did not tell what it read\n");
+}
+
+} // namespace
