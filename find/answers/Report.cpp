@@ -46,17 +46,6 @@ Table tableOf(const std::vector<RuntimeAnswer>& runtimes) {
     return table;
 }
 
-QJsonObject jsonOf(const GameAnswer& game) {
-    return {
-        {QStringLiteral("name"), game.name},
-        {QStringLiteral("found"), game.found},
-        {QStringLiteral("launchCommand"), game.location.launchCommand},
-        {QStringLiteral("executablePath"), game.location.executablePath},
-        {QStringLiteral("executablePaths"), QJsonArray::fromStringList(game.location.executablePaths)},
-        {QStringLiteral("installFolder"), game.location.installFolder},
-    };
-}
-
 QJsonValue jsonOf(const RuntimeAnswer& runtime) {
     return runtime.isList ? QJsonValue(QJsonArray::fromStringList(runtime.values))
                           : QJsonValue(runtime.values.value(0, QStringLiteral("")));
@@ -73,6 +62,17 @@ QString renderTables(const Answers& answers, const Terminal& terminal) {
         std::count_if(answers.games.begin(), answers.games.end(), [](const GameAnswer& game) { return game.found; });
     return renderTable(tableOf(answers.games), terminal) + QLatin1Char('\n') + runtimes +
            QStringLiteral("\n%1 of %2 found\n").arg(found).arg(answers.games.size());
+}
+
+QJsonObject jsonOf(const GameAnswer& game) {
+    return {
+        {QStringLiteral("name"), game.name},
+        {QStringLiteral("found"), game.found},
+        {QStringLiteral("launchCommand"), game.location.launchCommand},
+        {QStringLiteral("executablePath"), game.location.executablePath},
+        {QStringLiteral("executablePaths"), QJsonArray::fromStringList(game.location.executablePaths)},
+        {QStringLiteral("installFolder"), game.location.installFolder},
+    };
 }
 
 QJsonObject jsonOf(const Answers& answers) {

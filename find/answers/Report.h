@@ -8,6 +8,7 @@
 namespace Find {
 
 struct Answers;
+struct GameAnswer;
 
 /// The answers for people: a table of the games, when there are any, one of the runtimes, and how many games were
 /// found.
@@ -15,5 +16,8 @@ QString renderTables(const Answers& answers, const Terminal& terminal = {});
 
 /// The answers for programs, described in docs/json.md.
 QJsonObject jsonOf(const Answers& answers);
+
+/// The answer for one of the games.
+QJsonObject jsonOf(const GameAnswer& game);
 
 } // namespace Find

@@ -47,9 +47,11 @@ std::vector<CommandForm> makeForms() {
          "luruludri-find runtimes --json"},
         {Command::Explain,
          "explain",
-         "Tell why a game was found or not: what each finder looked\nfor, what it saw, why it went on.",
+         "Tell why a game was found or not: what each finder looked\nfor, what it saw, why it went on; of a game that "
+         "the\ncatalogue "
+         "does not have where it is installed.",
          {{"NAME", "The game's name in the catalogue, letter case ignored.", &Options::name, true}, catalogue},
-         {&all, &pc, &plugin},
+         {&all, &json, &pc, &plugin},
          "luruludri-find explain \"Lantern Harbour\""},
         {Command::Record,
          "record",

@@ -11,10 +11,12 @@
 #include "find/cli/CommandLine.h"
 #include "find/cli/JsonReply.h"
 #include "find/cli/ListCommand.h"
+#include "find/cli/LookUpCommand.h"
 #include "find/cli/RecordCommand.h"
 #include "find/cli/ReportCommand.h"
 #include "find/cli/UnpackCommand.h"
 #include "find/explain/Explanation.h"
+#include "find/explain/ExplanationText.h"
 #include "find/explain/PluginTrace.h"
 #include "find/terminal/Console.h"
 #include "find/terminal/DidYouMean.h"
@@ -23,6 +25,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonObject>
 
 #include <memory>
 #include <new>
@@ -57,11 +60,17 @@ void complainOfCatalogue(const Options& options, const CatalogueFaults& faults) 
     }
 }
 
-/// The games that the command is about. No value after a fault, of which the user has been told.
-std::optional<Catalogue> loadGames(const Options& options) {
+/// What a command needs to know of the catalogue.
+struct Chosen {
+    Catalogue games;   ///< that the command is about; none for a game to explain that the catalogue does not have
+    QStringList known; ///< the names of all games
+};
+
+/// No value after a fault, of which the user has been told.
+std::optional<Chosen> loadGames(const Options& options) {
     if (options.command == Command::List || options.command == Command::Runtimes ||
         options.command == Command::Forget) {
-        return Catalogue();
+        return Chosen();
     }
     CatalogueFaults faults;
     const std::optional<Catalogue> catalogue = readCatalogue(options.catalogue, faults);
@@ -70,13 +79,14 @@ std::optional<Catalogue> loadGames(const Options& options) {
         return std::nullopt;
     }
     QString unknown;
-    std::optional<Catalogue> games = selectGames(*catalogue, options.games, unknown);
-    if (!games) {
+    const std::optional<Catalogue> games = selectGames(*catalogue, options.games, unknown);
+    if (!games && options.command != Command::Explain) {
         Console::complain(
             {shownName(options.catalogue), 0, 0,
              QStringLiteral("no game is named \"%1\"").arg(unknown) + didYouMean(unknown, namesOf(*catalogue))});
+        return std::nullopt;
     }
-    return games;
+    return Chosen{games.value_or(Catalogue()), namesOf(*catalogue)};
 }
 
 ExitStatus answer(IGameFinderFactory& factory, const Options& options, const Catalogue& games) {
@@ -121,7 +131,14 @@ ExitStatus explainGame(IGameFinderFactory& factory, const Options& options, cons
     if (events.empty()) {
         return fail(QStringLiteral("%1: this plug-in tells no trace").arg(options.plugin));
     }
-    return print(explain(game, answer, events, options.all), answer.found ? allFound : someNotFound);
+    const Explanation explanation = explain(game, answer, events, options.all);
+    const ExitStatus status = answer.found ? allFound : someNotFound;
+    if (!options.json) {
+        return print(renderExplanation(explanation, Console::terminal(Stream::Output)), status);
+    }
+    QJsonObject reply = jsonOf(explanation);
+    reply.insert(QStringLiteral("game"), jsonOf(answer));
+    return printReply(reply) ? status : failToWrite();
 }
 
 ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& games, const PluginTrace* trace) {
@@ -173,8 +190,11 @@ QString refusalToChoose(const Options& options, const std::optional<Recordings::
     return QStringLiteral("a recorded PC is never written to; to try a folder, change \"userLocations\" in ") + file;
 }
 
-ExitStatus act(const Options& options, const Catalogue& games, const Recordings::Pc* pc, const QStringList& problems) {
+ExitStatus act(const Options& options, const Chosen& chosen, const Recordings::Pc* pc, const QStringList& problems) {
+    const Catalogue& games = chosen.games;
     switch (options.command) {
+    case Command::Explain:
+        return games.empty() ? lookUp(options, chosen.known) : askPlugin(options, games);
     case Command::List:
         return listPc(options);
     case Command::Record:
@@ -190,8 +210,8 @@ ExitStatus run(const Options& options) {
     if (options.command == Command::Unpack) {
         return unpackPc(options);
     }
-    const std::optional<Catalogue> games = loadGames(options);
-    if (!games) {
+    const std::optional<Chosen> chosen = loadGames(options);
+    if (!chosen) {
         return failed;
     }
     QString fault;
@@ -210,7 +230,7 @@ ExitStatus run(const Options& options) {
     for (const QString& problem : problems) {
         Console::complain(input.shown(problem));
     }
-    const ExitStatus status = act(options, *games, pc ? &pc->pc : nullptr, problems);
+    const ExitStatus status = act(options, *chosen, pc ? &pc->pc : nullptr, problems);
     return problems.isEmpty() ? status : failed;
 }
 

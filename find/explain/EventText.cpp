@@ -3,9 +3,12 @@
 #include "find/terminal/OneLine.h"
 
 #include <QByteArray>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
+#include <utility>
 #include <variant>
 
 namespace Find {
@@ -14,6 +17,30 @@ namespace {
 
 QString quoted(const QString& text) {
     return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+/// A text that brings its own quotes needs no others.
+QString quotedOnce(const QString& text) {
+    return text.contains(QLatin1Char('"')) ? text : quoted(text);
+}
+
+/// The path with one backslash where several mean the same; the two before a server or a volume stay.
+QString pathText(const QString& path) {
+    static const QRegularExpression several(QStringLiteral("(?<!^)\\\\{2,}"));
+    return QString(path).replace(several, QStringLiteral("\\"));
+}
+
+/// A shell folder by the name that people know it by.
+QString shellFolderText(int csidl) {
+    const std::pair<int, const char*> names[] = {{5, "Documents"},
+                                                 {11, "Start menu"},
+                                                 {22, "Start menu of all users"},
+                                                 {28, "Local AppData"},
+                                                 {35, "ProgramData"}};
+    const auto* const known =
+        std::find_if(std::begin(names), std::end(names), [csidl](const auto& name) { return name.first == csidl; });
+    const QString number = QStringLiteral("shell folder %1").arg(csidl);
+    return known == std::end(names) ? number : QStringLiteral("%1 (%2)").arg(QLatin1String(known->second), number);
 }
 
 QString placeText(const Trace::KeyPlace& place) {
@@ -46,10 +73,10 @@ QString dataText(quint32 type, const QByteArray& bytes) {
     constexpr quint32 textWithVariables = 2;
     constexpr quint32 number = 4;
     if (type == text) {
-        return quoted(utf16(bytes));
+        return quotedOnce(utf16(bytes));
     }
     if (type == textWithVariables) {
-        return quoted(utf16(bytes)) + QStringLiteral(" (REG_EXPAND_SZ)");
+        return quotedOnce(utf16(bytes)) + QStringLiteral(" (REG_EXPAND_SZ)");
     }
     if (type == number && bytes.size() == sizeof(quint32)) {
         quint32 value = 0;
@@ -96,33 +123,34 @@ QStringList linesOf(const Trace::SubKeys& event) {
 }
 
 QStringList linesOf(const Trace::Exists& event) {
-    return {
-        QStringLiteral("%1: %2").arg(event.path, event.found ? QStringLiteral("is there") : QStringLiteral("missing"))};
+    return {QStringLiteral("%1: %2").arg(pathText(event.path),
+                                         event.found ? QStringLiteral("is there") : QStringLiteral("missing"))};
 }
 
 QStringList linesOf(const Trace::List& event) {
-    return withNames(
-        QStringLiteral("%1, files %2: %3").arg(event.path, event.pattern, QString::number(event.names.size())),
-        event.names);
+    return withNames(QStringLiteral("%1, files %2: %3")
+                         .arg(pathText(event.path), event.pattern, QString::number(event.names.size())),
+                     event.names);
 }
 
 QStringList linesOf(const Trace::Walk& event) {
     const QStringList names = event.folders + event.files;
-    return withNames(QStringLiteral("%1: %2").arg(event.path, counted(names.size(), "entry", "entries")), names);
+    return withNames(QStringLiteral("%1: %2").arg(pathText(event.path), counted(names.size(), "entry", "entries")),
+                     names);
 }
 
 QStringList linesOf(const Trace::Read& event) {
-    return {QStringLiteral("file %1: %2").arg(event.path, counted(event.bytes, "byte", "bytes"))};
+    return {QStringLiteral("file %1: %2").arg(pathText(event.path), counted(event.bytes, "byte", "bytes"))};
 }
 
 QStringList linesOf(const Trace::Shortcut& event) {
     const QString target = event.target.isEmpty() ? QStringLiteral("nothing") : event.target;
-    return {QStringLiteral("shortcut %1: leads to %2").arg(event.path, target)};
+    return {QStringLiteral("shortcut %1: leads to %2").arg(pathText(event.path), target)};
 }
 
 QStringList linesOf(const Trace::ShellFolder& event) {
-    const QString path = event.path.isEmpty() ? QStringLiteral("there is none") : event.path;
-    return {QStringLiteral("shell folder %1: %2").arg(QString::number(event.csidl), path)};
+    const QString path = event.path.isEmpty() ? QStringLiteral("there is none") : pathText(event.path);
+    return {QStringLiteral("%1: %2").arg(shellFolderText(event.csidl), path)};
 }
 
 QStringList linesOf(const Trace::Volume& event) {
@@ -147,7 +175,7 @@ QStringList linesOf(const Trace::Package& event) {
 }
 
 QStringList linesOf(const Trace::UserLocation& event) {
-    return {QStringLiteral("the user's folder for %1: %2").arg(quoted(event.key), textOrNone(event.path))};
+    return {QStringLiteral("the user's folder for %1: %2").arg(quoted(event.key), textOrNone(pathText(event.path)))};
 }
 
 QStringList linesOf(const Trace::Log& event) {

@@ -17,8 +17,6 @@ namespace Find {
 
 namespace {
 
-const QLatin1String indentation("   ");
-
 QString quoted(const QString& text) {
     return QLatin1Char('"') + oneLine(text) + QLatin1Char('"');
 }
@@ -144,18 +142,6 @@ QString outcomeOf(const GameAnswer& answer) {
         .arg(oneLine(answer.location.installFolder), oneLine(answer.location.launchCommand));
 }
 
-QStringList textOf(const std::vector<ExplanationLine>& lines) {
-    QStringList text;
-    for (const ExplanationLine& line : lines) {
-        if (line.kind == Kind::Finder) {
-            text += {QString(), line.text};
-        } else {
-            text.append(indentation + line.text);
-        }
-    }
-    return text;
-}
-
 } // namespace
 
 std::vector<ExplanationLine> explainSearch(const Game& game, const TraceEvents& events) {
@@ -164,25 +150,21 @@ std::vector<ExplanationLine> explainSearch(const Game& game, const TraceEvents& 
     return explainer.lines();
 }
 
-QString explain(const Game& game, const GameAnswer& answer, const TraceEvents& events, bool isFull) {
+Explanation explain(const Game& game, const GameAnswer& answer, const TraceEvents& events, bool isFull) {
     const TraceSection whole = traceTree(events);
     const QStringList words = searchWords(game);
     Explainer explainer(
         [&](const TraceSection& index) { return describeIndex(index, isFull ? QStringList() : words); });
     explainer.addSection(whole, game.finders, QString());
-    QStringList text{QStringLiteral("%1: %2").arg(oneLine(game.name), outcomeOf(answer))};
+    Explanation explanation;
+    explanation.outcome = QStringLiteral("%1: %2").arg(oneLine(game.name), outcomeOf(answer));
+    explanation.found = answer.found;
+    explanation.lines = explainer.lines();
     if (game.finders.empty()) {
-        text.append(QStringLiteral("The catalogue has no finder for it."));
+        explanation.lines.push_back({Kind::Reason, QStringLiteral("The catalogue has no finder for it.")});
     }
-    text += textOf(explainer.lines());
-    const QStringList similar = answer.found ? QStringList() : similarNames(whole, words);
-    if (!similar.isEmpty()) {
-        text += {QString(), QStringLiteral("Similar names in the lists:")};
-        for (const QString& name : similar) {
-            text.append(indentation + name);
-        }
-    }
-    return text.join(QLatin1Char('\n')) + QLatin1Char('\n');
+    explanation.similar = answer.found ? QStringList() : similarNames(whole, words);
+    return explanation;
 }
 
 } // namespace Find

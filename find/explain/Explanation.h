@@ -3,6 +3,7 @@
 #include "find/explain/TraceReader.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -27,8 +28,16 @@ struct ExplanationLine {
 /// What happened in a search for the game, for each finder; nothing of how lists of what is installed were made.
 std::vector<ExplanationLine> explainSearch(const Game& game, const TraceEvents& events);
 
+/// All that is told of a search.
+struct Explanation {
+    QString outcome; ///< the game and what came of the search for it
+    bool found = false;
+    std::vector<ExplanationLine> lines;
+    QStringList similar; ///< the names that come near, when nothing was found
+};
+
 /// What happened when the plug-in was asked for the game, as its trace tells: for each finder where it looked, what it
 /// saw and why it went on. In full when `isFull`; otherwise long lists are told in brief.
-QString explain(const Game& game, const GameAnswer& answer, const TraceEvents& events, bool isFull);
+Explanation explain(const Game& game, const GameAnswer& answer, const TraceEvents& events, bool isFull);
 
 } // namespace Find

@@ -5,6 +5,7 @@
 #include "find/answers/Answers.h"
 #include "find/catalogue/Catalogue.h"
 #include "find/explain/Explanation.h"
+#include "find/explain/ExplanationText.h"
 #include "find/explain/TraceReader.h"
 
 #include <gtest/gtest.h>
@@ -25,5 +26,5 @@ inline QStringList explained(const QByteArray& finders, bool isFull = false) {
     const Find::Game& game = catalogue->front();
     const Find::GameAnswer answer = Find::askForGame(factory, game);
     const Find::TraceEvents events = Find::parseTrace(trace.bytes());
-    return Find::explain(game, answer, events, isFull).split('\n', Qt::SkipEmptyParts);
+    return Find::renderExplanation(Find::explain(game, answer, events, isFull)).split('\n', Qt::SkipEmptyParts);
 }

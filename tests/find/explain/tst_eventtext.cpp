@@ -25,6 +25,26 @@ TEST(EventText, ShowsTextsAndNumbersAsTheRegistryEditorDoes) {
               QStringList({"    X = 2 bytes of type 3"}));
 }
 
+TEST(EventText, ATextWithQuotesGetsNoOthers) {
+    // "a" -- "b"
+    EXPECT_EQ(describe(R"({"event":"value","name":"","error":0,"type":1,"data":"220061002200200062000000"})"),
+              QStringList({"    (default) = \"a\" b"}));
+}
+
+TEST(EventText, PathsHaveSingleBackslashes) {
+    EXPECT_EQ(describe(R"({"event":"exists","path":"C:\\\\Program Files\\\\\\Steam","found":true})"),
+              QStringList({"C:\\Program Files\\Steam: is there"}));
+    EXPECT_EQ(describe(R"({"event":"exists","path":"\\\\server\\\\a","found":false})"),
+              QStringList({"\\\\server\\a: missing"}));
+}
+
+TEST(EventText, ShellFoldersHaveTheirNames) {
+    EXPECT_EQ(describe(R"({"event":"shellFolder","csidl":35,"path":"C:\\ProgramData"})"),
+              QStringList({"ProgramData (shell folder 35): C:\\ProgramData"}));
+    EXPECT_EQ(describe(R"({"event":"shellFolder","csidl":7,"path":""})"),
+              QStringList({"shell folder 7: there is none"}));
+}
+
 TEST(EventText, SaysWhyAKeyOrAValueCannotBeRead) {
     EXPECT_EQ(describe(R"({"event":"key","root":"HKEY_USERS","view":64,"key":"K","error":5})"),
               QStringList({"registry key HKEY_USERS\\K (64-bit view): access is denied"}));
@@ -53,7 +73,7 @@ TEST(EventText, TellsVolumesVariablesAndFolders) {
     EXPECT_EQ(describe(R"({"event":"environment","name":"OculusBase"})"),
               QStringList({"environment variable OculusBase: none"}));
     EXPECT_EQ(describe(R"({"event":"shellFolder","csidl":22,"path":""})"),
-              QStringList({"shell folder 22: there is none"}));
+              QStringList({"Start menu of all users (shell folder 22): there is none"}));
     EXPECT_EQ(describe(R"({"event":"shortcut","path":"a.lnk","target":""})"),
               QStringList({"shortcut a.lnk: leads to nothing"}));
     EXPECT_EQ(describe(R"({"event":"read","path":"a","bytes":1})"), QStringList({"file a: 1 byte"}));

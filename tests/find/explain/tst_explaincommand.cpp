@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace {
 
@@ -53,22 +56,75 @@ TEST(ExplainCommand, LeavesNoFileBehind) {
     EXPECT_EQ(QDir(temporary).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
 }
 
-TEST(ExplainCommand, RefusesAGameThatTheCatalogueDoesNotHave) {
-    FindProgram program;
-    const QString catalogue = program.file("Käfer.json", twoGames);
-    const FindRun run = program.run({"explain", "Hai", catalogue});
-    EXPECT_EQ(run.exitStatus, 2);
-    EXPECT_EQ(run.output, "");
-    EXPECT_EQ(run.errors, "luruludri-find: " + catalogue + ": no game is named \"Hai\"\n");
+/// A PC with a program that no catalogue of these tests has.
+void installQualle(TestPc& pc) {
+    const TestKey key = {Platform::RootKey::LocalMachine,
+                         "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Qualle", Platform::keyWow64_64Key};
+    pc.value(key, "DisplayName", QString("Ätherqualle"));
+    pc.value(key, "InstallLocation", QString("D:\\Qualle"));
+    pc.file("D:\\Qualle\\qualle.exe");
 }
 
-TEST(ExplainCommand, NamesTheGamesThatAreCalledAlikeInstead) {
+constexpr const char* qualleLine =
+    R"({"name": "Ätherqualle", "finders": [{"type": "uninstall", "displayName": "Ätherqualle", "executables": ["qualle.exe"]}]})";
+
+TEST(ExplainCommand, LooksForAGameThatTheCatalogueDoesNotHaveInAllThatIsInstalled) {
+    TestPc pc;
+    installQualle(pc);
     FindProgram program;
     const QString catalogue = program.file("Käfer.json", twoGames);
-    EXPECT_EQ(program.run({"explain", "käfer", catalogue}).errors,
-              "luruludri-find: " + catalogue + ": no game is named \"käfer\"; did you mean \"Käferrennen\"?\n");
+    const FindRun run = explain(program, {"ätherQUALLE", catalogue});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(run.output, QString("ätherQUALLE: not in the catalogue\n"
+                                  "installed as\n"
+                                  "Ätherqualle\n"
+                                  "    Uninstall registry: D:\\Qualle\n"
+                                  "    ") +
+                              qualleLine + "\n");
+    EXPECT_TRUE(explain(program, {"Quallen", catalogue}).output.startsWith("Quallen: not in the catalogue\nnothing"));
+    EXPECT_TRUE(explain(program, {"Qualle", catalogue}).output.contains(qualleLine)) << "a part of the name";
+    EXPECT_TRUE(explain(program, {"Ätherqalle", catalogue}).output.contains(qualleLine)) << "a slip";
+}
+
+TEST(ExplainCommand, NamesTheGamesOfTheCatalogueThatAreCalledAlike) {
+    TestPc pc;
+    FindProgram program;
+    const QString catalogue = program.file("Käfer.json", twoGames);
+    const FindRun run = explain(program, {"käfer", catalogue});
+    EXPECT_EQ(run.exitStatus, 1);
+    EXPECT_EQ(run.output, "käfer: not in the catalogue; did you mean \"Käferrennen\"?\n"
+                          "nothing that is installed has a name like it\n");
     EXPECT_EQ(program.run({"--game", "Wal (Demo)", catalogue}).errors,
               "luruludri-find: " + catalogue + ": no game is named \"Wal (Demo)\"; did you mean \"Wal\"?\n");
+}
+
+TEST(ExplainCommand, TellsTheSameAsJson) {
+    TestPc pc;
+    installQualle(pc);
+    FindProgram program;
+    const QString catalogue = program.file("Käfer.json", twoGames);
+    const auto reply = [&](const QString& name) {
+        const FindRun run = explain(program, {name, catalogue, "--json"});
+        EXPECT_EQ(run.errors, "");
+        return QJsonDocument::fromJson(run.output.toUtf8()).object();
+    };
+    const QJsonObject wal = reply("Wal");
+    EXPECT_EQ(wal["game"]["name"].toString(), "Wal");
+    EXPECT_EQ(wal["game"]["found"], QJsonValue(false));
+    const QJsonArray lines = wal["explanation"].toArray();
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_EQ(lines[0],
+              (QJsonObject{{"kind", "finder"}, {"text", "1. folder: folder \"D:\\Wal\", executables [\"wal.exe\"]"}}));
+    EXPECT_EQ(lines[1], (QJsonObject{{"kind", "seen"}, {"text", "D:\\Wal: missing"}}));
+    EXPECT_EQ(lines[2], (QJsonObject{{"kind", "reason"}, {"text", "* The folder D:\\Wal is missing."}}));
+    EXPECT_EQ(lines[3], (QJsonObject{{"kind", "outcome"}, {"text", "=> not found"}}));
+
+    const QJsonObject other = reply("Ätherqalle");
+    EXPECT_EQ(other["name"].toString(), "Ätherqalle");
+    EXPECT_EQ(other["installed"][0]["name"].toString(), "Ätherqualle");
+    EXPECT_EQ(other["installed"][0]["folder"].toString(), "D:\\Qualle");
+    EXPECT_EQ(reply("Käferrenen")["alike"], QJsonArray{"Käferrennen"});
 }
 
 TEST(ExplainCommand, RefusesAPlugInThatTellsNoTrace) {

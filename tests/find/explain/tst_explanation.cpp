@@ -103,7 +103,7 @@ TEST(Explanation, OfTheStartMenuTellsWhereTheShortcutLeads) {
     EXPECT_THAT(lines, Contains(QString("   shortcut C:\\Menü\\Käferrennen.lnk: leads to C:\\Alt\\alt.exe")));
     EXPECT_THAT(lines,
                 Contains(QString("   * The shortcut C:\\Menü\\Käferrennen.lnk leads to none of the executables.")));
-    EXPECT_THAT(lines, Contains(QString("     shell folder 11: C:\\Menü")));
+    EXPECT_THAT(lines, Contains(QString("     Start menu (shell folder 11): C:\\Menü")));
 }
 
 TEST(Explanation, OfSteamTellsThatNeitherRegistryNorLibraryHasTheApp) {
@@ -159,7 +159,7 @@ TEST(Explanation, NumbersTheFindersWithinAMultiFinder) {
 
 TEST(Explanation, SaysThatAGameHasNoFinders) {
     TestPc pc;
-    EXPECT_EQ(explained(""), QStringList({"Käferrennen: not found", "The catalogue has no finder for it."}));
+    EXPECT_EQ(explained(""), QStringList({"Käferrennen: not found", "   The catalogue has no finder for it."}));
 }
 
 TEST(Explanation, KeepsEachLineALineWhateverTheRegistryHolds) {
