@@ -42,6 +42,16 @@ file(GLOB documents CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/*.md")
 list(FILTER documents EXCLUDE REGEX "/(architecture|testing|performance)\\.md$")
 install(FILES README.md DESTINATION .)
 install(FILES ${documents} docs/catalogue.schema.json DESTINATION docs)
+# What completes its command line lies where the shells look for it; Windows has no such places.
+set(shell docs/shell/luruludri-find.bash docs/shell/_luruludri-find docs/shell/luruludri-find.ps1)
+if(WIN32)
+    install(FILES ${shell} DESTINATION docs/shell)
+else()
+    install(FILES docs/shell/luruludri-find.bash DESTINATION share/bash-completion/completions RENAME luruludri-find)
+    install(FILES docs/shell/_luruludri-find DESTINATION share/zsh/site-functions)
+    install(FILES docs/shell/luruludri-find.ps1 DESTINATION docs/shell)
+    install(FILES docs/shell/luruludri-find.1 DESTINATION share/man/man1)
+endif()
 install(FILES docs/host/CMakeLists.txt docs/host/main.cpp DESTINATION docs/host)
 
 # Windows has no Qt of its own. What is made by others travels with what they ask for.

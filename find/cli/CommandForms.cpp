@@ -95,6 +95,13 @@ std::vector<CommandForm> makeForms() {
          {key},
          {&pc, &plugin},
          "luruludri-find forget moosgarten"},
+        {Command::Completion,
+         "completion",
+         "Print what has a shell complete these commands.",
+         {{"SHELL", "bash, zsh or powershell.", &Options::shell, true}},
+         {},
+         "luruludri-find completion bash >> ~/.bashrc"},
+        {Command::Manual, "manual", "Print this as a manual page.", {}, {}, "luruludri-find manual | man -l -"},
     };
 }
 

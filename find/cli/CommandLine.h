@@ -10,14 +10,16 @@ namespace Find {
 /// What the program does.
 enum class Command {
     FindGames,
-    List,     ///< tells all that is installed
-    Runtimes, ///< asks for the VR runtimes only
-    Locate,   ///< remembers where the user has a game
-    Forget,   ///< forgets it
-    Record,   ///< makes a recording of the PC
-    Report,   ///< makes a page of the answers that carries a recording of the PC
-    Unpack,   ///< makes a folder of a recording that is one file
-    Explain,  ///< tells why a game was found or not
+    List,       ///< tells all that is installed
+    Runtimes,   ///< asks for the VR runtimes only
+    Locate,     ///< remembers where the user has a game
+    Forget,     ///< forgets it
+    Record,     ///< makes a recording of the PC
+    Report,     ///< makes a page of the answers that carries a recording of the PC
+    Unpack,     ///< makes a folder of a recording that is one file
+    Explain,    ///< tells why a game was found or not
+    Completion, ///< prints what completes the command line in a shell
+    Manual,     ///< prints the manual page
 };
 
 /// What the user asked for.
@@ -27,6 +29,7 @@ struct Options {
     QString folder;    ///< where the game is, with Locate; where the recording goes, with Record, Report and Unpack
     QString file;      ///< the recording, with Unpack
     QString name;      ///< the game's name, with Explain
+    QString shell;     ///< with Completion
     QString catalogue; ///< means something with all that ask for games
     QString plugin;    ///< the plug-in's file; the one beside the program when none was given
     std::optional<QString> pc; ///< the recorded PC's file or folder, as given

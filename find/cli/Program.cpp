@@ -14,6 +14,7 @@
 #include "find/cli/LookUpCommand.h"
 #include "find/cli/RecordCommand.h"
 #include "find/cli/ReportCommand.h"
+#include "find/cli/ShellTexts.h"
 #include "find/cli/UnpackCommand.h"
 #include "find/explain/Explanation.h"
 #include "find/explain/ExplanationText.h"
@@ -154,15 +155,9 @@ ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& ga
         return forget(*factory, options);
     case Command::Explain:
         return explainGame(*factory, options, games, *trace);
-    case Command::FindGames:
-    case Command::Runtimes:
-    case Command::List: // which ask otherwise
-    case Command::Record:
-    case Command::Report:
-    case Command::Unpack: // which asks nothing
-        break;
+    default:
+        return answer(*factory, options, games);
     }
-    return answer(*factory, options, games);
 }
 
 ExitStatus askPlugin(const Options& options, const Catalogue& games) {
@@ -207,9 +202,6 @@ ExitStatus act(const Options& options, const Chosen& chosen, const Recordings::P
 }
 
 ExitStatus run(const Options& options) {
-    if (options.command == Command::Unpack) {
-        return unpackPc(options);
-    }
     const std::optional<Chosen> chosen = loadGames(options);
     if (!chosen) {
         return failed;
@@ -234,10 +226,30 @@ ExitStatus run(const Options& options) {
     return problems.isEmpty() ? status : failed;
 }
 
+ExitStatus printCompletion(const QString& shell) {
+    const QString completion = completionFor(shell.toLower());
+    return completion.isEmpty() ? fail(QStringLiteral("completion: there is none for \"%1\", but for %2")
+                                           .arg(shell, shells().join(QLatin1String(", "))))
+                                : print(completion, allFound);
+}
+
+ExitStatus runOrPrint(const Options& options) {
+    switch (options.command) {
+    case Command::Completion:
+        return printCompletion(options.shell);
+    case Command::Manual:
+        return print(manualPage(), allFound);
+    case Command::Unpack:
+        return unpackPc(options);
+    default:
+        return run(options);
+    }
+}
+
 ExitStatus follow(const CommandLine& commandLine, bool isJson) {
     switch (commandLine.action) {
     case CommandLine::Action::Run:
-        return run(commandLine.options);
+        return runOrPrint(commandLine.options);
     case CommandLine::Action::PrintText:
         return print(commandLine.text, allFound);
     case CommandLine::Action::Refuse:

@@ -1,0 +1,34 @@
+#include "find/answers/GivenFolder.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace Find {
+
+GivenFolder givenFolder(const QString& argument) {
+    const int quote = argument.indexOf(QLatin1Char('"'));
+    if (quote < 0 || QFileInfo::exists(argument)) {
+        return {argument, {}};
+    }
+    return {argument.left(quote), argument.mid(quote + 1).trimmed()};
+}
+
+QString faultOfFolder(const QString& folder) {
+    const QFileInfo info(folder);
+    if (!info.isAbsolute()) {
+        return QStringLiteral("%1: is no full path; the current folder is %2")
+            .arg(folder, QDir::toNativeSeparators(QDir::currentPath()));
+    }
+    if (info.isDir()) {
+        return {};
+    }
+    if (info.exists()) {
+        return QStringLiteral("%1: is no folder").arg(folder);
+    }
+    const bool hasDrive = folder.size() > 1 && folder.at(1) == QLatin1Char(':');
+    const bool isDriveThere = !hasDrive || QFileInfo::exists(folder.left(2) + QLatin1Char('/'));
+    return isDriveThere ? QStringLiteral("%1: there is no such folder").arg(folder)
+                        : QStringLiteral("%1: there is no drive %2").arg(folder, folder.left(2).toUpper());
+}
+
+} // namespace Find
