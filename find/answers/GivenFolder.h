@@ -10,8 +10,8 @@ struct GivenFolder {
     QString rest; ///< what came in with it, without having been meant to; empty as a rule
 };
 
-/// What was meant. In "D:\Games\X\" Windows takes the last backslash and the quote behind it for a quote within the text,
-/// and goes on to the next quote: no name has one.
+/// What was meant. In "D:\Games\X\" Windows takes the last backslash and the quote behind it for a quote within the
+/// text, and goes on to the next quote: no name has one.
 GivenFolder givenFolder(const QString& argument);
 
 /// Why the user's game can't be in this folder; empty when it can.

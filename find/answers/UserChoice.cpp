@@ -3,45 +3,90 @@
 #include "core/GameLocation.h"
 #include "core/IGameFinderFactory.h"
 #include "find/catalogue/FinderTypes.h"
+#include "find/pc/AnsweringPc.h"
 
-#include <functional>
+#include <algorithm>
+#include <iterator>
 
 namespace Find {
 
 namespace {
 
-using Visit = std::function<void(const FinderEntry&)>;
-
-/// Shows all finders that ask for the user's choice under this key.
-void visitFinders(const std::vector<FinderEntry>& finders, const QString& key, const Visit& visit) {
-    static const FinderType* const userProvided = findFinderType(QStringLiteral("userProvidedLocation"));
+/// Finders in the order in which they are asked, without multi finders.
+void addAsked(const std::vector<FinderEntry>& finders, std::vector<FinderEntry>& asked) {
+    static const FinderType* const multi = findFinderType(QStringLiteral("multi"));
     for (const FinderEntry& finder : finders) {
-        visitFinders(finder.finders, key, visit);
-        if (finder.type == userProvided && finder.subject.trimmed() == key) {
-            visit(finder);
+        if (finder.type == multi) {
+            addAsked(finder.finders, asked);
+        } else {
+            asked.push_back(finder);
         }
     }
 }
 
-void visitFinders(const Catalogue& games, const QString& key, const Visit& visit) {
+std::vector<FinderEntry> askedFor(const Game& game) {
+    std::vector<FinderEntry> asked;
+    addAsked(game.finders, asked);
+    return asked;
+}
+
+bool asksForChoice(const FinderEntry& finder) {
+    static const FinderType* const userProvided = findFinderType(QStringLiteral("userProvidedLocation"));
+    return finder.type == userProvided;
+}
+
+/// All finders that ask for the user's choice under this key.
+std::vector<FinderEntry> findersFor(const Catalogue& games, const QString& key) {
+    std::vector<FinderEntry> finders;
     for (const Game& game : games) {
-        visitFinders(game.finders, key.trimmed(), visit);
+        for (const FinderEntry& finder : askedFor(game)) {
+            if (asksForChoice(finder) && isSameUserChoice(finder.subject.trimmed(), key.trimmed())) {
+                finders.push_back(finder);
+            }
+        }
     }
+    return finders;
 }
 
 } // namespace
 
 bool hasKey(const Catalogue& games, const QString& key) {
-    bool hasIt = false;
-    visitFinders(games, key, [&](const FinderEntry&) { hasIt = true; });
-    return hasIt;
+    return !findersFor(games, key).empty();
 }
 
 QStringList executablesFor(const Catalogue& games, const QString& key) {
     QStringList executables;
-    visitFinders(games, key, [&](const FinderEntry& finder) { executables += finder.executables; });
+    for (const FinderEntry& finder : findersFor(games, key)) {
+        executables += finder.executables;
+    }
     executables.removeDuplicates();
     return executables;
+}
+
+QStringList keysOf(const Catalogue& games) {
+    QStringList keys;
+    for (const Game& game : games) {
+        for (const FinderEntry& finder : askedFor(game)) {
+            if (asksForChoice(finder)) {
+                keys.append(finder.subject.trimmed());
+            }
+        }
+    }
+    return keys;
+}
+
+std::vector<ShutOut> shutOutBy(const Catalogue& games, const QString& key) {
+    std::vector<ShutOut> all;
+    for (const Game& game : games) {
+        std::vector<FinderEntry> asked = askedFor(game);
+        const auto choice = std::find_if(asked.begin(), asked.end(), [&key](const FinderEntry& finder) {
+            return asksForChoice(finder) && isSameUserChoice(finder.subject.trimmed(), key.trimmed());
+        });
+        if (choice != asked.end() && std::next(choice) != asked.end()) {
+            all.push_back({game.name, {std::next(choice), asked.end()}});
+        }
+    }
+    return all;
 }
 
 UserChoice rememberChoice(IGameFinderFactory& factory, const Catalogue& games, const QString& key,

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
 class IGameFinderFactory;
 
 namespace Find {
@@ -16,6 +18,12 @@ struct UserChoice {
     bool isAskedFor = false; ///< whether a game of the catalogue has the key
 };
 
+/// Finders of a game that are not asked as long as the user's choice stands, as it ends the search.
+struct ShutOut {
+    QString game;
+    std::vector<FinderEntry> finders; ///< none of them a multi finder
+};
+
 /// Remembers where the user has the game of this key. What its executables are says the catalogue; without any, the
 /// folder is remembered as given.
 UserChoice rememberChoice(IGameFinderFactory& factory, const Catalogue& games, const QString& key,
@@ -23,6 +31,12 @@ UserChoice rememberChoice(IGameFinderFactory& factory, const Catalogue& games, c
 
 /// False when the folder is still remembered.
 bool forgetChoice(IGameFinderFactory& factory, const QString& key);
+
+/// Whom a choice under this key shuts out, game by game.
+std::vector<ShutOut> shutOutBy(const Catalogue& games, const QString& key);
+
+/// The keys of all finders in the catalogue that ask for the user's choice.
+QStringList keysOf(const Catalogue& games);
 
 /// Whether a finder in the catalogue asks for the user's choice under this key.
 bool hasKey(const Catalogue& games, const QString& key);

@@ -1,5 +1,6 @@
 #include "find/cli/CommandLine.h"
 
+#include "find/answers/GivenFolder.h"
 #include "find/cli/CommandTree.h"
 #include "find/terminal/DidYouMean.h"
 
@@ -73,11 +74,26 @@ QString describeMissing(const CLI::ParseError& error, const CommandForm& form) {
         .replace(QLatin1String(" missing"), QLatin1String(" is missing"));
 }
 
+/// Takes the folder for what was meant; false when more came in with it than there is a place for.
+bool separateFolder(const CommandTree& tree, Options& options) {
+    const GivenFolder given = givenFolder(options.folder);
+    options.folder = given.folder;
+    if (given.rest.isEmpty()) {
+        return true;
+    }
+    const bool isCatalogueGiven = tree.app().get_subcommands().front()->count("CATALOGUE") > 0;
+    options.catalogue = isCatalogueGiven ? options.catalogue : given.rest;
+    return !isCatalogueGiven;
+}
+
 CommandLine understood(const CommandTree& tree) {
     QString fault;
     Options options = tree.options(fault);
     if (options.command == Command::Explain) {
         options.games = QStringList{options.name};
+    }
+    if (options.command == Command::Locate && !separateFolder(tree, options)) {
+        fault = QStringLiteral("surplus argument \"%1\"").arg(options.catalogue);
     }
     if (options.pc == standardInput() && options.catalogue == standardInput()) {
         fault = QStringLiteral("standard input cannot be both the recorded PC and the catalogue");

@@ -3,10 +3,11 @@
 #include "core/IGameFinderFactory.h"
 #include "find/answers/Answers.h"
 #include "find/answers/ChosenRecording.h"
+#include "find/answers/GivenFolder.h"
 #include "find/answers/Plugin.h"
 #include "find/answers/Report.h"
-#include "find/answers/UserChoice.h"
 #include "find/catalogue/Catalogue.h"
+#include "find/cli/ChoiceCommands.h"
 #include "find/cli/CommandForms.h"
 #include "find/cli/CommandLine.h"
 #include "find/cli/JsonReply.h"
@@ -21,7 +22,6 @@
 #include "find/explain/PluginTrace.h"
 #include "find/terminal/Console.h"
 #include "find/terminal/DidYouMean.h"
-#include "find/terminal/OneLine.h"
 #include "find/terminal/Progress.h"
 
 #include <QDir>
@@ -99,30 +99,6 @@ ExitStatus answer(IGameFinderFactory& factory, const Options& options, const Cat
     return !isPrinted ? failToWrite() : answers.allGamesFound() ? allFound : someNotFound;
 }
 
-ExitStatus locate(IGameFinderFactory& factory, const Options& options, const Catalogue& games) {
-    const UserChoice choice = rememberChoice(factory, games, options.key, options.folder);
-    if (choice.folder.isEmpty()) {
-        return fail(QStringLiteral("the folder could not be remembered"));
-    }
-    if (!choice.isAskedFor) {
-        const QString message = QStringLiteral("%1: no game has the key \"%2\"; remembered all the same");
-        Console::complain(message.arg(options.catalogue, options.key.trimmed()));
-    }
-    if (!choice.missing.isEmpty()) {
-        Console::complain(QStringLiteral("the folder holds none of the game's executables: ") +
-                          choice.missing.join(QLatin1String(", ")));
-    }
-    return print(oneLine(options.key.trimmed() + QLatin1String(": ") + choice.folder) + QLatin1Char('\n'),
-                 choice.missing.isEmpty() ? allFound : someNotFound);
-}
-
-ExitStatus forget(IGameFinderFactory& factory, const Options& options) {
-    if (!forgetChoice(factory, options.key)) {
-        return fail(QStringLiteral("the folder could not be forgotten"));
-    }
-    return print(oneLine(options.key.trimmed() + QLatin1String(": forgotten")) + QLatin1Char('\n'), allFound);
-}
-
 /// `games` holds the one that was named.
 ExitStatus explainGame(IGameFinderFactory& factory, const Options& options, const Catalogue& games,
                        const PluginTrace& trace) {
@@ -150,9 +126,9 @@ ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& ga
     }
     switch (options.command) {
     case Command::Locate:
-        return locate(*factory, options, games);
+        return locateGame(*factory, options, games);
     case Command::Forget:
-        return forget(*factory, options);
+        return forgetGame(*factory, options);
     case Command::Explain:
         return explainGame(*factory, options, games, *trace);
     default:
@@ -178,7 +154,7 @@ ExitStatus askPlugin(const Options& options, const Catalogue& games) {
 QString refusalToChoose(const Options& options, const std::optional<Recordings::Recording>& recording) {
     const bool isChange = options.command == Command::Locate || options.command == Command::Forget;
     if (!isChange || !recording) {
-        return {};
+        return options.command == Command::Locate ? faultOfFolder(options.folder) : QString();
     }
     const QString pc = options.pc.value_or(qEnvironmentVariable(Recordings::environmentVariable));
     const QString file = QFileInfo(pc).isDir() ? QDir(pc).filePath(QStringLiteral("pc.json")) : pc;

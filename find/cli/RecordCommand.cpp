@@ -18,8 +18,9 @@ ExitStatus fail(const QString& message) {
 }
 
 ExitStatus write(const NeutralRecording& recording, bool areNamesKept, OutputFile& file) {
-    if (!file.write(Recordings::renderPcFile(recording.pc))) {
-        return fail(QStringLiteral("%1: the file cannot be written").arg(file.name()));
+    const QString fault = file.write(Recordings::renderPcFile(recording.pc));
+    if (!fault.isEmpty()) {
+        return fail(fault);
     }
     for (const QString& note : describeLosses(recording.leftOut, recording.names)) {
         Console::complain(note);

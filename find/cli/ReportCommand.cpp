@@ -56,8 +56,9 @@ ExitStatus reportPc(const Options& options, const Catalogue& games, const Record
     const NeutralRecording recording = makeRecording(survey.events, games, options.keepNames, chosen);
     const ReportData data = gatherReport(survey, games, recording, problems);
     const QByteArray page = renderReportPage(data, originOf(options, file), Recordings::renderPcFile(recording.pc));
-    if (!file.write(page)) {
-        return fail(QStringLiteral("%1: the file cannot be written").arg(file.name()));
+    fault = file.write(page);
+    if (!fault.isEmpty()) {
+        return fail(fault);
     }
     for (const QString& note : describeLosses(recording.leftOut, recording.names)) {
         Console::complain(note);

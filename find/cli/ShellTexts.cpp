@@ -159,11 +159,11 @@ Mustache::data levelData(const CLI::App& app) {
     data["zshOperands"] = zshOperands(app).toStdString();
     data["manUsage"] = forManual(usage.join(QLatin1Char(' '))).toStdString();
     data["manFooter"] = forManual(text(app.get_footer())
-                                       .replace(QLatin1String("\n\n"), QLatin1String("\n.PP\n"))
-                                       .replace(QLatin1String("\n  "), QLatin1String("\n.br\n")))
-                             .replace(QLatin1String("\\&.PP"), QLatin1String(".PP"))
-                             .replace(QLatin1String("\\&.br"), QLatin1String(".br"))
-                             .toStdString();
+                                      .replace(QLatin1String("\n\n"), QLatin1String("\n.PP\n"))
+                                      .replace(QLatin1String("\n  "), QLatin1String("\n.br\n")))
+                            .replace(QLatin1String("\\&.PP"), QLatin1String(".PP"))
+                            .replace(QLatin1String("\\&.br"), QLatin1String(".br"))
+                            .toStdString();
     return data;
 }
 

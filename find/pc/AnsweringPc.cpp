@@ -7,6 +7,7 @@
 #include "platform/Settings.h"
 #include "recordings/AnsiText.h"
 #include "recordings/DrivePath.h"
+#include "recordings/Recording.h"
 #include "recordings/WindowsNames.h"
 
 #include <QSysInfo>
@@ -114,6 +115,11 @@ QStringList registeredPackageFamilies() {
 
 QStringList userChoiceKeys() {
     return Platform::openUserLocations()->allKeys();
+}
+
+bool isSameUserChoice(const QString& key, const QString& other) {
+    const bool isCaseIgnored = isPcItself() || !qEnvironmentVariableIsEmpty(Recordings::environmentVariable);
+    return isCaseIgnored ? Recordings::foldName(key) == Recordings::foldName(other) : key == other;
 }
 
 } // namespace Find

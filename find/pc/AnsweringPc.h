@@ -41,4 +41,8 @@ QStringList registeredPackageFamilies();
 /// The keys of all games for which the user chose a folder.
 QStringList userChoiceKeys();
 
+/// Whether a folder that the user chose under one key is found under the other: Windows and a recorded PC ignore the
+/// letter case, other systems do not.
+bool isSameUserChoice(const QString& key, const QString& other);
+
 } // namespace Find

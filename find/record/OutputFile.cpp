@@ -1,6 +1,7 @@
 #include "find/record/OutputFile.h"
 
 #include "find/pc/System.h"
+#include "find/record/WriteFault.h"
 
 #include <QDate>
 #include <QDir>
@@ -38,13 +39,18 @@ OutputFile::OutputFile(const QString& wanted, QLatin1String ending, QString& fau
     const QFileInfo info(m_name);
     if (info.exists() || info.isSymLink()) {
         fault = QStringLiteral("%1: the file is there already").arg(m_name);
-    } else if (!QFileInfo(info.absolutePath()).isDir() || !QFileInfo(info.absolutePath()).isWritable()) {
-        fault = QStringLiteral("%1: the file cannot be made").arg(m_name);
+        return;
     }
+    const QString cause = causeAgainstFile(m_name);
+    fault = cause.isEmpty() ? QString() : QStringLiteral("%1: the file cannot be made: %2").arg(m_name, cause);
 }
 
-bool OutputFile::write(const QByteArray& contents) {
-    return m_file.open(QIODevice::WriteOnly) && m_file.write(contents) == contents.size() && m_file.commit();
+QString OutputFile::write(const QByteArray& contents) {
+    const bool isWritten =
+        m_file.open(QIODevice::WriteOnly) && m_file.write(contents) == contents.size() && m_file.commit();
+    return isWritten ? QString()
+                     : QStringLiteral("%1: the file cannot be written: %2")
+                           .arg(m_name, causeOf(m_file.error(), m_file.errorString()));
 }
 
 } // namespace Find

@@ -16,8 +16,8 @@ public:
 
     const QString& name() const { return m_name; }
 
-    /// False when that failed; the file is then not there.
-    bool write(const QByteArray& contents);
+    /// Why that failed, the file's name first; the file is then not there. Empty when it is.
+    QString write(const QByteArray& contents);
 
 private:
     Q_DISABLE_COPY_MOVE(OutputFile)

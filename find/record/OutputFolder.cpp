@@ -1,5 +1,7 @@
 #include "find/record/OutputFolder.h"
 
+#include "find/record/WriteFault.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -20,7 +22,9 @@ OutputFolder::OutputFolder(const QString& folder, QString& fault)
     } else if (m_wasThere && !QDir(m_folder).isEmpty(everything)) {
         fault = QStringLiteral("%1: the folder is not empty").arg(folder);
     } else if (!QDir().mkpath(m_folder) || !QFileInfo(m_folder).isWritable()) {
-        fault = QStringLiteral("%1: the folder cannot be made").arg(folder);
+        const QString cause = causeAgainstFolder(m_folder);
+        fault = QStringLiteral("%1: the folder cannot be made").arg(folder) +
+                (cause.isEmpty() ? QString() : QLatin1String(": ") + cause);
     } else {
         m_isToBeRemoved = true;
     }

@@ -1,3 +1,4 @@
+#include "find/answers/GivenFolder.h"
 #include "find/answers/UserChoice.h"
 #include "recordings/Recording.h"
 
@@ -32,20 +33,20 @@ TEST(UserChoice, TheCatalogueSaysWhatTheExecutablesAre) {
 
 TEST(UserChoice, AFolderReachesThePlugin) {
     const FindProgram program;
-    const FindRun run = program.run({"locate", "installed", "D:\\Spiele\\Käfer\\bin", program.file("g.json", games)});
+    const FindRun run = program.run({"locate", "installed", program.folder(), program.file("g.json", games)});
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors, "");
     EXPECT_EQ(run.output, "installed: D:\\Spiele\\Gewählt\n") << "what is remembered, not what was given";
-    EXPECT_EQ(program.fakeLog(),
-              (QStringList{"Create", "userProvidedLocation(installed|w.exe)", "setUserLocation(D:\\Spiele\\Käfer\\bin)",
-                           "~userProvidedLocation", "~Create", "unloaded"}));
+    EXPECT_EQ(program.fakeLog(), (QStringList{"Create", "userProvidedLocation(installed|w.exe)",
+                                              "setUserLocation(" + program.folder() + ")", "~userProvidedLocation",
+                                              "~Create", "unloaded"}));
 }
 
 TEST(UserChoice, AFolderWithoutTheGameIsRememberedAndTold) {
     const FindProgram program;
-    const FindRun run = program.run({"locate", "Käfer", "D:\\Spiele", program.file("g.json", games)});
+    const FindRun run = program.run({"locate", "Käfer", program.folder(), program.file("g.json", games)});
     EXPECT_EQ(run.exitStatus, 1);
-    EXPECT_EQ(run.output, "Käfer: D:\\Spiele\\Gewählt\n");
+    EXPECT_EQ(run.output.section('\n', 0, 0), "Käfer: D:\\Spiele\\Gewählt");
     EXPECT_EQ(run.errors,
               "luruludri-find: the folder holds none of the game's executables: bin\\k.exe, k.exe, wal.exe\n");
 }
@@ -53,22 +54,95 @@ TEST(UserChoice, AFolderWithoutTheGameIsRememberedAndTold) {
 TEST(UserChoice, AKeyThatTheCatalogueDoesNotHaveIsRememberedAllTheSameAndTold) {
     const FindProgram program;
     const QString catalogue = program.file("g.json", games);
-    const FindRun run = program.run({"locate", " Qualle", "D:\\Spiele", catalogue});
+    const FindRun run = program.run({"locate", " Qualle", program.folder(), catalogue});
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.output, "Qualle: D:\\Spiele\\Gewählt\n");
     EXPECT_EQ(run.errors,
               "luruludri-find: " + catalogue + ": no game has the key \"Qualle\"; remembered all the same\n");
     EXPECT_EQ(program.fakeLog().mid(1, 2),
-              (QStringList{"userProvidedLocation( Qualle|)", "setUserLocation(D:\\Spiele)"}));
+              (QStringList{"userProvidedLocation( Qualle|)", "setUserLocation(" + program.folder() + ")"}));
 }
 
 TEST(UserChoice, AKeyOfAGameWithoutExecutablesIsKnown) {
     const FindProgram program;
     const QString catalogue = program.file("g.json", R"({"games": [{"name": "Wal", "finders": [
         {"type": "multi", "finders": [{"type": "userProvidedLocation", "key": "Wal", "executables": []}]}]}]})");
-    const FindRun run = program.run({"locate", "Wal", "D:\\Spiele", catalogue});
+    const FindRun run = program.run({"locate", "Wal", program.folder(), catalogue});
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors, "");
+}
+
+TEST(UserChoice, KeysAreComparedAsTheSettingsCompareThem) {
+    Find::CatalogueFaults faults;
+    const auto catalogue = Find::parseCatalogue(games, faults);
+    ASSERT_TRUE(catalogue);
+    EXPECT_EQ(Find::hasKey(*catalogue, "KÄFER"), Find::isPcItself()) << "off Windows letter case counts";
+    qputenv(Recordings::environmentVariable, "a recorded PC");
+    EXPECT_TRUE(Find::hasKey(*catalogue, "KÄFER"));
+    qunsetenv(Recordings::environmentVariable);
+    EXPECT_TRUE(Find::hasKey(*catalogue, " Käfer"));
+    EXPECT_FALSE(Find::hasKey(*catalogue, "Kaefer"));
+}
+
+TEST(UserChoice, AKeyThatIsNearlyOneOfTheCatalogueIsTakenForOne) {
+    const FindProgram program;
+    const FindRun run = program.run({"locate", "Käffer", program.folder(), program.file("g.json", games)});
+    EXPECT_TRUE(
+        run.errors.endsWith("no game has the key \"Käffer\"; remembered all the same; did you mean \"Käfer\"?\n"))
+        << run.errors.toStdString();
+}
+
+TEST(UserChoice, TheFindersThatItShutsOutAreTold) {
+    const FindProgram program;
+    const QString catalogue = program.file("g.json", R"({"games": [
+        {"name": "Käferrennen", "finders": [
+            {"type": "universalApp", "packageFamily": "before"},
+            {"type": "multi", "finders": [
+                {"type": "userProvidedLocation", "key": "installed", "executables": []},
+                {"type": "universalApp", "packageFamily": "within"}]},
+            {"type": "folder", "folder": "D:\\X", "executables": ["x.exe"]}]},
+        {"name": "Wal", "finders": [{"type": "userProvidedLocation", "key": "installed", "executables": []}]}]})");
+    const FindRun run = program.run({"locate", "installed", program.folder(), catalogue});
+    EXPECT_EQ(run.exitStatus, 0);
+    EXPECT_EQ(run.output, "installed: D:\\Spiele\\Gewählt\n"
+                          "Käferrennen: as long as this folder is chosen, these finders are not asked:\n"
+                          "    {\"type\": \"universalApp\", \"packageFamily\": \"within\"}\n"
+                          "    {\"type\": \"folder\", \"folder\": \"D:\\\\X\", \"executables\": [\"x.exe\"]}\n");
+}
+
+TEST(UserChoice, OnlyAFullPathToAFolderThatIsThereIsRemembered) {
+    const FindProgram program;
+    const QString catalogue = program.file("g.json", games);
+    const auto complaint = [&](const QString& folder) {
+        const FindRun run = program.run({"locate", "Käfer", folder, catalogue});
+        EXPECT_EQ(run.exitStatus, 2);
+        EXPECT_EQ(run.output, "");
+        return run.errors;
+    };
+    EXPECT_TRUE(complaint("Spiele").startsWith("luruludri-find: Spiele: is no full path; the current folder is "));
+    const QString missing = program.folder() + "/keiner";
+    EXPECT_EQ(complaint(missing), "luruludri-find: " + missing + ": there is no such folder\n");
+    EXPECT_EQ(complaint(catalogue), "luruludri-find: " + catalogue + ": is no folder\n");
+    if (Find::isPcItself()) {
+        EXPECT_EQ(complaint("q:\\Spiele"), "luruludri-find: q:\\Spiele: there is no drive Q:\n");
+    }
+    EXPECT_TRUE(program.fakeLog().isEmpty()) << "the plug-in is not asked";
+}
+
+TEST(UserChoice, AQuotedFolderThatEndsInABackslashIsTakenForWhatWasMeant) {
+    EXPECT_EQ(Find::givenFolder("D:\\Games\\X\"").folder, "D:\\Games\\X");
+    EXPECT_EQ(Find::givenFolder("D:\\Games\\X\"").rest, "");
+    EXPECT_EQ(Find::givenFolder("D:\\Games\\X\" my games.json").folder, "D:\\Games\\X");
+    EXPECT_EQ(Find::givenFolder("D:\\Games\\X\" my games.json").rest, "my games.json");
+    EXPECT_EQ(Find::givenFolder("D:\\Games\\X").folder, "D:\\Games\\X");
+
+    const FindProgram program;
+    const QString catalogue = program.file("g.json", games);
+    const FindRun run = program.run({"locate", "installed", program.folder() + "\" " + catalogue});
+    EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
+    EXPECT_EQ(program.fakeLog().value(2), "setUserLocation(" + program.folder() + ")");
+    const FindRun more = program.run({"locate", "installed", program.folder() + "\" a.json", "b.json"});
+    EXPECT_TRUE(more.errors.startsWith("luruludri-find: surplus argument \"b.json\"\n")) << more.errors.toStdString();
 }
 
 TEST(UserChoice, AnEmptyFolderForgets) {
@@ -85,7 +159,7 @@ TEST(UserChoice, WhatThePluginDoesNotDoIsTold) {
     const QString catalogue = program.file("g.json", games);
     for (const char* mode : {"no locations", "no finders"}) {
         program.setFakeMode(mode);
-        const FindRun located = program.run({"locate", "Qualle", "D:\\Spiele", catalogue});
+        const FindRun located = program.run({"locate", "Qualle", program.folder(), catalogue});
         EXPECT_EQ(located.exitStatus, 2) << mode;
         EXPECT_EQ(located.errors, "luruludri-find: the folder could not be remembered\n") << mode;
         const FindRun forgotten = program.run({"forget", "Qualle"});

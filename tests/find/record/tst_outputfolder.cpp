@@ -78,7 +78,8 @@ TEST_F(OutputFolderTest, AFileIsNoFolder) {
     EXPECT_TRUE(QFileInfo::exists(path("file")));
     fault.clear();
     { const OutputFolder folder(path("file/below"), fault); }
-    EXPECT_EQ(fault, path("file/below") + ": the folder cannot be made");
+    EXPECT_EQ(fault, path("file/below") + ": the folder cannot be made: " + QDir::toNativeSeparators(path("file")) +
+                         " is no folder");
 }
 
 } // namespace

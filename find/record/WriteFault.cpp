@@ -1,0 +1,63 @@
+#include "find/record/WriteFault.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace Find {
+
+namespace {
+
+QString shown(const QString& path) {
+    return QDir::toNativeSeparators(path);
+}
+
+/// The nearest thing above that is there; empty when not even the drive is.
+QString nearestAbove(const QString& path) {
+    QString above = QFileInfo(path).absolutePath();
+    while (!QFileInfo::exists(above)) {
+        const QString next = QFileInfo(above).absolutePath();
+        if (next == above) {
+            return {};
+        }
+        above = next;
+    }
+    return above;
+}
+
+QString causeAgainst(const QString& path, bool areFoldersMade) {
+    const QString parent = QFileInfo(path).absolutePath();
+    const QString nearest = nearestAbove(path);
+    if (nearest.isEmpty()) {
+        return QStringLiteral("there is no drive %1").arg(parent.left(2));
+    }
+    if (!QFileInfo(nearest).isDir()) {
+        return QStringLiteral("%1 is no folder").arg(shown(nearest));
+    }
+    if (nearest != parent && !areFoldersMade) {
+        return QStringLiteral("there is no folder %1").arg(shown(parent));
+    }
+    return QFileInfo(nearest).isWritable() ? QString() : QStringLiteral("%1 is read-only").arg(shown(nearest));
+}
+
+} // namespace
+
+QString causeAgainstFile(const QString& path) {
+    return causeAgainst(path, false);
+}
+
+QString causeAgainstFolder(const QString& path) {
+    return causeAgainst(path, true);
+}
+
+QString causeOf(QFileDevice::FileError error, const QString& systemsText) {
+    switch (error) {
+    case QFileDevice::ResourceError:
+        return QStringLiteral("the disk is full");
+    case QFileDevice::PermissionsError:
+        return QStringLiteral("it is read-only");
+    default:
+        return systemsText;
+    }
+}
+
+} // namespace Find
