@@ -1,20 +1,14 @@
+#include "fuzz/Fuzz.h"
 #include "recordings/RegFileWriter.h"
-
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 
 /// What was read and written reads as what it is.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
     Recordings::Registry registry;
-    registry.apply(Recordings::parseRegFile(bytes, QStringLiteral("fuzz.reg")).keys);
+    registry.apply(Recordings::parseRegFile(Fuzz::bytesOf(data, size), QStringLiteral("fuzz.reg")).keys);
     QStringList leftOut;
     const QByteArray written = Recordings::renderRegFile(registry, leftOut);
     Recordings::Registry again;
     again.apply(Recordings::parseRegFile(written, QStringLiteral("again.reg")).keys);
-    if (leftOut.isEmpty() && !(again == registry)) {
-        std::abort();
-    }
+    Fuzz::require(!leftOut.isEmpty() || again == registry, "read as written");
     return 0;
 }
