@@ -27,8 +27,8 @@ public:
     /// The names of the sub-keys, in the order in which Windows lists them.
     static std::vector<QString> subKeys(const Layers& key);
 
-    /// Calls `visit` with every key where it is kept, each before those below it and in the order of their names; with a
-    /// root only when it has values.
+    /// Calls `visit` with every key where it is kept, each before those below it and in the order of their names; with
+    /// a root only when it has values.
     void
     visit(const std::function<void(RegKey::Root root, const QStringList& path, const RegistryNode& key)>& visit) const;
 

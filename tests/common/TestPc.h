@@ -41,8 +41,8 @@ public:
     void link(const QString& path, const QString& folder); ///< a junction or link to a folder
     void removeFile(const QString& path);
     void enlarge(const QString& path, qint64 size); ///< with zeros behind its contents, which take no room on a disk
-    void hide(const QString& path);       ///< gives a file or folder the attribute "hidden"
-    void makeSystem(const QString& path); ///< the attribute "system"
+    void hide(const QString& path);                 ///< gives a file or folder the attribute "hidden"
+    void makeSystem(const QString& path);           ///< the attribute "system"
 
     /// Where the shell has the folder with this CSIDL value: a Start menu's or that of the common application data.
     void shellFolder(int csidl, const QString& path);

@@ -37,7 +37,8 @@ TEST(NeutralTexts, AreInEveryEventThatHasOne) {
     EXPECT_EQ(told(Trace::Read{"C:\\Anna.vdf", 3}), QStringList{"file C:\\user.vdf: 3 bytes"});
     EXPECT_EQ(told(Trace::Shortcut{"C:\\Anna.lnk", "C:\\Anna.exe"}),
               QStringList{"shortcut C:\\user.lnk: leads to C:\\user.exe"});
-    EXPECT_EQ(told(Trace::ShellFolder{5, "C:\\Users\\Anna"}), QStringList{"Documents (shell folder 5): C:\\Users\\user"});
+    EXPECT_EQ(told(Trace::ShellFolder{5, "C:\\Users\\Anna"}),
+              QStringList{"Documents (shell folder 5): C:\\Users\\user"});
     EXPECT_EQ(told(Trace::Environment{"OculusBase", QString("C:\\Anna")}),
               QStringList{"environment variable OculusBase: C:\\user"});
     EXPECT_EQ(told(Trace::UserLocation{"x", "C:\\Anna"}), QStringList{"the user's folder for \"x\": C:\\user"});
