@@ -40,7 +40,12 @@ install(FILES "${config}/LuruludriConfig.cmake" "${config}/LuruludriConfigVersio
 file(GLOB documents CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/docs/*.md")
 # Those for who changes the library cite its sources, which are not in the package.
 list(FILTER documents EXCLUDE REGEX "/(architecture|testing|performance)\\.md$")
-install(FILES README.md DESTINATION .)
+include(PackageReadme)
+file(READ README.md readme)
+package_readme("${readme}" readme)
+file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/package/README.md" "${readme}")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS README.md)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/package/README.md" DESTINATION .)
 install(FILES ${documents} docs/catalogue.schema.json DESTINATION docs)
 # What completes its command line lies where the shells look for it; Windows has no such places.
 set(shell docs/shell/luruludri-find.bash docs/shell/_luruludri-find docs/shell/luruludri-find.ps1)
@@ -52,7 +57,7 @@ else()
     install(FILES docs/shell/luruludri-find.ps1 DESTINATION docs/shell)
     install(FILES docs/shell/luruludri-find.1 DESTINATION share/man/man1)
 endif()
-install(FILES docs/host/CMakeLists.txt docs/host/main.cpp DESTINATION docs/host)
+install(FILES docs/host/CMakeLists.txt docs/host/main.cpp docs/host/mingw-w64.cmake DESTINATION docs/host)
 
 # Windows has no Qt of its own. What is made by others travels with what they ask for.
 if(WIN32)

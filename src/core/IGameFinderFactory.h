@@ -41,7 +41,8 @@ public:
     virtual std::unique_ptr<IGameFinder> createSteamFinder(const QString& appId, const QString& installFolderName,
                                                            const QStringList& executables) = 0;
 
-    /// Slot 4: up to eleven finders, tried in order until one finds the game. Takes the finders over and leaves the
+    /// Slot 4: up to eleven finders, tried in order until one finds the game, or until one fails for which the user has
+    /// chosen a folder (`userLocation`): the user's choice ends the search. Takes the finders over and leaves the
     /// caller's pointers null; any of them may be null before.
     virtual std::unique_ptr<IGameFinder>
     createMultiFinder(std::unique_ptr<IGameFinder>&& finder1, std::unique_ptr<IGameFinder>&& finder2,

@@ -33,7 +33,7 @@ expect_package() {
     shift 2
     expect_equal "files of the package" "$(cd "$folder" && find . -type f -printf '%P\n' | LC_ALL=C sort)" "$(
         {
-            printf '%s\n' README.md bin/catalogue.json docs/catalogue.schema.json docs/host/{CMakeLists.txt,main.cpp} \
+            printf '%s\n' README.md bin/catalogue.json docs/catalogue.schema.json docs/host/{CMakeLists.txt,main.cpp,mingw-w64.cmake} \
                 include/luruludri/{GameLocation,IGameFinder,IGameFinderFactory}.h \
                 lib/cmake/Luruludri/{DebugHost.h,LuruludriConfig.cmake,LuruludriConfigVersion.cmake} "$@"
             (cd "$source" && printf '%s\n' docs/*.md | grep -vE '/(architecture|testing|performance)\.md$')
@@ -41,6 +41,7 @@ expect_package() {
     )"
     cmp "$folder/bin/catalogue.json" "$source/samples/catalogue.json" || fail "the catalogue differs"
     expect_links "$folder"
+    expect_citations "$folder" "$source"
 }
 
 # What the documents link is there.
@@ -51,6 +52,19 @@ expect_links() {
             [[ $link == https:* || -e ${document%/*}/$link ]] || fail "$document: nothing to be found at $link"
         done < <(grep -oE '\]\([^)#]+' "$document" | cut -c 3-)
     done < <(find "$1" -name '*.md')
+}
+
+# What the documents cite of the source tree is in the package, too; what programs print aside.
+expect_citations() {
+    local folder=$1 source=$2 document word
+    # shellcheck disable=SC2016 # these are no commands
+    local paths='[A-Za-z0-9_.-]*/[A-Za-z0-9_./-]*[A-Za-z0-9_]|[A-Z]+\.md|`[a-z][a-z-]*/`' output='/^`{3}/,/^`{3}/d'
+    while read -r document; do
+        while read -r word; do
+            [[ ! -e $source/$word || -e $folder/$word || -e ${document%/*}/$word ]] ||
+                fail "${document#"$folder/"}: cites $word, which is not in the package"
+        done < <(sed -E "$output" "$document" | grep -oE "$paths" | tr -d '`' | sort -u)
+    done < <(find "$folder" -name '*.md')
 }
 
 export LC_ALL=C.UTF-8 # names are not all ASCII, and the system's locale may be "C"
