@@ -10,6 +10,7 @@
 #include "find/cli/ChoiceCommands.h"
 #include "find/cli/CommandForms.h"
 #include "find/cli/CommandLine.h"
+#include "find/cli/Dialogue.h"
 #include "find/cli/JsonReply.h"
 #include "find/cli/ListCommand.h"
 #include "find/cli/LookUpCommand.h"
@@ -20,13 +21,16 @@
 #include "find/explain/Explanation.h"
 #include "find/explain/ExplanationText.h"
 #include "find/explain/PluginTrace.h"
+#include "find/pc/System.h"
 #include "find/terminal/Console.h"
 #include "find/terminal/DidYouMean.h"
 #include "find/terminal/Progress.h"
 
+#include <QDate>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonObject>
+#include <QStandardPaths>
 
 #include <memory>
 #include <new>
@@ -235,13 +239,46 @@ ExitStatus follow(const CommandLine& commandLine, bool isJson) {
     return isJson ? failed : fail(QStringLiteral("try luruludri-find --help"));
 }
 
+/// A file on the Desktop that is not there yet.
+QString newReportFile() {
+    const QDir desktop(QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+    const QString name = QLatin1String("luruludri-pc-") + QDate::currentDate().toString(Qt::ISODate);
+    QString file = desktop.filePath(name + QLatin1String(".html"));
+    for (int number = 2; QFileInfo::exists(file); ++number) {
+        file = desktop.filePath(QStringLiteral("%1-%2.html").arg(name).arg(number));
+    }
+    return file;
+}
+
+DialogueParts::Made makeReportOnDesktop() {
+    Console::keepComplaints(); // they are told within the dialogue
+    Options options = parseCommandLine({QString(), QStringLiteral("report"), newReportFile()}).options;
+    const std::optional<Chosen> chosen = loadGames(options);
+    const MadeReport made = chosen ? makeReport(options, chosen->games, nullptr, {}) : MadeReport();
+    const std::vector<Complaint> complaints = Console::takeComplaints();
+    return {made.file, chosen ? made.fault : complaints.front().text()};
+}
+
 } // namespace
+
+ExitStatus runDialogue() {
+    DialogueParts parts;
+    parts.say = [](const QString& text) { Console::print(text); };
+    parts.readLine = &Console::readLine;
+    parts.makeReport = &makeReportOnDesktop;
+    parts.open = &openFile;
+    parts.waitForKey = &Console::waitForKey;
+    return talk(parts);
+}
 
 ExitStatus failForMemory() {
     return fail(QStringLiteral("out of memory"));
 }
 
 ExitStatus runProgram(const QStringList& arguments) {
+    if (arguments.size() < 2 && Console::isOwnWindow()) {
+        return runDialogue();
+    }
     const bool isJson = arguments.contains(QLatin1String("--json"));
     if (isJson) {
         replyInJson();

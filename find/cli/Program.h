@@ -13,6 +13,9 @@ enum ExitStatus {
 /// The whole program, given its arguments. Needs the application object.
 ExitStatus runProgram(const QStringList& arguments);
 
+/// What a double click does (Dialogue.h), on the terminal and the Desktop.
+ExitStatus runDialogue();
+
 /// Tells the user that memory ran out, which is how `runProgram` and its caller end on std::bad_alloc.
 ExitStatus failForMemory();
 

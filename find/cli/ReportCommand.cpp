@@ -30,7 +30,6 @@ ReportOrigin originOf(const Options& options, const OutputFile& file) {
             fileForReplay(QFileInfo(file.name()).fileName()), options.keepNames};
 }
 
-/// For who made it: the names that were replaced, which the page doesn't tell, included.
 QString describe(const ReportData& data, const NeutralRecording& recording, const OutputFile& file, bool areNamesKept) {
     int found = 0;
     for (const ReportedGame& game : data.games) {
@@ -42,30 +41,36 @@ QString describe(const ReportData& data, const NeutralRecording& recording, cons
 
 } // namespace
 
-ExitStatus reportPc(const Options& options, const Catalogue& games, const Recordings::Pc* chosen,
-                    const QStringList& problems) {
-    QString fault;
-    OutputFile file(options.folder, QLatin1String(".html"), fault);
-    if (!fault.isEmpty()) {
-        return fail(fault);
+MadeReport makeReport(const Options& options, const Catalogue& games, const Recordings::Pc* chosen,
+                      const QStringList& problems) {
+    MadeReport made;
+    OutputFile file(options.folder, QLatin1String(".html"), made.fault);
+    if (!made.fault.isEmpty()) {
+        return made;
     }
-    const Survey survey = surveyPc(options.plugin, games, fault);
-    if (!fault.isEmpty()) {
-        return fail(fault);
+    const Survey survey = surveyPc(options.plugin, games, made.fault);
+    if (!made.fault.isEmpty()) {
+        return made;
     }
     const NeutralRecording recording = makeRecording(survey.events, games, options.keepNames, chosen);
     const ReportData data = gatherReport(survey, games, recording, problems);
-    const QByteArray page = renderReportPage(data, originOf(options, file), Recordings::renderPcFile(recording.pc));
-    fault = file.write(page);
-    if (!fault.isEmpty()) {
-        return fail(fault);
+    made.fault = file.write(renderReportPage(data, originOf(options, file), Recordings::renderPcFile(recording.pc)));
+    made.file = file.name();
+    made.summary = describe(data, recording, file, options.keepNames);
+    made.notes = describeLosses(recording.leftOut, recording.names);
+    return made;
+}
+
+ExitStatus reportPc(const Options& options, const Catalogue& games, const Recordings::Pc* chosen,
+                    const QStringList& problems) {
+    const MadeReport made = makeReport(options, games, chosen, problems);
+    if (!made.fault.isEmpty()) {
+        return fail(made.fault);
     }
-    for (const QString& note : describeLosses(recording.leftOut, recording.names)) {
+    for (const QString& note : made.notes) {
         Console::complain(note);
     }
-    return Console::print(describe(data, recording, file, options.keepNames))
-               ? allFound
-               : fail(QStringLiteral("the summary could not be written"));
+    return Console::print(made.summary) ? allFound : fail(QStringLiteral("the summary could not be written"));
 }
 
 } // namespace Find

@@ -8,6 +8,9 @@ namespace Find {
 /// be any text: Qt's own function would lose, on Windows, what is outside the ANSI code page. False when it failed.
 bool setEnvironmentVariable(const char* name, const QString& value);
 
+/// Opens a file as a double click on it does; false when the system can't.
+bool openFile(const QString& file);
+
 /// Whether the library answers from the PC it runs on, and knows no recorded ones.
 bool isPcItself();
 

@@ -40,6 +40,15 @@ public:
     /// terminal that rewrites lines, and narrower than that.
     static void showPassingLine(const QString& line);
 
+    /// Whether the terminal is a window of its own that was opened for this program and closes with it: it was started
+    /// by a double click.
+    static bool isOwnWindow();
+
+    /// What the user types before Enter.
+    static QString readLine();
+
+    static void waitForKey();
+
     /// From now on, warnings and errors in Qt's message log, the plug-in's included, are complaints. The rest of that
     /// log is of no use to who reads the answers.
     static void complainOfQtMessages();

@@ -5,6 +5,9 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <iostream>
+#include <string>
+
 namespace Find {
 
 struct Console::Before {};
@@ -30,6 +33,20 @@ TerminalFacts Console::facts(Stream stream) {
 
 bool Console::write(Stream stream, const QString& text) {
     return writeUtf8(stream, text);
+}
+
+bool Console::isOwnWindow() {
+    return false; // a terminal here stays open
+}
+
+QString Console::readLine() {
+    std::string line;
+    std::getline(std::cin, line);
+    return QString::fromStdString(line);
+}
+
+void Console::waitForKey() {
+    readLine();
 }
 
 } // namespace Find

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <conio.h>
+
 #include <algorithm>
 
 namespace Find {
@@ -96,6 +98,25 @@ bool Console::write(Stream stream, const QString& text) {
         start += piece.size();
     }
     return true;
+}
+
+bool Console::isOwnWindow() {
+    DWORD mode = 0;
+    DWORD processes[2] = {};
+    return GetConsoleMode(GetStdHandle(STD_INPUT_HANDLE), &mode) != 0 &&
+           GetConsoleMode(handleOf(Stream::Output), &mode) != 0 && GetConsoleProcessList(processes, 2) == 1;
+}
+
+QString Console::readLine() {
+    wchar_t line[256] = {};
+    DWORD length = 0;
+    ReadConsoleW(GetStdHandle(STD_INPUT_HANDLE), line, 255, &length, nullptr);
+    return QString::fromWCharArray(line, static_cast<int>(length));
+}
+
+void Console::waitForKey() {
+    FlushConsoleInputBuffer(GetStdHandle(STD_INPUT_HANDLE));
+    _getwch();
 }
 
 } // namespace Find
