@@ -12,6 +12,7 @@ using Find::wordsNear;
 TEST(DidYouMean, AWordWithAFewWrongLettersIsKnown) {
     const QStringList known = {"find", "record", "runtimes", "explain"};
     EXPECT_EQ(wordsNear("recrod", known), QStringList{"record"}) << "swapped";
+    EXPECT_EQ(wordsNear("fnid", known), QStringList{"find"}) << "swapped, which is one fault and not two";
     EXPECT_EQ(wordsNear("recod", known), QStringList{"record"}) << "one too few";
     EXPECT_EQ(wordsNear("recoord", known), QStringList{"record"}) << "one too many";
     EXPECT_EQ(wordsNear("redord", known), QStringList{"record"}) << "another one";

@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <conio.h>
-
 #include <algorithm>
 
 namespace Find {
@@ -115,8 +113,14 @@ QString Console::readLine() {
 }
 
 void Console::waitForKey() {
-    FlushConsoleInputBuffer(GetStdHandle(STD_INPUT_HANDLE));
-    _getwch();
+    HANDLE input = GetStdHandle(STD_INPUT_HANDLE);
+    FlushConsoleInputBuffer(input);
+    INPUT_RECORD record = {};
+    DWORD count = 0;
+    bool isKey = false;
+    while (!isKey && ReadConsoleInputW(input, &record, 1, &count) != 0) {
+        isKey = record.EventType == KEY_EVENT && record.Event.KeyEvent.bKeyDown != FALSE;
+    }
 }
 
 } // namespace Find

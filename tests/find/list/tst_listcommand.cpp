@@ -90,6 +90,21 @@ TEST(ListCommand, TellsAllListsOfTheSamplePc) {
     EXPECT_EQ(entry(games, "federlicht-kolibri-canyon_assets", "Oculus")["finders"], QJsonArray());
 }
 
+TEST(ListCommand, OfARecordingASteamAppIsProposedWhenItsFolderCanBeTold) {
+    if (Find::isPcItself()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    FindProgram program;
+    ASSERT_EQ(run(program, {"record", "sent", "--pc", LURULUDRI_SAMPLES "/pc"}).exitStatus, 0);
+    const QStringList pc = {"--pc", program.folder() + "/sent.json"};
+    const QJsonArray games = installed(run(program, QStringList{"list", "--json"} + pc));
+    EXPECT_EQ(entry(games, "Orbitkurier", "Steam")["folder"].toString(), "D:/SteamLibrary/steamapps/common/Orbitkurier")
+        << "the only folder of the only app";
+    EXPECT_EQ(entry(games, "Fjordflug VR", "Steam")["finders"][0]["appId"].toString(), "7310040")
+        << "by the Uninstall registry";
+    EXPECT_EQ(entry(games, "250820", "Steam")["finders"], QJsonArray()) << "its folder may be another app's";
+}
+
 /// The program over the PC under test.
 FindRun listOf(FindProgram& program, const QStringList& arguments = {"list", "--json"}) {
     program.setVariable(Recordings::environmentVariable, qEnvironmentVariable(Recordings::environmentVariable));
