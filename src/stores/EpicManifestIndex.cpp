@@ -18,6 +18,9 @@ namespace {
 constexpr RegistrySource registeredFolder{View::view64, Hive::currentUser, u"Software\\Epic Games\\EOS",
                                           u"ModSdkMetadataDir"};
 
+/// A thousand times what the launcher's own have, so that no file takes all memory.
+constexpr qint64 largestManifest = qint64{16} * 1024 * 1024;
+
 QString manifestFolder() {
     const QString registered = readRegistryString(registeredFolder);
     if (!registered.isEmpty()) {
@@ -50,7 +53,8 @@ void EpicManifestIndex::build(std::list<EpicAppEntry>& entries) {
 
 void EpicManifestIndex::read(const QDir& folder, const QString& manifest, std::list<EpicAppEntry>& entries,
                              Logger& logger) {
-    const std::optional<EpicAppEntry> entry = parseEpicManifest(Files::readWholeFile(folder.filePath(manifest)));
+    const std::optional<EpicAppEntry> entry =
+        parseEpicManifest(Files::readWholeFile(folder.filePath(manifest), largestManifest));
     if (!entry) {
         logger.logWarning("  Skipped invalid manifest: %ls", qUtf16Printable(manifest));
         return;

@@ -11,9 +11,6 @@ namespace Files {
 
 namespace {
 
-/// A thousand times what the launchers' own files have.
-constexpr qint64 largestFile = qint64{16} * 1024 * 1024;
-
 bool told(const QString& path, bool found) {
     Trace::tell([&] { return Trace::Exists{Paths::toNative(path), found}; });
     return found;
@@ -41,9 +38,9 @@ QStringList names(const QString& folder, const QString& pattern) {
     return names;
 }
 
-QByteArray readWholeFile(const QString& path) {
+QByteArray readWholeFile(const QString& path, qint64 largest) {
     QFile file(Platform::pathOnPc(path));
-    const bool isToBeRead = file.open(QIODevice::ReadOnly) && file.size() <= largestFile;
+    const bool isToBeRead = file.open(QIODevice::ReadOnly) && file.size() <= largest;
     const QByteArray bytes = isToBeRead ? file.readAll() : QByteArray();
     Trace::tell([&] { return Trace::Read{Paths::toNative(path), bytes.size()}; });
     return bytes;

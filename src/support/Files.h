@@ -3,6 +3,9 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QtGlobal>
+
+#include <limits>
 
 /// What finders ask of the PC's file system: Qt's own questions, each told to the trace. Names of files come in the
 /// file system's order.
@@ -21,9 +24,8 @@ bool enter(QString& folder, const QString& name);
 /// The names of the folder's files that fit a pattern like "*.acf", without hidden ones; empty when it can't be listed.
 QStringList names(const QString& folder, const QString& pattern);
 
-/// All bytes of a file; empty when it is missing, can't be opened or has more than 16 MiB, so that no file takes all
-/// memory.
-QByteArray readWholeFile(const QString& path);
+/// All bytes of a file; empty when it is missing, can't be opened or has more than `largest` bytes.
+QByteArray readWholeFile(const QString& path, qint64 largest = std::numeric_limits<qint64>::max());
 
 /// Where a shortcut leads, with forward slashes; empty when it leads nowhere.
 QString shortcutTarget(const QString& path);
