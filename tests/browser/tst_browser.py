@@ -267,6 +267,15 @@ class Sample(ReportTest):
                 grounds.add(self.browser.run("return getComputedStyle(document.body).backgroundColor"))
         self.assertEqual(len(grounds), 2)
 
+    def test_a_finder_stands_on_one_line(self):
+        longest = "userProvidedLocation"
+        self.browser.run("document.querySelector('.finders span').textContent = arguments[0]", longest)
+        for width in (360, 820, 1280):
+            self.browser.show_as(width=width)
+            lines = self.browser.run("const span = document.querySelector('.finders span');"
+                                     "return span.offsetHeight / parseFloat(getComputedStyle(span).lineHeight)")
+            self.assertLess(lines, 1.5, f"{longest} at {width} pixels")
+
     def test_is_printed_without_what_only_a_window_needs(self):
         self.browser.show_as(scheme="dark", media="print")
         self.assertEqual(self.browser.shown(".tools"), [])
