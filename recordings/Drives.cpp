@@ -112,16 +112,23 @@ QStringList Drives::letters() const {
 }
 
 void Drives::visit(const std::function<void(const DrivePath& path, const File& file)>& visit) const {
-    std::vector<DrivePath> pending;
+    struct Pending {
+        DrivePath path;
+        QString folded;
+    };
+
+    std::vector<Pending> pending;
     const QStringList roots = letters();
-    std::for_each(roots.rbegin(), roots.rend(), [&](const QString& root) { pending.push_back(rootOf(root.at(0))); });
+    std::for_each(roots.rbegin(), roots.rend(), [&](const QString& root) {
+        pending.push_back({rootOf(root.at(0)), foldedRoot(root.at(0))});
+    });
     while (!pending.empty()) {
-        const DrivePath path = std::move(pending.back());
+        const Pending next = std::move(pending.back());
         pending.pop_back();
-        const File* const file = find(path);
-        visit(path, *file);
-        for (auto name = file->names.rbegin(); name != file->names.rend(); ++name) {
-            pending.push_back(pathIn(path, *name));
+        const File& file = *m_files.constFind(next.folded);
+        visit(next.path, file);
+        for (auto name = file.names.rbegin(); name != file.names.rend(); ++name) {
+            pending.push_back({pathIn(next.path, *name), next.folded + slash + foldName(*name)});
         }
     }
 }

@@ -4,6 +4,8 @@
 #include "find/record/Probe.h"
 #include "find/terminal/Progress.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <iterator>
 #include <optional>
@@ -69,10 +71,13 @@ void ExecutableWalk::visit(const Recordings::DrivePath& folder, bool isDeep) {
     }
 }
 
-/// Whether `path` is the folder of that folded path, or below it.
-bool isWithin(const QString& path, const QString& folder) {
-    return !folder.isEmpty() && path.startsWith(folder) &&
-           (path.size() == folder.size() || path.at(folder.size()) == QLatin1Char('/'));
+/// Whether the folded `path` is one of the folders, or below one.
+bool isWithin(const QString& path, const QSet<QString>& folders) {
+    int end = path.size();
+    while (end > 0 && !folders.contains(path.left(end))) {
+        end = path.lastIndexOf(QLatin1Char('/'), end - 1);
+    }
+    return end > 0;
 }
 
 } // namespace
@@ -108,18 +113,15 @@ void InstallFolders::add(const TraceEvent& event) {
 void InstallFolders::listExecutables(const GeneralFolders& general, Recordings::Drives& drives,
                                      Progress& progress) const {
     ExecutableWalk walk(drives, progress);
-    QStringList walked; // those with all that is below them
+    QSet<QString> walked; // those with all that is below them
     for (const auto& [folded, folder] : m_folders) {
-        const QString& path = folded;
-        const bool isDone =
-            std::any_of(walked.begin(), walked.end(), [&](const QString& known) { return isWithin(path, known); });
-        if (isDone) {
+        if (isWithin(folded, walked)) {
             continue;
         }
         const bool isDeep = !general.contains(folder);
         walk.walk(folder, isDeep);
         if (isDeep) {
-            walked.append(path);
+            walked.insert(folded);
         }
     }
 }
