@@ -12,15 +12,6 @@ namespace Find {
 
 namespace {
 
-ExitStatus fail(const QString& message) {
-    Console::complain(message);
-    return failed;
-}
-
-ExitStatus print(const QString& text, ExitStatus status) {
-    return Console::print(text) ? status : fail(QStringLiteral("the answers could not be written"));
-}
-
 void complainOfUnknownKey(const Options& options, const Catalogue& games) {
     const QString key = options.key.trimmed();
     Console::complain({options.catalogue, 0, 0,

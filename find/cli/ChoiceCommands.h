@@ -1,7 +1,7 @@
 #pragma once
 
 #include "find/catalogue/Catalogue.h"
-#include "find/cli/Program.h"
+#include "find/cli/Outcome.h"
 
 class IGameFinderFactory;
 

@@ -26,9 +26,11 @@ const char* const waiting = "\nOne moment, please. This can take a minute ...\n"
 
 const char* const ending = "\nPress any key to close this window.\n";
 
-bool isNo(const QString& line) {
+/// Enter alone, or a yes. Whatever else was typed, no report is made of it.
+bool isYes(const QString& line) {
     const QString answer = line.trimmed().toLower();
-    return answer.startsWith(QLatin1Char('n')) || answer.startsWith(QLatin1Char('q'));
+    return answer.isEmpty() ? !line.isEmpty()
+                            : QStringLiteral("|y|yes|ok|j|ja|").contains(QStringLiteral("|%1|").arg(answer));
 }
 
 QString describe(const QString& file, bool isShown) {
@@ -62,6 +64,12 @@ QString describe(const QString& fault) {
         .arg(fault);
 }
 
+QString describe(const QStringList& notes) {
+    return notes.isEmpty()
+               ? QString()
+               : QLatin1String("\nPlease note:\n\n    ") + notes.join(QLatin1String("\n    ")) + QLatin1Char('\n');
+}
+
 ExitStatus makeAndShow(const DialogueParts& parts) {
     parts.say(QLatin1String(waiting));
     const DialogueParts::Made made = parts.makeReport();
@@ -69,7 +77,7 @@ ExitStatus makeAndShow(const DialogueParts& parts) {
         parts.say(describe(made.fault));
         return failed;
     }
-    parts.say(describe(made.file, parts.open(made.file)));
+    parts.say(describe(made.file, parts.open(made.file)) + describe(made.notes));
     return allFound;
 }
 
@@ -78,10 +86,10 @@ ExitStatus makeAndShow(const DialogueParts& parts) {
 ExitStatus talk(const DialogueParts& parts) {
     parts.say(QLatin1String(introduction));
     ExitStatus status = allFound;
-    if (isNo(parts.readLine())) {
-        parts.say(QStringLiteral("\nNothing was read, and no file was made.\n"));
-    } else {
+    if (isYes(parts.readLine())) {
         status = makeAndShow(parts);
+    } else {
+        parts.say(QStringLiteral("\nNothing was read, and no file was made.\n"));
     }
     parts.say(QLatin1String(ending));
     parts.waitForKey();

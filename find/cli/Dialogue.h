@@ -1,8 +1,9 @@
 #pragma once
 
-#include "find/cli/Program.h"
+#include "find/cli/Outcome.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -12,11 +13,12 @@ namespace Find {
 struct DialogueParts {
     struct Made {
         QString file;
-        QString fault; ///< why there is no file; empty when there is one
+        QString fault;     ///< why there is no file; empty when there is one
+        QStringList notes; ///< what the user should know of the file
     };
 
     std::function<void(const QString& text)> say;
-    std::function<QString()> readLine; ///< what the user typed before Enter
+    std::function<QString()> readLine; ///< what the user typed, with the line's end; empty when nothing comes any more
     std::function<Made()> makeReport;
     std::function<bool(const QString& file)> open; ///< shows the file in the browser; false when that failed
     std::function<void()> waitForKey;

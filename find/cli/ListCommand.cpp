@@ -14,11 +14,6 @@ namespace Find {
 
 namespace {
 
-ExitStatus fail(const QString& message) {
-    Console::complain(message);
-    return failed;
-}
-
 QString lastLine(const std::vector<ListedGame>& games) {
     const auto found =
         std::count_if(games.begin(), games.end(), [](const ListedGame& game) { return game.finder.has_value(); });
@@ -37,7 +32,7 @@ ExitStatus listPc(const Options& options) {
     const bool isPrinted = options.json
                                ? printReply({{QStringLiteral("installed"), jsonOf(games)}})
                                : Console::print(renderList(games, Console::terminal(Stream::Output)) + lastLine(games));
-    return isPrinted ? allFound : fail(QStringLiteral("the answers could not be written"));
+    return afterPrinting(isPrinted, allFound);
 }
 
 } // namespace Find

@@ -15,11 +15,6 @@ namespace Find {
 
 namespace {
 
-ExitStatus fail(const QString& message) {
-    Console::complain(message);
-    return failed;
-}
-
 QString render(const Options& options, const QStringList& known, const std::vector<ListedGame>& games) {
     const Terminal terminal = Console::terminal(Stream::Output);
     const QString outcome =
@@ -45,10 +40,7 @@ ExitStatus lookUp(const Options& options, const QStringList& known) {
     }
     const bool isPrinted =
         options.json ? printReply(jsonReply(options, known, games)) : Console::print(render(options, known, games));
-    if (!isPrinted) {
-        return fail(QStringLiteral("the answers could not be written"));
-    }
-    return games.empty() ? someNotFound : allFound;
+    return afterPrinting(isPrinted, games.empty() ? someNotFound : allFound);
 }
 
 } // namespace Find

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "find/cli/Program.h"
+#include "find/cli/Outcome.h"
 
 #include <QStringList>
 

@@ -40,19 +40,6 @@ namespace Find {
 
 namespace {
 
-ExitStatus fail(const QString& message) {
-    Console::complain(message);
-    return failed;
-}
-
-ExitStatus failToWrite() {
-    return fail(QStringLiteral("the answers could not be written"));
-}
-
-ExitStatus print(const QString& text, ExitStatus status) {
-    return Console::print(text) ? status : failToWrite();
-}
-
 QString shownName(const QString& file) {
     return file == standardInput() ? QStringLiteral("standard input") : file;
 }
@@ -100,7 +87,7 @@ ExitStatus answer(IGameFinderFactory& factory, const Options& options, const Cat
     progress.finish();
     const bool isPrinted = options.json ? printReply(jsonOf(answers))
                                         : Console::print(renderTables(answers, Console::terminal(Stream::Output)));
-    return !isPrinted ? failToWrite() : answers.allGamesFound() ? allFound : someNotFound;
+    return afterPrinting(isPrinted, answers.allGamesFound() ? allFound : someNotFound);
 }
 
 /// `games` holds the one that was named.
@@ -119,7 +106,7 @@ ExitStatus explainGame(IGameFinderFactory& factory, const Options& options, cons
     }
     QJsonObject reply = jsonOf(explanation);
     reply.insert(QStringLiteral("game"), jsonOf(answer));
-    return printReply(reply) ? status : failToWrite();
+    return afterPrinting(printReply(reply), status);
 }
 
 ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& games, const PluginTrace* trace) {
@@ -255,8 +242,11 @@ DialogueParts::Made makeReportOnDesktop() {
     Options options = parseCommandLine({QString(), QStringLiteral("report"), newReportFile()}).options;
     const std::optional<Chosen> chosen = loadGames(options);
     const MadeReport made = chosen ? makeReport(options, chosen->games, nullptr, {}) : MadeReport();
-    const std::vector<Complaint> complaints = Console::takeComplaints();
-    return {made.file, chosen ? made.fault : complaints.front().text()};
+    QStringList notes = made.notes;
+    for (const Complaint& complaint : Console::takeComplaints()) {
+        notes.append(complaint.text());
+    }
+    return {made.file, chosen ? made.fault : notes.join(QLatin1Char('\n')), notes};
 }
 
 } // namespace

@@ -1,14 +1,10 @@
 #pragma once
 
+#include "find/cli/Outcome.h"
+
 #include <QStringList>
 
 namespace Find {
-
-enum ExitStatus {
-    allFound = 0,
-    someNotFound = 1,
-    failed = 2, ///< wrong use, or something that the program reads is missing or broken
-};
 
 /// The whole program, given its arguments. Needs the application object.
 ExitStatus runProgram(const QStringList& arguments);

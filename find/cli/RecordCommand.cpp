@@ -12,11 +12,6 @@ namespace Find {
 
 namespace {
 
-ExitStatus fail(const QString& message) {
-    Console::complain(message);
-    return failed;
-}
-
 ExitStatus write(const NeutralRecording& recording, bool areNamesKept, OutputFile& file) {
     const QString fault = file.write(Recordings::renderPcFile(recording.pc));
     if (!fault.isEmpty()) {
@@ -25,9 +20,7 @@ ExitStatus write(const NeutralRecording& recording, bool areNamesKept, OutputFil
     for (const QString& note : describeLosses(recording.leftOut, recording.names)) {
         Console::complain(note);
     }
-    return Console::print(summarize(recording.pc, recording.names, file.name(), areNamesKept))
-               ? allFound
-               : fail(QStringLiteral("the summary could not be written"));
+    return print(summarize(recording.pc, recording.names, file.name(), areNamesKept), allFound);
 }
 
 } // namespace

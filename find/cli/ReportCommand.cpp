@@ -19,11 +19,6 @@ namespace Find {
 
 namespace {
 
-ExitStatus fail(const QString& message) {
-    Console::complain(message);
-    return failed;
-}
-
 ReportOrigin originOf(const Options& options, const OutputFile& file) {
     return {QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")),
             QCoreApplication::applicationVersion(), QFileInfo(options.catalogue).fileName(),
@@ -70,7 +65,7 @@ ExitStatus reportPc(const Options& options, const Catalogue& games, const Record
     for (const QString& note : made.notes) {
         Console::complain(note);
     }
-    return Console::print(made.summary) ? allFound : fail(QStringLiteral("the summary could not be written"));
+    return print(made.summary, allFound);
 }
 
 } // namespace Find

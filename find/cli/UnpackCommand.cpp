@@ -3,20 +3,14 @@
 #include "find/answers/ChosenRecording.h"
 #include "find/cli/CommandLine.h"
 #include "find/record/OutputFolder.h"
+#include "find/record/WriteFault.h"
 #include "find/terminal/Console.h"
 
 #include <QFileInfo>
 
+#include <cerrno>
+
 namespace Find {
-
-namespace {
-
-ExitStatus fail(const QString& message) {
-    Console::complain(message);
-    return failed;
-}
-
-} // namespace
 
 ExitStatus unpackPc(const Options& options) {
     const QString path = QFileInfo(options.file).absoluteFilePath();
@@ -32,7 +26,8 @@ ExitStatus unpackPc(const Options& options) {
     QStringList leftOut;
     const QByteArray unwritten = Recordings::writeRecordingFolder(recording.pc, folder.path().toUtf8(), leftOut);
     if (!unwritten.isEmpty()) {
-        return fail(QStringLiteral("%1: the file cannot be written").arg(QString::fromUtf8(unwritten)));
+        return fail(
+            QStringLiteral("%1: the file cannot be written: %2").arg(QString::fromUtf8(unwritten), causeOf(errno)));
     }
     folder.keep();
     for (const QString& problem : describeProblems(options.file, recording.problems)) {

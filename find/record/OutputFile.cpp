@@ -31,6 +31,20 @@ QString fileFor(const QString& wanted, QLatin1String ending) {
     return wanted.endsWith(ending, Qt::CaseInsensitive) ? wanted : wanted + ending;
 }
 
+/// A disk that fills up takes a part, and only then says why it takes no more. A buffer would be written when it is too
+/// late to hear of that.
+bool writeAll(QSaveFile& file, const QByteArray& contents) {
+    qint64 written = 0;
+    while (written < contents.size()) {
+        const qint64 more = file.write(contents.constData() + written, contents.size() - written);
+        if (more <= 0) {
+            return false;
+        }
+        written += more;
+    }
+    return true;
+}
+
 } // namespace
 
 OutputFile::OutputFile(const QString& wanted, QLatin1String ending, QString& fault)
@@ -46,11 +60,10 @@ OutputFile::OutputFile(const QString& wanted, QLatin1String ending, QString& fau
 }
 
 QString OutputFile::write(const QByteArray& contents) {
-    const bool isWritten =
-        m_file.open(QIODevice::WriteOnly) && m_file.write(contents) == contents.size() && m_file.commit();
-    return isWritten ? QString()
-                     : QStringLiteral("%1: the file cannot be written: %2")
-                           .arg(m_name, causeOf(m_file.error(), m_file.errorString()));
+    const bool isWritten = m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(m_file, contents);
+    return isWritten && m_file.commit() ? QString()
+                                        : QStringLiteral("%1: the file cannot be written: %2")
+                                              .arg(m_name, causeOf(m_file.error(), m_file.errorString()));
 }
 
 } // namespace Find

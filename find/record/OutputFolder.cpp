@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <cerrno>
+
 namespace Find {
 
 namespace {
@@ -22,9 +24,10 @@ OutputFolder::OutputFolder(const QString& folder, QString& fault)
     } else if (m_wasThere && !QDir(m_folder).isEmpty(everything)) {
         fault = QStringLiteral("%1: the folder is not empty").arg(folder);
     } else if (!QDir().mkpath(m_folder) || !QFileInfo(m_folder).isWritable()) {
+        const int error = errno;
         const QString cause = causeAgainstFolder(m_folder);
-        fault = QStringLiteral("%1: the folder cannot be made").arg(folder) +
-                (cause.isEmpty() ? QString() : QLatin1String(": ") + cause);
+        fault =
+            QStringLiteral("%1: the folder cannot be made: %2").arg(folder, cause.isEmpty() ? causeOf(error) : cause);
     } else {
         m_isToBeRemoved = true;
     }

@@ -3,6 +3,9 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <cerrno>
+#include <system_error>
+
 namespace Find {
 
 namespace {
@@ -57,6 +60,19 @@ QString causeOf(QFileDevice::FileError error, const QString& systemsText) {
         return QStringLiteral("it is read-only");
     default:
         return systemsText;
+    }
+}
+
+QString causeOf(int error) {
+    switch (error) {
+    case ENOSPC:
+        return causeOf(QFileDevice::ResourceError, {});
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return causeOf(QFileDevice::PermissionsError, {});
+    default:
+        return QString::fromStdString(std::generic_category().message(error));
     }
 }
 

@@ -14,4 +14,7 @@ QString causeAgainstFolder(const QString& path);
 /// The cause of an error while a file was written, in plain words where the system has none.
 QString causeOf(QFileDevice::FileError error, const QString& systemsText);
 
+/// The same for an error of the C library.
+QString causeOf(int error);
+
 } // namespace Find

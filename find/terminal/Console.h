@@ -44,7 +44,7 @@ public:
     /// by a double click.
     static bool isOwnWindow();
 
-    /// What the user types before Enter.
+    /// The line that the user types, with its end. Empty when no more comes.
     static QString readLine();
 
     static void waitForKey();

@@ -15,7 +15,7 @@ namespace {
 /// A talk with a user who types one line: all that was said, and what was done, in its order.
 class Talk {
 public:
-    explicit Talk(const QString& answer, const DialogueParts::Made& made = {"C:/Users/user/Desktop/r.html", ""},
+    explicit Talk(const QString& answer, const DialogueParts::Made& made = {"C:/Users/user/Desktop/r.html", "", {}},
                   bool canOpen = true) {
         DialogueParts parts;
         parts.say = [this](const QString& text) { said += text; };
@@ -46,7 +46,7 @@ public:
 };
 
 TEST(Dialogue, SaysWhatIsReadAndWhatIsMadeBeforeItAsks) {
-    const Talk talk("");
+    const Talk talk("\n");
     for (const char* const words :
          {"What it reads: ", "which programs are installed", "What it makes: ", "one file on your Desktop",
           "Your name and the name of this PC are replaced", "Nothing is sent", "Press Enter to make the report."}) {
@@ -55,7 +55,7 @@ TEST(Dialogue, SaysWhatIsReadAndWhatIsMadeBeforeItAsks) {
 }
 
 TEST(Dialogue, EnterMakesTheReportAndShowsIt) {
-    for (const char* const answer : {"", "\r\n", "y\r\n", "ja"}) {
+    for (const char* const answer : {"\n", "\r\n", "y\r\n", "Yes\n", " ja \n"}) {
         const Talk talk(answer);
         EXPECT_EQ(talk.done, (QStringList{"read", "make", "open C:/Users/user/Desktop/r.html", "wait"})) << answer;
         EXPECT_EQ(talk.status, allFound);
@@ -67,7 +67,7 @@ TEST(Dialogue, EnterMakesTheReportAndShowsIt) {
 }
 
 TEST(Dialogue, NoMakesNothing) {
-    for (const char* const answer : {"n", "N\r\n", " nein", "q"}) {
+    for (const char* const answer : {"n\r\n", "N\n", "stop\n", "exit\r\n", "\x1a\r\n", ""}) {
         const Talk talk(answer);
         EXPECT_EQ(talk.done, (QStringList{"read", "wait"})) << answer;
         EXPECT_EQ(talk.status, allFound);
@@ -76,22 +76,28 @@ TEST(Dialogue, NoMakesNothing) {
 }
 
 TEST(Dialogue, ABrowserThatDoesNotOpenIsNoFault) {
-    const Talk talk("", {"C:/r.html", ""}, false);
+    const Talk talk("\n", {"C:/r.html", "", {}}, false);
     EXPECT_EQ(talk.status, allFound);
     EXPECT_TRUE(talk.said.contains("A double click on the file shows it in your browser."));
 }
 
 TEST(Dialogue, AFaultStaysOnTheScreen) {
-    const Talk talk("", {"", "the disk is full"});
+    const Talk talk("\n", {"", "the disk is full", {}});
     EXPECT_EQ(talk.done, (QStringList{"read", "make", "wait"}));
     EXPECT_EQ(talk.status, failed);
     EXPECT_TRUE(talk.said.contains("The report could not be made. This is why:\n\n    the disk is full\n"));
     EXPECT_FALSE(talk.said.contains("ready"));
 }
 
+TEST(Dialogue, TellsWhatIsMissingInTheReport) {
+    const Talk talk("\n", {"C:/r.html", "", {"not recorded: C:/x", "Al is too short a name"}});
+    EXPECT_TRUE(talk.said.contains("\nPlease note:\n\n    not recorded: C:/x\n    Al is too short a name\n"));
+    EXPECT_FALSE(Talk("\n").said.contains("Please note"));
+}
+
 TEST(Dialogue, FitsTheWindow) {
-    const Talk good("");
-    const Talk bad("", {"", "x"});
+    const Talk good("\n");
+    const Talk bad("\n", {"", "x", {}});
     for (const QString& line : (good.said + bad.said).split('\n')) {
         EXPECT_LE(line.size(), 78) << line.toStdString();
     }

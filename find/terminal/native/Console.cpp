@@ -41,8 +41,7 @@ bool Console::isOwnWindow() {
 
 QString Console::readLine() {
     std::string line;
-    std::getline(std::cin, line);
-    return QString::fromStdString(line);
+    return std::getline(std::cin, line) ? QString::fromStdString(line + '\n') : QString();
 }
 
 void Console::waitForKey() {

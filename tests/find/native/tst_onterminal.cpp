@@ -145,7 +145,7 @@ TEST(OnAFullDisk, AnswersThatCannotBeWrittenAreAFault) {
           QStringList{"--help"}, QStringList{"--json", "--help"}}) {
         const FindRun run = program.run(arguments);
         EXPECT_EQ(run.exitStatus, 2) << arguments.join(' ').toStdString();
-        EXPECT_EQ(run.errors, "luruludri-find: the answers could not be written\n")
+        EXPECT_EQ(run.errors, "luruludri-find: the answers could not be written: the disk is full\n")
             << arguments.join(' ').toStdString();
     }
 }
