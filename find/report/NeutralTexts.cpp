@@ -1,5 +1,7 @@
 #include "find/report/NeutralTexts.h"
 
+#include "find/record/UsedParts.h"
+#include "recordings/RegValues.h"
 #include "recordings/Utf16Text.h"
 
 #include <variant>
@@ -38,11 +40,10 @@ public:
     void operator()(Trace::Key& event) const { map(event.place.key); }
 
     void operator()(Trace::Value& event) const {
-        constexpr quint32 text = 1;
-        constexpr quint32 textWithVariables = 2;
         map(event.place.key);
+        event.data = usedValue({event.name, false, event.type, event.data}).data; // as the recording has it
         map(event.name);
-        if (event.type == text || event.type == textWithVariables) {
+        if (event.type == Recordings::RegType::string) {
             event.data = Recordings::toUtf16(m_names.text(Recordings::fromUtf16(event.data)));
         }
     }

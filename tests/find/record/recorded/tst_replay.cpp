@@ -247,6 +247,11 @@ TEST_F(RecordTest, SecretsOfEveryKindStayWhereTheyAre) {
     ASSERT_EQ(run.exitStatus, 0) << run.errors.toStdString();
     EXPECT_FALSE(tells("pc", "GEHEIM")) << contents("pc").toStdString();
     EXPECT_EQ(answers(path("pc.json"), catalogue).count("\"found\": true"), 4);
+
+    ASSERT_EQ(program.runBare({"--pc", path("secret"), "report", path("page.html"), catalogue}).exitStatus, 0);
+    QFile page(path("page.html"));
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(page.readAll().contains("GEHEIM"));
 }
 
 /// The answers with one word for the name and for what stands in its place.
