@@ -5,8 +5,6 @@
 #include "support/Logger.h"
 #include "support/Trace.h"
 
-#include <QJsonArray>
-
 namespace Finders {
 
 namespace {
@@ -26,7 +24,9 @@ bool UniversalAppFinder::find(GameLocation& location) {
     const QString fullName = QString::fromStdU16String(packageFullNameOf(m_packageFamily, functions));
     const QString family = QString::fromStdU16String(m_packageFamily);
     if (fullName.isEmpty()) {
-        tellPackage(family, functions.getPackagesByPackageFamily != nullptr, fullName, {});
+        const bool isSupported = functions.getPackagesByPackageFamily != nullptr;
+        tellPackage(family, isSupported, fullName, {});
+        Trace::note(isSupported ? "The app package is not installed." : "This Windows knows no app packages.");
         logger().logAlways("UAPP: Not found '%ls'", qUtf16Printable(family));
         return false;
     }
@@ -38,6 +38,7 @@ bool UniversalAppFinder::find(GameLocation& location) {
     const QString appId = appIds.value(0);
     logger().logAlways("UAPP: Checking '%ls' '%ls'", qUtf16Printable(fullName), qUtf16Printable(appId));
     if (appId.isEmpty()) {
+        Trace::note("The app package has no application that could be started.");
         return false;
     }
 

@@ -130,6 +130,9 @@ TEST(Explanation, OfTheStoresTellsThatNoneHasTheGame) {
     EXPECT_THAT(lines, Contains(QString("   * No Oculus library has the app rennen.")));
     EXPECT_THAT(lines, Contains(QString("   * No game of the Games Explorer is named \"Rennen\".")));
     EXPECT_EQ(lines.filter("   app package Rennen_1: ").size(), 1);
+    const QRegularExpression noPackage(
+        "^   \\* (The app package is not installed|This Windows knows no app packages)\\.$");
+    EXPECT_EQ(lines.filter(noPackage).size(), 1);
 }
 
 TEST(Explanation, TellsThatTheUsersChoiceEndsTheSearch) {

@@ -3,6 +3,7 @@
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "common/TraceLog.h"
 #include "common/recorded/RecordingFolder.h"
 #include "core/Locations.h"
 
@@ -60,6 +61,15 @@ TEST_F(PackagesTest, AnUnknownFamilyLeavesTheLocationAlone) {
     EXPECT_FALSE(find("Bolt.Kite"));
     EXPECT_EQ(location, usedLocation());
     EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: UAPP: Not found 'Bolt.Kite'"));
+}
+
+TEST_F(PackagesTest, TheTraceSaysWhyThereIsNothingToStart) {
+    const TraceLog trace;
+    find("Bolt.Tools_abc");
+    find("Bolt.Kite");
+    find("Bolt.Kite_abc");
+    EXPECT_THAT(trace.notes(), ElementsAre("The app package has no application that could be started.",
+                                           "The app package is not installed."));
 }
 
 TEST_F(PackagesTest, EverySearchAsksAgain) {
