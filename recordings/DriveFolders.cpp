@@ -122,7 +122,7 @@ std::vector<Child> Reader::childrenOf(const QByteArray& folder) {
               [](const Child& a, const Child& b) { return std::tie(a.folded, a.name) < std::tie(b.folded, b.name); });
     const auto isSame = [this](const Child& a, const Child& b) {
         if (a.folded == b.folded) {
-            report(b.path, QStringLiteral("for Windows this is the same name as “%1”").arg(a.name));
+            report(b.path, QStringLiteral("for Windows this is the same name as \"%1\"").arg(a.name));
         }
         return a.folded == b.folded;
     };

@@ -128,13 +128,13 @@ void Reader::readEntry(const JsonValue& json, const QString& folder) {
         name = name ? name : json.member(kind);
     }
     if (!name || !DrivePath::canName(name->text) || name->text.isEmpty()) {
-        report(json, name ? QStringLiteral("no file of Windows can be named “%1”").arg(name->text)
+        report(json, name ? QStringLiteral("no file of Windows can be named \"%1\"").arg(name->text)
                           : QStringLiteral("the name of a file is expected, or an object with one"));
         return;
     }
     File* const file = m_drives.add(folder, name->text);
     if (!file) {
-        report(json, QStringLiteral("for Windows the name “%1” is there twice").arg(name->text));
+        report(json, QStringLiteral("for Windows the name \"%1\" is there twice").arg(name->text));
         return;
     }
     readMembers(json, *file);
@@ -157,7 +157,7 @@ void Reader::readMembers(const JsonValue& json, File& file) {
         } else if (member.name == targetMember) {
             file.contents = renderShellLink(member.text);
         } else if (member.name != fileMember && member.name != shortcutMember && member.name != entriesMember) {
-            report(member, QStringLiteral("nothing is known of the name “%1”").arg(member.name));
+            report(member, QStringLiteral("nothing is known of the name \"%1\"").arg(member.name));
         }
     }
 }
@@ -179,7 +179,7 @@ Drives readDrivesJson(const JsonValue& json, const QString& file, std::vector<Pr
     for (const JsonValue& drive : json.items) {
         const std::optional<DrivePath> root = DrivePath::parse(drive.name + QLatin1String(":/"));
         if (drive.name.size() != 1 || !root) {
-            reader.report(drive, QStringLiteral("“%1” is no drive's letter").arg(drive.name));
+            reader.report(drive, QStringLiteral("\"%1\" is no drive's letter").arg(drive.name));
         } else {
             drives.make(*root, File::Kind::Folder);
             reader.readEntries(drive, foldedPath(*root));

@@ -98,7 +98,7 @@ bool Reader::readMembers(JsonValue& object, int depth) {
             return false;
         }
         if (!take(QLatin1Char(':'))) {
-            return fail(QStringLiteral("“:” is expected"));
+            return fail(QStringLiteral("\":\" is expected"));
         }
         if (!readValue(member, depth + 1) || !readSeparator(QLatin1Char('}'), isEnd)) {
             return false;
@@ -122,7 +122,12 @@ bool Reader::readItems(JsonValue& array, int depth) {
 
 bool Reader::readSeparator(QLatin1Char end, bool& isEnd) {
     isEnd = take(end);
-    return isEnd || take(QLatin1Char(',')) || fail(QStringLiteral("“,” or “%1” is expected").arg(end));
+    const bool isComma = !isEnd && take(QLatin1Char(','));
+    skipSpace();
+    if (isComma && peek() == end) {
+        return fail(QStringLiteral("there is a comma too many before \"%1\"").arg(end));
+    }
+    return isEnd || isComma || fail(QStringLiteral("\",\" or \"%1\" is expected").arg(end));
 }
 
 bool Reader::readString(QString& string) {
@@ -183,7 +188,9 @@ bool Reader::readWord(JsonValue& value) {
     } else if (!word.isEmpty() && (word.at(0).isDigit() || word.at(0) == QLatin1Char('-'))) {
         value.kind = JsonValue::Kind::Number;
     } else if (word != QLatin1String("null")) {
-        return failAt(begin, QStringLiteral("a value is expected"));
+        const bool isComment = peek() == QLatin1Char('/');
+        return failAt(begin,
+                      isComment ? QStringLiteral("JSON has no comments") : QStringLiteral("a value is expected"));
     }
     return true;
 }
@@ -219,7 +226,10 @@ bool Reader::failAt(int position, const QString& message) {
 std::optional<JsonValue> parseJson(const QByteArray& json, JsonFault& fault) {
     const std::optional<QString> text = decoded(json.startsWith("\xEF\xBB\xBF") ? json.mid(3) : json);
     if (!text) {
-        fault = {0, 0, QStringLiteral("the file is not UTF-8")};
+        const bool isUtf16 = json.startsWith("\xFF\xFE") || json.startsWith("\xFE\xFF");
+        fault = {0, 0,
+                 isUtf16 ? QStringLiteral("the file is UTF-16; it must be saved as UTF-8")
+                         : QStringLiteral("the file is not UTF-8")};
         return std::nullopt;
     }
     JsonValue value;

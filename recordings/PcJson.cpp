@@ -102,7 +102,7 @@ void Reader::readVolume(const JsonValue& value, const QString& place) {
     if (name.startsWith(QLatin1String("\\\\?\\Volume{")) && name.endsWith(QLatin1String("}\\"))) {
         m_pc.volumes.insert(value.name.at(0).toUpper(), name);
     } else if (value.kind == Kind::String) {
-        report(value, place, QStringLiteral("“\\\\?\\Volume{…}\\” is expected"));
+        report(value, place, QStringLiteral("\"\\\\?\\Volume{…}\\\" is expected"));
     }
 }
 
@@ -130,7 +130,7 @@ void Reader::readPackage(const JsonValue& value, const QString& place) {
         }
     }
     if (package.family.isEmpty() || package.fullName.isEmpty()) {
-        report(value, place, QStringLiteral("a “family” and a “fullName” are expected"));
+        report(value, place, QStringLiteral("a \"family\" and a \"fullName\" are expected"));
     } else {
         m_pc.packages->push_back(std::move(package));
     }
@@ -165,7 +165,7 @@ void Reader::readVersion(const JsonValue& value, const QString& place) {
     if (isGood) {
         m_pc.hostVersion = number;
     } else if (value.kind == Kind::String) {
-        report(value, place, QStringLiteral("four numbers up to 65535 are expected, as in “1.2.3.4”"));
+        report(value, place, QStringLiteral("four numbers up to 65535 are expected, as in \"1.2.3.4\""));
     }
 }
 
@@ -217,7 +217,7 @@ void Reader::mark(const JsonValue& array, const QString& place, bool File::*attr
         const std::optional<DrivePath> path = DrivePath::parse(text);
         File* const file = path ? m_pc.drives.find(*path) : nullptr;
         if (!path) {
-            report(array, place, QStringLiteral("“%1” has no drive letter").arg(text));
+            report(array, place, QStringLiteral("\"%1\" has no drive letter").arg(text));
         } else if (file) {
             file->*attribute = true;
         }

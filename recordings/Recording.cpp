@@ -113,7 +113,8 @@ void readFile(const QByteArray& path, Recording& recording) {
     JsonFault fault;
     const std::optional<JsonValue> json = parseJson(*text, fault);
     if (!json && text->trimmed().startsWith('{')) {
-        recording.fault = QStringLiteral("line %1: %2").arg(QString::number(fault.line), fault.message);
+        recording.fault = fault.message;
+        recording.faultLine = fault.line;
     } else if (!json || !isPcFile(*json)) {
         recording.fault = noRecording();
     } else {

@@ -18,6 +18,7 @@ constexpr const char* environmentVariable = "LURULUDRI_PC";
 struct Recording {
     Pc pc;
     QString fault;                 ///< why there is none to answer from; `pc` is then empty
+    int faultLine = 0;             ///< where in the file, counted from 1; 0 when that is not known
     std::vector<Problem> problems; ///< what in it can't be read, in the order of its files
 };
 

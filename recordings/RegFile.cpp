@@ -99,7 +99,7 @@ bool Parser::openKey(const QString& line) {
         return rootName.compare(r.name, Qt::CaseInsensitive) == 0;
     });
     if (root == std::end(rootNames)) {
-        return failHere(QStringLiteral("“%1” is no root key, such as HKEY_LOCAL_MACHINE").arg(rootName));
+        return failHere(QStringLiteral("\"%1\" is no root key, such as HKEY_LOCAL_MACHINE").arg(rootName));
     }
     if (parts.size() > deepestKey) {
         return failHere(QStringLiteral("the key is more than %1 levels deep").arg(deepestKey));
@@ -121,7 +121,7 @@ bool Parser::parseValue() {
     }
     m_cursor.skipBlanks();
     if (!m_cursor.take(QLatin1String("="))) {
-        return failHere(QStringLiteral("“=” is expected after the name of a value"));
+        return failHere(QStringLiteral("\"=\" is expected after the name of a value"));
     }
     m_cursor.skipBlanks();
     if (!parseData(value)) {
@@ -184,10 +184,10 @@ bool Parser::parseTypedBytes(RegValue& value) {
             return false;
         }
         if (!m_cursor.take(QLatin1String("):"))) {
-            return failHere(QStringLiteral("“):” is expected after the type"));
+            return failHere(QStringLiteral("\"):\" is expected after the type"));
         }
     } else if (!m_cursor.take(QLatin1String("hex:"))) {
-        return failHere(QStringLiteral("a string, “dword:”, “hex:”, “hex(…):” or “-” is expected"));
+        return failHere(QStringLiteral("a string, \"dword:\", \"hex:\", \"hex(…):\" or \"-\" is expected"));
     }
     return m_cursor.takeBytes(value.data);
 }
@@ -220,7 +220,7 @@ RegFile parseRegFile(const QByteArray& bytes, const QString& file) {
     RegFile result;
     const QString text = decodeRegText(bytes, file, result.problems);
     if (!hasHeader(text)) {
-        result.problems = {{file, 1, QStringLiteral("the first line is not “Windows Registry Editor Version 5.00”")}};
+        result.problems = {{file, 1, QStringLiteral("the first line is not \"Windows Registry Editor Version 5.00\"")}};
         return result;
     }
     Parser(text, file, result).parse();

@@ -53,6 +53,18 @@ QStringList knownTypes() {
     return names;
 }
 
+/// Those of finders of any type.
+QStringList knownFields() {
+    QStringList names = {typeMember};
+    for (const FinderType& type : finderTypes()) {
+        for (const FinderField& field : type.fields) {
+            names.append(QLatin1String(field.name));
+        }
+    }
+    names.removeDuplicates();
+    return names;
+}
+
 /// What could have been written in the place of a word that is not known.
 QString hint(const QString& word, const QStringList& known) {
     const QString meant = didYouMean(word, known);
@@ -83,7 +95,7 @@ Catalogue CatalogueReader::read(const Recordings::JsonValue& document) {
     for (std::size_t i = 0; i < games->items.size(); ++i) {
         const QString path = pathOf(gamesMember, i);
         Game game = readGame(games->items[i], path);
-        expectNewName(catalogue, games->items[i], path, game.name);
+        expectNewName(games->items[i], path, game.name);
         catalogue.push_back(std::move(game));
     }
     return catalogue;
@@ -114,8 +126,12 @@ Game CatalogueReader::readGame(const Value& value, const QString& path) {
 
 FinderEntry CatalogueReader::readFinder(const Value& value, const QString& path) {
     FinderEntry entry;
-    entry.type = expectKind(value, path, Kind::Object) ? readType(value, path) : nullptr;
+    if (!expectKind(value, path, Kind::Object)) {
+        return entry;
+    }
+    entry.type = readType(value, path);
     if (entry.type == nullptr) {
+        expectMembers(value, path, {}, knownFields());
         return entry;
     }
     QStringList required = {typeMember};
@@ -187,7 +203,7 @@ void CatalogueReader::readInto(QString& text, const Value& value, const QString&
     text = value.text;
     if (hasControlCharacter(text)) {
         // "D:\bin\new" is good JSON, but no folder.
-        fail(value, path, QStringLiteral("control character in a text (a backslash is written \\\\)"));
+        fail(value, path, QStringLiteral("a control character in a string (a backslash is written \\\\)"));
     }
 }
 
@@ -219,7 +235,7 @@ void CatalogueReader::expectMembers(const Value& object, const QString& path, co
         if (!known.contains(member.name)) {
             failAt(member.namePlace, path, QStringLiteral("unknown field ") + name + hint(member.name, known));
         } else if (present.contains(member.name)) {
-            failAt(member.namePlace, path, name + QStringLiteral(" is there twice"));
+            failAt(member.namePlace, path, name + QStringLiteral(" appears twice"));
         }
         present.append(member.name);
     }
@@ -230,15 +246,13 @@ void CatalogueReader::expectMembers(const Value& object, const QString& path, co
     }
 }
 
-void CatalogueReader::expectNewName(const Catalogue& catalogue, const Value& game, const QString& path,
-                                    const QString& name) {
+void CatalogueReader::expectNewName(const Value& game, const QString& path, const QString& name) {
     const Value* const value = game.member(nameMember);
     if (value == nullptr || value->kind != Kind::String) {
         return; // which was told
     }
-    const bool isTaken = std::any_of(catalogue.begin(), catalogue.end(), [&](const Game& other) {
-        return other.name.compare(name, Qt::CaseInsensitive) == 0;
-    });
+    const bool isTaken = m_names.contains(name.toCaseFolded());
+    m_names.insert(name.toCaseFolded());
     if (name.isEmpty()) {
         fail(*value, path, QStringLiteral("\"name\" is empty"));
     } else if (isTaken) {

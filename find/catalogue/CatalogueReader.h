@@ -3,6 +3,7 @@
 #include "find/catalogue/Catalogue.h"
 #include "recordings/Json.h"
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -38,11 +39,12 @@ private:
     bool expectKind(const Value& value, const QString& path, Value::Kind kind);
     void expectMembers(const Value& object, const QString& path, const QStringList& required,
                        const QStringList& optional = {});
-    void expectNewName(const Catalogue& catalogue, const Value& game, const QString& path, const QString& name);
+    void expectNewName(const Value& game, const QString& path, const QString& name);
     bool fail(const Value& value, const QString& path, const QString& message);
     bool failAt(const Recordings::JsonPlace& place, const QString& path, const QString& message);
 
     CatalogueFaults m_faults;
+    QSet<QString> m_names; ///< of the games that were read, in folded letters
 };
 
 } // namespace Find

@@ -110,7 +110,16 @@ TEST(Catalogue, AGameHasElevenFindersAtMost) {
 TEST(Catalogue, LettersOutsideAsciiAndAByteOrderMarkPass) {
     const QByteArray json = "\xEF\xBB\xBF{\"games\": [{\"name\": \"Käfer 王\", \"finders\": []}]}";
     EXPECT_EQ(parse(json).front().name, "Käfer 王");
-    EXPECT_EQ(placedFaultsOf("\xEF\xBB\xBF{\"games\" []}"), "1:10: “:” is expected");
+    EXPECT_EQ(placedFaultsOf("\xEF\xBB\xBF{\"games\" []}"), "1:10: \":\" is expected");
+}
+
+TEST(Catalogue, AFinderWithoutAKnownTypeHasItsOtherFaultsTold) {
+    EXPECT_EQ(faultOf(withFinder(R"({"typ": "steam", "appId": "1"})")),
+              "games[0].finders[0]: \"type\" is missing\n"
+              "games[0].finders[0]: unknown field \"typ\"; did you mean \"type\"?");
+    EXPECT_EQ(faultOf(withFinder(R"({"type": "stem", "appId": "1", "appId": "2"})")),
+              "games[0].finders[0]: unknown type \"stem\"; did you mean \"steam\"?\n"
+              "games[0].finders[0]: \"appId\" appears twice");
 }
 
 TEST(Catalogue, AnUnknownTypeNamesTheOnesThatCanBeMeant) {
@@ -173,18 +182,18 @@ TEST(Catalogue, AllFaultsAreToldInOneRunWithTheirPlaces) {
               "6:14: games[0].finders[1]: unknown field \"exectuables\"; did you mean \"executables\"?\n"
               "8:18: games[1]: there is a game \"a\" already\n"
               "8:34: games[1].finders: a list is needed, not an object\n"
-              "8:38: games[1]: \"name\" is there twice\n"
+              "8:38: games[1]: \"name\" appears twice\n"
               "9:9: games[2]: an object is needed, not null\n"
               "11:16: $schema: a string is needed, not a number");
 }
 
 TEST(Catalogue, FieldsThatAreThereTwiceAreFaults) {
-    EXPECT_EQ(placedFaultsOf("{\"games\": [],\n \"games\": []}"), "2:2: \"games\" is there twice");
+    EXPECT_EQ(placedFaultsOf("{\"games\": [],\n \"games\": []}"), "2:2: \"games\" appears twice");
     EXPECT_EQ(placedFaultsOf(withFinder("\n"
                                         R"({"type": "folder", "folder": "X", "folder": "Y", "executables": []})")),
-              "2:35: games[0].finders[0]: \"folder\" is there twice");
+              "2:35: games[0].finders[0]: \"folder\" appears twice");
     EXPECT_EQ(faultOf(withFinder(R"({"type": "folder", "type": "folder", "folder": "Y", "executables": []})")),
-              "games[0].finders[0]: \"type\" is there twice");
+              "games[0].finders[0]: \"type\" appears twice");
 }
 
 TEST(Catalogue, ASchemaCanBeNamed) {
@@ -215,12 +224,12 @@ TEST(Catalogue, NamesAreThereAndDiffer) {
 TEST(Catalogue, ABackslashThatIsNotDoubledIsNoted) {
     EXPECT_EQ(placedFaultsOf("{\"games\": [\n  \"D:\\Games\"]}"), "2:6: a backslash in a string must be doubled");
     EXPECT_EQ(faultOf(withFinder(R"({"type": "folder", "folder": "D:\bin\new", "executables": []})")),
-              "games[0].finders[0].folder: control character in a text (a backslash is written \\\\)");
+              "games[0].finders[0].folder: a control character in a string (a backslash is written \\\\)");
 }
 
 TEST(Catalogue, BrokenJsonHasALineAndAColumn) {
     EXPECT_EQ(placedFaultsOf("{\"games\": [\n    \"K\xC3\xA4\", \"abc\n]}"), "2:11: the string is not closed");
-    EXPECT_EQ(placedFaultsOf("{\"games\": [\n]"), "2:2: “,” or “}” is expected");
+    EXPECT_EQ(placedFaultsOf("{\"games\": [\n]"), "2:2: \",\" or \"}\" is expected");
     EXPECT_EQ(placedFaultsOf("{\"games\": []}\n}"), "2:1: something follows the end");
     EXPECT_EQ(placedFaultsOf("games"), "1:1: a value is expected");
     EXPECT_EQ(placedFaultsOf("\"games\""), "1:1: an object is needed, not a string");
@@ -232,7 +241,8 @@ TEST(Catalogue, ATextThatCanBeNoCatalogueIsRefused) {
     EXPECT_EQ(faultOf(""), "the file is empty");
     EXPECT_EQ(faultOf(" \r\n"), "the file is empty");
     EXPECT_EQ(faultOf("\xEF\xBB\xBF"), "the file is empty");
-    EXPECT_EQ(faultOf(QByteArray("\xFF\xFE{\0", 4)), "the file is not UTF-8");
+    EXPECT_EQ(faultOf("\xE4"), "the file is not UTF-8");
+    EXPECT_EQ(faultOf(QByteArray("\xFF\xFE{\0", 4)), "the file is UTF-16; it must be saved as UTF-8");
 }
 
 TEST(Catalogue, DeepNestingIsAFaultAndNoCrash) {

@@ -202,16 +202,16 @@ TEST(Formats, OneFileWithFaultsIsUsedAsFarAsItGoes) {
 "y": {"type": 3, "bytes": "0"}, "z": "good"}, "HKEY_USERS\\b": 1}, "surplus": 1})",
                                 jsonFault);
     const Pc pc = readPcFile(*json, "x", fault, problems);
-    EXPECT_EQ(describe(problems), R"(x:2: drives: for Windows the name “A” is there twice
-x:2: drives: no file of Windows can be named “con”
+    EXPECT_EQ(describe(problems), R"(x:2: drives: for Windows the name "A" is there twice
+x:2: drives: no file of Windows can be named "con"
 x:2: drives: the name of a file is expected, or an object with one
-x:2: drives: nothing is known of the name “colour”
+x:2: drives: nothing is known of the name "colour"
 x:2: drives: the name of a file is expected, or an object with one
-x:2: drives: “CD” is no drive's letter
+x:2: drives: "CD" is no drive's letter
 x:2: drives: a list is expected
 x:3: registry: HKEY_X\a: a key with an object of values is expected
-x:3: registry: x: a string is expected, or a “type” and “bytes” in hexadecimal digits
-x:4: registry: y: a string is expected, or a “type” and “bytes” in hexadecimal digits
+x:3: registry: x: a string is expected, or a "type" and "bytes" in hexadecimal digits
+x:4: registry: y: a string is expected, or a "type" and "bytes" in hexadecimal digits
 x:4: registry: HKEY_USERS\b: a key with an object of values is expected
 x:4: surplus: nothing of this name is known
 )");

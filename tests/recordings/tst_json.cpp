@@ -63,10 +63,15 @@ TEST(JsonTest, ReadsEscapes) {
 TEST(JsonTest, SaysWhatIsWrong) {
     EXPECT_EQ(fault(""), "1: a value is expected");
     EXPECT_EQ(fault("{"), "1: a name in quotes is expected");
-    EXPECT_EQ(fault("{\n\"a\" 1}"), "2: “:” is expected");
-    EXPECT_EQ(fault("{\"a\": 1 \"b\"}"), "1: “,” or “}” is expected");
-    EXPECT_EQ(fault("{\"a\": 1,}"), "1: a name in quotes is expected");
-    EXPECT_EQ(fault("[1\n\n2]"), "3: “,” or “]” is expected");
+    EXPECT_EQ(fault("{\n\"a\" 1}"), "2: \":\" is expected");
+    EXPECT_EQ(fault("{\"a\": 1 \"b\"}"), "1: \",\" or \"}\" is expected");
+    EXPECT_EQ(fault("{\"a\": 1,}"), "1: there is a comma too many before \"}\"");
+    EXPECT_EQ(fault("[1,\n\n]"), "3: there is a comma too many before \"]\"");
+    EXPECT_EQ(fault("[,]"), "1: a value is expected");
+    EXPECT_EQ(fault("[\n// one\n1]"), "2: JSON has no comments");
+    EXPECT_EQ(fault(QByteArray("\xFF\xFE[\0", 4)), "0: the file is UTF-16; it must be saved as UTF-8");
+    EXPECT_EQ(fault(QByteArray("\xFE\xFF\0[", 4)), "0: the file is UTF-16; it must be saved as UTF-8");
+    EXPECT_EQ(fault("[1\n\n2]"), "3: \",\" or \"]\" is expected");
     EXPECT_EQ(fault("[nothing]"), "1: a value is expected");
     EXPECT_EQ(fault("[]\n[]"), "2: something follows the end");
     EXPECT_EQ(fault("[\"a\n\"]"), "1: the string is not closed");

@@ -87,7 +87,7 @@ TEST_F(PcJsonTest, KnowsAPcWithoutPackagesFromOneThatCannotHaveAny) {
 
 TEST_F(PcJsonTest, ReportsBrokenJson) {
     read("{\n\"volumes\": {\n  \"C\" \"x\"\n}}");
-    EXPECT_THAT(problems, ElementsAre("3: “:” is expected"));
+    EXPECT_THAT(problems, ElementsAre("3: \":\" is expected"));
     read("");
     EXPECT_THAT(problems, ElementsAre("1: a value is expected"));
 }
@@ -133,27 +133,27 @@ TEST_F(PcJsonTest, ReportsABadVolume) {
     const Pc pc = read("{\"volumes\": {\n\"CD\": \"\\\\\\\\?\\\\Volume{1}\\\\\",\n\"E\": \"\\\\\\\\?\\\\Volume{1}\",\n"
                        "\"F\": \"\\\\\\\\?\\\\Volume{2}\\\\\"}}");
     EXPECT_THAT(problems, ElementsAre("2: volumes.CD: a drive letter is expected",
-                                      "3: volumes.E: “\\\\?\\Volume{…}\\” is expected"));
+                                      "3: volumes.E: \"\\\\?\\Volume{…}\\\" is expected"));
     EXPECT_EQ(pc.volumes.size(), 1);
 }
 
 TEST_F(PcJsonTest, ReportsABadVersion) {
     for (const char* const version : {"1.2.3", "1.2.3.4.5", "1.2.3.x", "1.2.3.65536", "1.2.3.-4"}) {
         EXPECT_EQ(read("{\"host\": {\"version\": \"" + QByteArray(version) + "\"}}").hostVersion, 0U);
-        EXPECT_THAT(problems, ElementsAre("1: host.version: four numbers up to 65535 are expected, as in “1.2.3.4”"));
+        EXPECT_THAT(problems, ElementsAre("1: host.version: four numbers up to 65535 are expected, as in \"1.2.3.4\""));
     }
 }
 
 TEST_F(PcJsonTest, ReportsAPackageWithoutItsNames) {
     const Pc pc = read("{\"packages\": [\n{\"family\": \"a\"}, 5, {\"family\": \"a\", \"fullName\": \"b\"}]}");
-    EXPECT_THAT(problems, ElementsAre("2: packages[0]: a “family” and a “fullName” are expected",
+    EXPECT_THAT(problems, ElementsAre("2: packages[0]: a \"family\" and a \"fullName\" are expected",
                                       "2: packages[1]: an object is expected"));
     EXPECT_EQ(pc.packages->size(), 1U);
 }
 
 TEST_F(PcJsonTest, ReportsAPathWithoutADrive) {
     read("{\n\"hidden\": [\"Games\"]}");
-    EXPECT_THAT(problems, ElementsAre("2: hidden: “Games” has no drive letter"));
+    EXPECT_THAT(problems, ElementsAre("2: hidden: \"Games\" has no drive letter"));
 }
 
 TEST_F(PcJsonTest, ReportsACodePageThatNobodyKnows) {

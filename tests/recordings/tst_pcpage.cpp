@@ -78,7 +78,9 @@ TEST_F(PcPage, APageWithoutAPcIsRefused) {
 }
 
 TEST_F(PcPage, FaultsAreToldInTheLinesOfThePage) {
-    EXPECT_EQ(read(pageOf("{\n\"format\": x}")).fault, "line 4: a value is expected");
+    const Recordings::Recording faulty = read(pageOf("{\n\"format\": x}"));
+    EXPECT_EQ(faulty.fault, "a value is expected");
+    EXPECT_EQ(faulty.faultLine, 4);
     const Recording recording = read(pageOf("{\"format\": \"luruludri-pc\",\n\"version\": 1,\n\"volumes\": 1}"));
     EXPECT_EQ(recording.fault, "");
     ASSERT_EQ(recording.problems.size(), 1U);

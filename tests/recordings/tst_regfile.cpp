@@ -168,7 +168,7 @@ TEST(RegFileTest, IgnoresRootsThatNobodyAsksFor) {
 
 TEST(RegFileTest, ReportsAMissingHeader) {
     const RegFile file = parse("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n");
-    EXPECT_THAT(problems(file), ElementsAre("1: the first line is not “Windows Registry Editor Version 5.00”"));
+    EXPECT_THAT(problems(file), ElementsAre("1: the first line is not \"Windows Registry Editor Version 5.00\""));
     EXPECT_THAT(file.keys, IsEmpty()) << "regedit doesn't import it either";
 }
 
@@ -209,9 +209,9 @@ TEST(RegFileTest, ReportsSomethingBehindAValue) {
 }
 
 TEST(RegFileTest, ReportsANameWithoutAValue) {
-    EXPECT_EQ(fault("\"a\""), "3: “=” is expected after the name of a value");
-    EXPECT_EQ(fault("\"a\"="), "3: a string, “dword:”, “hex:”, “hex(…):” or “-” is expected");
-    EXPECT_EQ(fault("\"a\"=word"), "3: a string, “dword:”, “hex:”, “hex(…):” or “-” is expected");
+    EXPECT_EQ(fault("\"a\""), "3: \"=\" is expected after the name of a value");
+    EXPECT_EQ(fault("\"a\"="), "3: a string, \"dword:\", \"hex:\", \"hex(…):\" or \"-\" is expected");
+    EXPECT_EQ(fault("\"a\"=word"), "3: a string, \"dword:\", \"hex:\", \"hex(…):\" or \"-\" is expected");
 }
 
 TEST(RegFileTest, ReportsALineThatIsNothing) {
@@ -224,7 +224,7 @@ TEST(RegFileTest, ReportsABadDword) {
 }
 
 TEST(RegFileTest, ReportsABadType) {
-    EXPECT_EQ(fault("\"a\"=hex(2:41"), "3: “):” is expected after the type");
+    EXPECT_EQ(fault("\"a\"=hex(2:41"), "3: \"):\" is expected after the type");
 }
 
 TEST(RegFileTest, ReportsBadBytesAtTheirLine) {
@@ -247,7 +247,7 @@ TEST(RegFileTest, ReportsAKeyThatIsNotClosedAndLeavesItsValuesOut) {
 
 TEST(RegFileTest, ReportsAnUnknownRoot) {
     const RegFile file = read("[HKLM\\A]\r\n\"a\"=\"1\"\r\n");
-    EXPECT_THAT(problems(file), ElementsAre("2: “HKLM” is no root key, such as HKEY_LOCAL_MACHINE"));
+    EXPECT_THAT(problems(file), ElementsAre("2: \"HKLM\" is no root key, such as HKEY_LOCAL_MACHINE"));
     EXPECT_THAT(names(file), IsEmpty());
 }
 

@@ -155,7 +155,7 @@ TEST_F(RecordedPcTest, ReportsProblemsInTheOrderOfItsFiles) {
     EXPECT_THAT(problems(pc.path({})),
                 ElementsAre("/registry/a.reg:2: the line is neither a key nor a value",
                             "/registry/a.reg:3: the line is neither a key nor a value",
-                            "/registry/b.reg:1: the first line is not “Windows Registry Editor Version 5.00”",
+                            "/registry/b.reg:1: the first line is not \"Windows Registry Editor Version 5.00\"",
                             "/registry/c.reg:0: the file cannot be read", "/pc.json:1: an object is expected"));
 }
 
@@ -169,7 +169,7 @@ TEST_F(RecordedPcTest, ReportsNamesThatWindowsCannotHave) {
                                                    "/drives/D/a:b:0: no file of Windows can have this name",
                                                    "/drives/D/con:0: no file of Windows can have this name",
                                                    "/drives/D/\uFFFD:0: the name is not UTF-8",
-                                                   "/drives/D/same:0: for Windows this is the same name as “Same”",
+                                                   "/drives/D/same:0: for Windows this is the same name as \"Same\"",
                                                    "/drives/D/dead:0: the link leads to no file or folder"));
 }
 
