@@ -12,6 +12,8 @@ namespace Find {
 
 namespace {
 
+const QLatin1String standardInput("standard input");
+
 QString describeFile(const QString& path, const QString& file) {
     const QString relative = QDir(path).relativeFilePath(file);
     if (relative == QLatin1String(".")) {
@@ -21,53 +23,49 @@ QString describeFile(const QString& path, const QString& file) {
     return isWithin ? QDir(path).filePath(relative) : file;
 }
 
-QString describe(const QString& path, const Recordings::Problem& problem) {
-    QString place = describeFile(path, problem.file);
-    if (problem.line > 0) {
-        place += QLatin1Char(':') + QString::number(problem.line);
-    }
-    return place + QLatin1String(": ") + problem.message;
-}
-
 /// With the recordings a level deeper, which may have been meant.
-QString describeFault(const QString& path, const QByteArray& folder, const QString& fault) {
+QString meantInstead(const QString& path, const QByteArray& folder) {
+    constexpr int most = 3;
     QStringList meant;
     for (const QByteArray& name : Recordings::recordingsIn(folder)) {
         meant.append(QDir(path).filePath(QString::fromUtf8(name)));
     }
-    const QString text = path + QLatin1String(": ") + fault;
-    return meant.isEmpty() ? text : text + QStringLiteral("; did you mean %1?").arg(meant.join(QLatin1String(" or ")));
+    return meant.isEmpty() ? QString()
+                           : QStringLiteral("; did you mean %1?").arg(meant.mid(0, most).join(QLatin1String(" or ")));
 }
 
 } // namespace
 
-std::optional<QString> PcFromInput::file(QString& fault) {
+std::optional<QString> PcFromInput::file(Complaint& fault) {
     QFile input;
     const bool isRead = input.open(stdin, QIODevice::ReadOnly);
     const QByteArray recording = input.readAll();
     if (!isRead || input.error() != QFileDevice::NoError) {
-        fault = QStringLiteral("standard input: cannot be read: ") + input.errorString();
+        fault = {standardInput, 0, 0, QStringLiteral("cannot be read: ") + input.errorString()};
     } else if (!m_file.open() || m_file.write(recording) != recording.size() || !m_file.flush()) {
-        fault = m_file.fileName() + QStringLiteral(": cannot be written: ") + m_file.errorString();
+        fault = {m_file.fileName(), 0, 0, QStringLiteral("cannot be written: ") + m_file.errorString()};
     }
-    return fault.isEmpty() ? std::optional<QString>(m_file.fileName()) : std::nullopt;
+    return fault.message.isEmpty() ? std::optional<QString>(m_file.fileName()) : std::nullopt;
 }
 
-QString PcFromInput::shown(QString message) const {
-    return m_file.fileName().isEmpty() ? message : message.replace(m_file.fileName(), QStringLiteral("standard input"));
+Complaint PcFromInput::shown(Complaint complaint) const {
+    if (complaint.file == m_file.fileName() && !complaint.file.isEmpty()) {
+        complaint.file = standardInput;
+    }
+    return complaint;
 }
 
-QStringList describeProblems(const QString& path, const std::vector<Recordings::Problem>& problems) {
-    QStringList lines;
+std::vector<Complaint> describeProblems(const QString& path, const std::vector<Recordings::Problem>& problems) {
+    std::vector<Complaint> complaints;
     for (const Recordings::Problem& problem : problems) {
-        lines.append(describe(path, problem));
+        complaints.emplace_back(describeFile(path, problem.file), problem.line, 0, problem.message);
     }
-    return lines;
+    return complaints;
 }
 
-std::optional<Recordings::Recording> chooseRecordedPc(const std::optional<QString>& path, QString& fault) {
+std::optional<Recordings::Recording> chooseRecordedPc(const std::optional<QString>& path, Complaint& fault) {
     if (path && isPcItself()) {
-        fault = QStringLiteral("--pc: this build answers from the PC it runs on");
+        fault = Complaint(QStringLiteral("--pc: this build answers from the PC it runs on"));
         return std::nullopt;
     }
     if (path) {
@@ -79,7 +77,8 @@ std::optional<Recordings::Recording> chooseRecordedPc(const std::optional<QStrin
     }
     Recordings::Recording recording = Recordings::readRecording(chosen);
     if (!recording.fault.isEmpty()) {
-        fault = describeFault(path.value_or(QFile::decodeName(chosen)), chosen, recording.fault);
+        const QString name = path.value_or(QFile::decodeName(chosen));
+        fault = {name, recording.faultLine, 0, recording.fault + meantInstead(name, chosen)};
         return std::nullopt;
     }
     return recording;

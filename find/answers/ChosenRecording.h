@@ -1,13 +1,13 @@
 #pragma once
 
+#include "find/terminal/Complaint.h"
 #include "recordings/Recording.h"
 
 #include <QString>
-#include <QStringList>
-
 #include <QTemporaryFile>
 
 #include <optional>
+#include <vector>
 
 namespace Find {
 
@@ -15,10 +15,10 @@ namespace Find {
 class PcFromInput {
 public:
     /// The file's name, when all was read. No value otherwise; `fault` then says why.
-    std::optional<QString> file(QString& fault);
+    std::optional<QString> file(Complaint& fault);
 
-    /// A message with what the user calls the file.
-    QString shown(QString message) const;
+    /// A complaint with what the user calls the file.
+    Complaint shown(Complaint complaint) const;
 
 private:
     QTemporaryFile m_file;
@@ -27,9 +27,9 @@ private:
 /// Chooses the recorded PC at `path`, a file or a folder, for this process and reads it. Without a path the choice of
 /// the environment stands. `fault` says why it cannot be used. No value when there is none, or none was chosen. To be
 /// called before the plug-in is loaded.
-std::optional<Recordings::Recording> chooseRecordedPc(const std::optional<QString>& path, QString& fault);
+std::optional<Recordings::Recording> chooseRecordedPc(const std::optional<QString>& path, Complaint& fault);
 
-/// What in the recording at `path` cannot be read, as "FILE:LINE: message", the files named as the user named the path.
-QStringList describeProblems(const QString& path, const std::vector<Recordings::Problem>& problems);
+/// What in the recording at `path` cannot be read, the files named as the user named the path.
+std::vector<Complaint> describeProblems(const QString& path, const std::vector<Recordings::Problem>& problems);
 
 } // namespace Find

@@ -102,13 +102,14 @@ UserChoice rememberChoice(IGameFinderFactory& factory, const Catalogue& games, c
     return {finder->userLocation(), isThere ? QStringList() : executables, hasKey(games, key)};
 }
 
-bool forgetChoice(IGameFinderFactory& factory, const QString& key) {
+std::optional<QString> forgetChoice(IGameFinderFactory& factory, const QString& key) {
     const std::unique_ptr<IGameFinder> finder = factory.createUserProvidedLocationFinder(key, {});
     if (!finder) {
-        return false;
+        return std::nullopt;
     }
+    const QString folder = finder->userLocation();
     finder->setUserLocation(QString());
-    return finder->userLocation().isEmpty();
+    return finder->userLocation().isEmpty() ? std::make_optional(folder) : std::nullopt;
 }
 
 } // namespace Find

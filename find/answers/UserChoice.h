@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 class IGameFinderFactory;
@@ -29,8 +30,8 @@ struct ShutOut {
 UserChoice rememberChoice(IGameFinderFactory& factory, const Catalogue& games, const QString& key,
                           const QString& folder);
 
-/// False when the folder is still remembered.
-bool forgetChoice(IGameFinderFactory& factory, const QString& key);
+/// The folder that was remembered, empty when none was. No value when it still is.
+std::optional<QString> forgetChoice(IGameFinderFactory& factory, const QString& key);
 
 /// Whom a choice under this key shuts out, game by game.
 std::vector<ShutOut> shutOutBy(const Catalogue& games, const QString& key);

@@ -8,6 +8,8 @@
 #include "find/terminal/DidYouMean.h"
 #include "find/terminal/OneLine.h"
 
+#include <QDir>
+
 namespace Find {
 
 namespace {
@@ -17,6 +19,12 @@ void complainOfUnknownKey(const Options& options, const Catalogue& games) {
     Console::complain({options.catalogue, 0, 0,
                        QStringLiteral("no game has the key \"%1\"; remembered all the same").arg(key) +
                            didYouMean(key, keysOf(games))});
+}
+
+/// A key of the usual catalogue that may have been meant.
+QString meantByKey(const QString& key, const Options& options) {
+    CatalogueFaults faults; // which are nobody's business here
+    return didYouMean(key, keysOf(readCatalogue(options.catalogue, faults).value_or(Catalogue())));
 }
 
 /// The finders that are asked no more, as the catalogue has them.
@@ -46,16 +54,20 @@ ExitStatus locateGame(IGameFinderFactory& factory, const Options& options, const
         Console::complain(QStringLiteral("the folder holds none of the game's executables: ") +
                           choice.missing.join(QLatin1String(", ")));
     }
-    return print(oneLine(options.key.trimmed() + QLatin1String(": ") + choice.folder) + QLatin1Char('\n') +
-                     describe(shutOutBy(games, options.key)),
+    return print(oneLine(options.key.trimmed() + QLatin1String(": ") + QDir::toNativeSeparators(choice.folder)) +
+                     QLatin1Char('\n') + describe(shutOutBy(games, options.key)),
                  choice.missing.isEmpty() ? allFound : someNotFound);
 }
 
 ExitStatus forgetGame(IGameFinderFactory& factory, const Options& options) {
-    if (!forgetChoice(factory, options.key)) {
+    const QString key = options.key.trimmed();
+    const std::optional<QString> folder = forgetChoice(factory, options.key);
+    if (!folder) {
         return fail(QStringLiteral("the folder could not be forgotten"));
     }
-    return print(oneLine(options.key.trimmed() + QLatin1String(": forgotten")) + QLatin1Char('\n'), allFound);
+    const QString outcome = folder->isEmpty() ? QLatin1String("no folder was remembered") + meantByKey(key, options)
+                                              : QStringLiteral("forgotten");
+    return print(oneLine(key + QLatin1String(": ") + outcome) + QLatin1Char('\n'), allFound);
 }
 
 } // namespace Find

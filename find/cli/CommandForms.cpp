@@ -9,7 +9,7 @@ namespace {
 const Switch game{"--game", "NAME", "Ask for this game only, letter case ignored.\nCan be given several times.",
                   &Options::games};
 const Switch json{"--json", nullptr, "Print JSON (docs/json.md), faults included.", &Options::json};
-const Switch all{"--all", nullptr, "Leave out nothing of long lists.", &Options::all};
+const Switch all{"--all", nullptr, "Show long lists in full.", &Options::all};
 const Switch keepNames{"--keep-names", nullptr, "Leave the user's and the PC's names as they are.",
                        &Options::keepNames};
 const Switch pc{"--pc", "PC",
@@ -35,7 +35,7 @@ std::vector<CommandForm> makeForms() {
          "luruludri-find find --json --game \"Lantern Harbour\" my-games.json"},
         {Command::List,
          "list",
-         "Tell all that the plug-in sees installed, without a\ncatalogue, each with a line to paste into one.",
+         "List everything installed that the plug-in sees, without a\ncatalogue, each with a line to paste into one.",
          {},
          {&json, &pc, &plugin},
          "luruludri-find list"},
@@ -47,10 +47,12 @@ std::vector<CommandForm> makeForms() {
          "luruludri-find runtimes --json"},
         {Command::Explain,
          "explain",
-         "Tell why a game was found or not: what each finder looked\nfor, what it saw, why it went on; of a game that "
-         "the\ncatalogue "
-         "does not have where it is installed.",
-         {{"NAME", "The game's name in the catalogue, letter case ignored.", &Options::name, true}, catalogue},
+         "Explain why a game was found or not: what each finder\nlooked for, what it saw, why it went on; of a game "
+         "that the\n"
+         "catalogue does not have, where it is installed.",
+         {{"NAME", "The game's name, letter case ignored; also of a game\nthat the catalogue does not have.",
+           &Options::name, true},
+          catalogue},
          {&all, &json, &pc, &plugin},
          "luruludri-find explain \"Lantern Harbour\""},
         {Command::Record,
@@ -77,13 +79,13 @@ std::vector<CommandForm> makeForms() {
         {Command::Unpack,
          "unpack",
          "Make a folder of a recording, to look at it or to\nchange it.",
-         {{"FILE", "The recording.", &Options::file, true},
+         {{"FILE", "The recording; - reads it from standard input.", &Options::file, true},
           {"FOLDER", "A folder that is new or empty.", &Options::folder, true}},
          {},
          "luruludri-find unpack my-pc.json my-pc"},
         {Command::Locate,
          "locate",
-         "Remember in the user's settings which folder has the\ngame of a key.",
+         "Remember in the user's settings the folder of the game\nwith this key.",
          {key,
           {"FOLDER", "The game's folder, or the one within that holds\nits executables.", &Options::folder, true},
           catalogue},
@@ -91,17 +93,17 @@ std::vector<CommandForm> makeForms() {
          "luruludri-find locate moosgarten \"D:\\Games\\Moosgarten\""},
         {Command::Forget,
          "forget",
-         "Forget which folder has the game of a key.",
+         "Forget the folder of the game with this key.",
          {key},
          {&pc, &plugin},
          "luruludri-find forget moosgarten"},
         {Command::Completion,
          "completion",
-         "Print what has a shell complete these commands.",
+         "Print the completion script for a shell.",
          {{"SHELL", "bash, zsh or powershell.", &Options::shell, true}},
          {},
          "luruludri-find completion bash >> ~/.bashrc"},
-        {Command::Manual, "manual", "Print this as a manual page.", {}, {}, "luruludri-find manual | man -l -"},
+        {Command::Manual, "manual", "Print this help as a manual page.", {}, {}, "luruludri-find manual | man -l -"},
     };
 }
 

@@ -28,10 +28,10 @@ std::vector<std::string> reversed(const QStringList& arguments) {
 
 QString unknownOption(const QString& given, const CommandForm& form) {
     const QString name = given.section(QLatin1Char('='), 0, 0);
-    QStringList known = {QStringLiteral("--help")};
+    QStringList known = {QStringLiteral("--help"), QStringLiteral("--version")};
     for (const Switch* const one : allSwitches()) {
         if (name == QLatin1String(one->name)) {
-            return QStringLiteral("%1: not with %2").arg(name, QLatin1String(form.name));
+            return QStringLiteral("%1 does not take %2").arg(QLatin1String(form.name), name);
         }
         if (hasSwitch(form, *one)) {
             known.append(QLatin1String(one->name));
@@ -48,7 +48,7 @@ QString surplus(const QString& word, const CommandTree& tree) {
     if (!meant.isEmpty() && !QFileInfo::exists(command)) {
         return QStringLiteral("unknown command \"%1\"").arg(command) + meant;
     }
-    return QStringLiteral("surplus argument \"%1\"").arg(word);
+    return QStringLiteral("unexpected argument \"%1\"").arg(word);
 }
 
 /// What is wrong with the first argument that CLI11 could not place.
@@ -74,16 +74,17 @@ QString describeMissing(const CLI::ParseError& error, const CommandForm& form) {
         .replace(QLatin1String(" missing"), QLatin1String(" is missing"));
 }
 
-/// Takes the folder for what was meant; false when more came in with it than there is a place for.
+/// Takes the file or folder for what was meant; false when more came in with it than there is a place for.
 bool separateFolder(const CommandTree& tree, Options& options) {
     const GivenFolder given = givenFolder(options.folder);
     options.folder = given.folder;
     if (given.rest.isEmpty()) {
         return true;
     }
-    const bool isCatalogueGiven = tree.app().get_subcommands().front()->count("CATALOGUE") > 0;
-    options.catalogue = isCatalogueGiven ? options.catalogue : given.rest;
-    return !isCatalogueGiven;
+    const CLI::Option* const catalogue = tree.app().get_subcommands().front()->get_option_no_throw("CATALOGUE");
+    const bool hasPlace = catalogue != nullptr && catalogue->count() == 0;
+    options.catalogue = hasPlace ? given.rest : options.catalogue;
+    return hasPlace;
 }
 
 CommandLine understood(const CommandTree& tree) {
@@ -92,8 +93,8 @@ CommandLine understood(const CommandTree& tree) {
     if (options.command == Command::Explain) {
         options.games = QStringList{options.name};
     }
-    if (options.command == Command::Locate && !separateFolder(tree, options)) {
-        fault = QStringLiteral("surplus argument \"%1\"").arg(options.catalogue);
+    if (!separateFolder(tree, options)) {
+        fault = QStringLiteral("unexpected argument \"%1\"").arg(options.catalogue);
     }
     if (options.pc == standardInput() && options.catalogue == standardInput()) {
         fault = QStringLiteral("standard input cannot be both the recorded PC and the catalogue");

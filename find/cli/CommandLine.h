@@ -31,7 +31,8 @@ struct Options {
     QString name;      ///< the game's name, with Explain
     QString shell;     ///< with Completion
     QString catalogue; ///< means something with all that ask for games
-    QString plugin;    ///< the plug-in's file; the one beside the program when none was given
+    QString plugin;    ///< the plug-in's file
+    bool isOwnPlugin = true;   ///< the one beside the program, as none was given
     std::optional<QString> pc; ///< the recorded PC's file or folder, as given
     QStringList games;         ///< names of the games to ask for; empty for all
     bool json = false;

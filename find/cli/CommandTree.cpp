@@ -102,10 +102,10 @@ CommandTree::CommandTree()
     m_app.allow_windows_style_options(false); // "/home" is a folder
     m_app.formatter(std::make_shared<HelpFormatter>());
     m_app.set_help_flag("-h,--help", "Print this help.");
-    m_app.set_version_flag("-V,--version", "luruludri-find " + QCoreApplication::applicationVersion().toStdString(),
-                           "Print the version.");
+    const std::string version = "luruludri-find " + QCoreApplication::applicationVersion().toStdString();
+    m_app.set_version_flag("-V,--version", version, "Print the version.");
     m_app.require_subcommand(0, 1);
-    m_app.footer("luruludri-find COMMAND --help tells more of a command.\n\n"
+    m_app.footer("luruludri-find COMMAND --help tells more about a command.\n\n"
                  "Exit status: 0 when all games were found, 1 when some were not, 2 when the\nprogram was used "
                  "wrongly or something that it reads is missing or broken.");
     const std::vector<CommandForm>& forms = commandForms();
@@ -113,6 +113,7 @@ CommandTree::CommandTree()
     for (const CommandForm& form : forms) {
         CLI::App* const app = m_app.add_subcommand(form.name, form.about)->group("Commands");
         app->footer(std::string("Example:\n  ") + form.example);
+        app->set_version_flag("-V,--version", version)->group(""); // which hides it
         m_levels.push_back({app, &form});
     }
     for (const Level& level : m_levels) {
@@ -153,7 +154,7 @@ QString CommandTree::surplusOperand() const {
     if (chosen().app == &m_app) {
         return {};
     }
-    return words.isEmpty() ? QString() : QStringLiteral("surplus argument \"%1\"").arg(words.constFirst());
+    return words.isEmpty() ? QString() : QStringLiteral("unexpected argument \"%1\"").arg(words.constFirst());
 }
 
 Options CommandTree::options(QString& fault) const {
@@ -176,10 +177,12 @@ Options CommandTree::options(QString& fault) const {
         }
         fault = fault.isEmpty() ? faultIn(values, one->name, hasValue(*one)) : fault;
         if (fault.isEmpty() && !one->isForAll && !hasSwitch(*level.form, *one)) {
-            fault = QStringLiteral("%1: not with %2").arg(QLatin1String(one->name), QLatin1String(level.form->name));
+            fault =
+                QStringLiteral("%1 does not take %2").arg(QLatin1String(level.form->name), QLatin1String(one->name));
         }
         std::visit([&](auto target) { assign(options.*target, values); }, one->target);
     }
+    options.isOwnPlugin = options.plugin == usualOptions().plugin;
     return options;
 }
 

@@ -18,7 +18,7 @@ namespace {
 QString render(const Options& options, const QStringList& known, const std::vector<ListedGame>& games) {
     const Terminal terminal = Console::terminal(Stream::Output);
     const QString outcome =
-        games.empty() ? QStringLiteral("nothing that is installed has a name like it") : QStringLiteral("installed as");
+        games.empty() ? QStringLiteral("nothing installed has a similar name") : QStringLiteral("installed as");
     return renderLine(options.name + QStringLiteral(": not in the catalogue") + didYouMean(options.name, known),
                       Tone::Bad, terminal) +
            renderLine(outcome, Tone::Plain, terminal) + renderList(games, terminal);

@@ -7,8 +7,8 @@
 
 namespace Find {
 
-ExitStatus fail(const QString& message) {
-    Console::complain(message);
+ExitStatus fail(const Complaint& complaint) {
+    Console::complain(complaint);
     return failed;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "find/terminal/Complaint.h"
+
 #include <QString>
 
 namespace Find {
@@ -12,7 +14,7 @@ enum ExitStatus {
 };
 
 /// Tells the user.
-ExitStatus fail(const QString& message);
+ExitStatus fail(const Complaint& complaint);
 
 /// `status`, after answers were printed; tells the user when they could not be. To be called right then, as the cause
 /// is the last one that the C library has seen.

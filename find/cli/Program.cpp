@@ -26,12 +26,11 @@
 #include "find/terminal/DidYouMean.h"
 #include "find/terminal/Progress.h"
 
-#include <QDate>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonObject>
-#include <QStandardPaths>
 
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <optional>
@@ -44,11 +43,29 @@ QString shownName(const QString& file) {
     return file == standardInput() ? QStringLiteral("standard input") : file;
 }
 
+/// What may have been meant by the word that was taken for the name of a catalogue.
+QString meantByCatalogue(const Options& options) {
+    const QString& word = options.catalogue;
+    if (options.command == Command::Explain) {
+        return QStringLiteral("; did you mean explain \"%1 %2\"?").arg(options.name, word);
+    }
+    if (QStringList{QStringLiteral("/?"), QStringLiteral("/h"), QStringLiteral("/help")}.contains(word.toLower())) {
+        return QStringLiteral("; did you mean \"--help\"?");
+    }
+    const QStringList words{QStringLiteral("--help"), QStringLiteral("--version")};
+    return options.command == Command::FindGames ? didYouMean(word, commandNames() + words) : QString();
+}
+
 void complainOfCatalogue(const Options& options, const CatalogueFaults& faults) {
-    const bool mayBeCommand = options.command == Command::FindGames && !QFileInfo::exists(options.catalogue);
-    const QString meant = mayBeCommand ? didYouMean(options.catalogue, commandNames()) : QString();
-    for (const CatalogueFault& fault : faults) {
+    constexpr std::size_t most = 100;
+    const QString meant = QFileInfo::exists(options.catalogue) ? QString() : meantByCatalogue(options);
+    for (std::size_t i = 0; i < std::min(faults.size(), most); ++i) {
+        const CatalogueFault& fault = faults[i];
         Console::complain({shownName(options.catalogue), fault.line, fault.column, fault.message + meant});
+    }
+    if (faults.size() > most) {
+        Console::complain(
+            {shownName(options.catalogue), 0, 0, QStringLiteral("and %1 more faults").arg(faults.size() - most)});
     }
 }
 
@@ -97,7 +114,7 @@ ExitStatus explainGame(IGameFinderFactory& factory, const Options& options, cons
     const GameAnswer answer = askForGame(factory, game);
     const TraceEvents events = trace.events();
     if (events.empty()) {
-        return fail(QStringLiteral("%1: this plug-in tells no trace").arg(options.plugin));
+        return fail(QStringLiteral("%1: this plug-in writes no trace").arg(options.plugin));
     }
     const Explanation explanation = explain(game, answer, events, options.all);
     const ExitStatus status = answer.found ? allFound : someNotFound;
@@ -173,21 +190,26 @@ ExitStatus run(const Options& options) {
     if (!chosen) {
         return failed;
     }
-    QString fault;
+    Complaint fault{QString()};
     PcFromInput input;
     const std::optional<QString> path = options.pc == standardInput() ? input.file(fault) : options.pc;
     const std::optional<Recordings::Recording> pc =
-        fault.isEmpty() ? chooseRecordedPc(path, fault) : std::optional<Recordings::Recording>();
-    if (fault.isEmpty()) {
-        fault = refusalToChoose(options, pc);
+        fault.message.isEmpty() ? chooseRecordedPc(path, fault) : std::optional<Recordings::Recording>();
+    if (fault.message.isEmpty()) {
+        fault.message = refusalToChoose(options, pc);
     }
-    if (!fault.isEmpty()) {
+    if (!fault.message.isEmpty()) {
         return fail(input.shown(fault));
     }
     const QString name = path.value_or(qEnvironmentVariable(Recordings::environmentVariable));
-    const QStringList problems = pc ? describeProblems(name, pc->problems) : QStringList();
-    for (const QString& problem : problems) {
+    if (!pc && !isPcItself() && options.isOwnPlugin) {
+        Console::complain(
+            QStringLiteral("no recorded PC is chosen (--pc), so this system is asked, which is no Windows"));
+    }
+    QStringList problems;
+    for (const Complaint& problem : describeProblems(name, pc ? pc->problems : std::vector<Recordings::Problem>())) {
         Console::complain(input.shown(problem));
+        problems.append(input.shown(problem).text());
     }
     const ExitStatus status = act(options, *chosen, pc ? &pc->pc : nullptr, problems);
     return problems.isEmpty() ? status : failed;
@@ -195,7 +217,7 @@ ExitStatus run(const Options& options) {
 
 ExitStatus printCompletion(const QString& shell) {
     const QString completion = completionFor(shell.toLower());
-    return completion.isEmpty() ? fail(QStringLiteral("completion: there is none for \"%1\", but for %2")
+    return completion.isEmpty() ? fail(QStringLiteral("completion: there is none for \"%1\", only for %2")
                                            .arg(shell, shells().join(QLatin1String(", "))))
                                 : print(completion, allFound);
 }
@@ -226,20 +248,9 @@ ExitStatus follow(const CommandLine& commandLine, bool isJson) {
     return isJson ? failed : fail(QStringLiteral("try luruludri-find --help"));
 }
 
-/// A file on the Desktop that is not there yet.
-QString newReportFile() {
-    const QDir desktop(QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
-    const QString name = QLatin1String("luruludri-pc-") + QDate::currentDate().toString(Qt::ISODate);
-    QString file = desktop.filePath(name + QLatin1String(".html"));
-    for (int number = 2; QFileInfo::exists(file); ++number) {
-        file = desktop.filePath(QStringLiteral("%1-%2.html").arg(name).arg(number));
-    }
-    return file;
-}
-
 DialogueParts::Made makeReportOnDesktop() {
     Console::keepComplaints(); // they are told within the dialogue
-    Options options = parseCommandLine({QString(), QStringLiteral("report"), newReportFile()}).options;
+    const Options options = parseCommandLine({QString(), QStringLiteral("report")}).options;
     const std::optional<Chosen> chosen = loadGames(options);
     const MadeReport made = chosen ? makeReport(options, chosen->games, nullptr, {}) : MadeReport();
     QStringList notes = made.notes;

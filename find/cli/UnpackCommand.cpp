@@ -13,10 +13,15 @@
 namespace Find {
 
 ExitStatus unpackPc(const Options& options) {
-    const QString path = QFileInfo(options.file).absoluteFilePath();
-    const Recordings::Recording recording = Recordings::readRecording(path.toUtf8());
+    Complaint complaint{QString()};
+    PcFromInput input;
+    const std::optional<QString> file = options.file == standardInput() ? input.file(complaint) : options.file;
+    if (!file) {
+        return fail(complaint);
+    }
+    const Recordings::Recording recording = Recordings::readRecording(QFileInfo(*file).absoluteFilePath().toUtf8());
     if (!recording.fault.isEmpty()) {
-        return fail(options.file + QLatin1String(": ") + recording.fault);
+        return fail(input.shown({*file, recording.faultLine, 0, recording.fault}));
     }
     QString fault;
     OutputFolder folder(options.folder, fault);
@@ -30,8 +35,8 @@ ExitStatus unpackPc(const Options& options) {
             QStringLiteral("%1: the file cannot be written: %2").arg(QString::fromUtf8(unwritten), causeOf(errno)));
     }
     folder.keep();
-    for (const QString& problem : describeProblems(options.file, recording.problems)) {
-        Console::complain(problem);
+    for (const Complaint& problem : describeProblems(*file, recording.problems)) {
+        Console::complain(input.shown(problem));
     }
     for (const QString& name : qAsConst(leftOut)) {
         Console::complain(QLatin1String("no registry file can have this name: ") + name);

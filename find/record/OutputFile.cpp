@@ -12,21 +12,25 @@ namespace Find {
 
 namespace {
 
-/// Tells of no PC which it is.
-QString nameOfTheDay(QLatin1String ending) {
-    return QLatin1String("luruludri-pc-") + QDate::currentDate().toString(Qt::ISODate) + ending;
+/// A file that is not there yet. Its name does not tell which PC it is about.
+QString newFileOfTheDay(const QDir& folder, QLatin1String ending) {
+    const QString name = QLatin1String("luruludri-pc-") + QDate::currentDate().toString(Qt::ISODate);
+    QString file = name + ending;
+    for (int number = 2; folder.exists(file); ++number) {
+        file = QStringLiteral("%1-%2%3").arg(name, QString::number(number), ending);
+    }
+    return folder.filePath(file);
 }
 
 QString fileFor(const QString& wanted, QLatin1String ending) {
     if (wanted.isEmpty()) {
         // Where a user finds it, or where someone at a shell looks for it.
         const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
-        return isPcItself() && QFileInfo(desktop).isDir() ? QDir(desktop).filePath(nameOfTheDay(ending))
-                                                          : nameOfTheDay(ending);
+        return newFileOfTheDay(isPcItself() && QFileInfo(desktop).isDir() ? QDir(desktop) : QDir(QString()), ending);
     }
     const bool isFolder = wanted.endsWith(QLatin1Char('/')) || wanted.endsWith(QDir::separator());
     if (isFolder || QFileInfo(wanted).isDir()) {
-        return QDir(wanted).filePath(nameOfTheDay(ending));
+        return newFileOfTheDay(QDir(wanted), ending);
     }
     return wanted.endsWith(ending, Qt::CaseInsensitive) ? wanted : wanted + ending;
 }
@@ -48,11 +52,11 @@ bool writeAll(QSaveFile& file, const QByteArray& contents) {
 } // namespace
 
 OutputFile::OutputFile(const QString& wanted, QLatin1String ending, QString& fault)
-    : m_name(fileFor(wanted, ending))
+    : m_name(QDir::toNativeSeparators(fileFor(wanted, ending)))
     , m_file(m_name) {
     const QFileInfo info(m_name);
     if (info.exists() || info.isSymLink()) {
-        fault = QStringLiteral("%1: the file is there already").arg(m_name);
+        fault = QStringLiteral("%1: the file exists already").arg(m_name);
         return;
     }
     const QString cause = causeAgainstFile(m_name);

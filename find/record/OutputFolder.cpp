@@ -20,7 +20,7 @@ OutputFolder::OutputFolder(const QString& folder, QString& fault)
     const QFileInfo info(m_folder);
     m_wasThere = info.exists() || info.isSymLink();
     if (m_wasThere && !info.isDir()) {
-        fault = QStringLiteral("%1: is no folder").arg(folder);
+        fault = QStringLiteral("%1: is not a folder").arg(folder);
     } else if (m_wasThere && !QDir(m_folder).isEmpty(everything)) {
         fault = QStringLiteral("%1: the folder is not empty").arg(folder);
     } else if (!QDir().mkpath(m_folder) || !QFileInfo(m_folder).isWritable()) {

@@ -34,7 +34,7 @@ QString causeAgainst(const QString& path, bool areFoldersMade) {
         return QStringLiteral("there is no drive %1").arg(parent.left(2));
     }
     if (!QFileInfo(nearest).isDir()) {
-        return QStringLiteral("%1 is no folder").arg(shown(nearest));
+        return QStringLiteral("%1 is not a folder").arg(shown(nearest));
     }
     if (nearest != parent && !areFoldersMade) {
         return QStringLiteral("there is no folder %1").arg(shown(parent));

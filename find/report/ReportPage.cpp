@@ -93,7 +93,8 @@ QString reasonOf(const ReportedGame& game) {
     const auto last = std::find_if(game.explanation.rbegin(), game.explanation.rend(), [](const ExplanationLine& line) {
         return line.kind == ExplanationLine::Kind::Reason;
     });
-    return last == game.explanation.rend() ? QStringLiteral("No finder looked for it.") : withoutStar(last->text);
+    return last == game.explanation.rend() ? QStringLiteral("The catalogue has no finder for it.")
+                                           : withoutStar(last->text);
 }
 
 const char* sectionOf(ExplanationLine::Kind kind) {
@@ -209,6 +210,7 @@ void addSummary(const ReportData& report, Mustache::data& page) {
     page["runtimesTotal"] = numberData(static_cast<int>(report.runtimes.size()));
     page["othersTotal"] = numberData(static_cast<int>(report.others.size()));
     page["faultsTotal"] = numberData(report.faults.size());
+    page["faultsWord"] = report.faults.size() == 1 ? "fault" : "faults";
     page["hasFaults"] = !report.faults.isEmpty();
 }
 

@@ -1,11 +1,13 @@
 #include "find/terminal/Complaint.h"
 
+#include <QDir>
+
 namespace Find {
 
 QString Complaint::text() const {
-    QString place = file;
-    if (line > 0) {
-        place += QStringLiteral(":%1:%2").arg(line).arg(column);
+    QString place = QDir::toNativeSeparators(file);
+    for (const int number : {line, column}) {
+        place += number > 0 ? QLatin1Char(':') + QString::number(number) : QString();
     }
     return place.isEmpty() ? message : place + QLatin1String(": ") + message;
 }

@@ -179,7 +179,7 @@ class Sample(ReportTest):
         self.assertEqual(self.games(), ["Tiefseelicht"])
         self.type("zinngieß")
         self.assertEqual(self.games(), [])
-        self.assertEqual(self.browser.shown("#games-none"), ["No game is like that."])
+        self.assertEqual(self.browser.shown("#games-none"), ["No game matches."])
         self.assertEqual(self.browser.shown(f"{OTHERS} th"), ["Zinngießer"])
         self.type("")
         self.assertEqual(self.games(), self.all_games)

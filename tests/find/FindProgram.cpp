@@ -39,7 +39,7 @@ QString FindProgram::file(const QString& name, const QByteArray& content) const 
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
     EXPECT_EQ(file.write(content), content.size());
-    return path;
+    return QDir::toNativeSeparators(path);
 }
 
 void FindProgram::setFakeMode(const char* mode) {

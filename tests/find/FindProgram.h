@@ -25,7 +25,7 @@ class FindProgram {
 public:
     FindProgram();
 
-    /// Makes a file in the folder, and the folders on the way; its full path.
+    /// Makes a file in the folder, and the folders on the way; its full path, as the system writes it.
     QString file(const QString& name, const QByteArray& content) const;
 
     QString folder() const { return m_folder.path(); }

@@ -128,7 +128,7 @@ TEST(Program, ValuesAreTakenAsTheyAre) {
     for (const char* const name : {"[a,b]", "list", "--all", "/x"}) {
         EXPECT_EQ(program.run({"--game", name, catalogue}).exitStatus, 1) << name;
         EXPECT_EQ(program.run({"explain", "--", name, catalogue}).errors,
-                  "luruludri-find: " LURULUDRI_FAKE_PLUGIN ": this plug-in tells no trace\n")
+                  "luruludri-find: " LURULUDRI_FAKE_PLUGIN ": this plug-in writes no trace\n")
             << name;
     }
 }
@@ -154,7 +154,7 @@ TEST(Program, ARecordedPcIsReadFromStandardInput) {
     program.setInput("{");
     const FindRun broken = program.run({"--pc", "-", catalogue});
     EXPECT_EQ(broken.exitStatus, 2);
-    EXPECT_TRUE(broken.errors.startsWith("luruludri-find: standard input: ")) << broken.errors.toStdString();
+    EXPECT_TRUE(broken.errors.startsWith("luruludri-find: standard input:1: ")) << broken.errors.toStdString();
 }
 
 /// The messages of the reply's errors.
@@ -183,11 +183,70 @@ TEST(Program, WithJsonErrorsAreJsonToo) {
     EXPECT_EQ(wrong.exitStatus, 2);
     EXPECT_EQ(errorsOf(wrong), QStringList{"unknown option \"--jason\"; did you mean \"--json\"?"});
 
-    EXPECT_EQ(errorsOf(program.run({"--json", "locate", "Käfer", "D:\\X"})), QStringList{"--json: not with locate"});
-    EXPECT_EQ(errorsOf(program.run({"--json", "forget", "Käfer"})), QStringList{"--json: not with forget"});
+    EXPECT_EQ(errorsOf(program.run({"--json", "locate", "Käfer", "D:\\X"})),
+              QStringList{"locate does not take --json"});
+    EXPECT_EQ(errorsOf(program.run({"--json", "forget", "Käfer"})), QStringList{"forget does not take --json"});
 
     program.setFakeMode("no memory");
     EXPECT_EQ(errorsOf(program.run({"--json", "runtimes"})), QStringList{"out of memory"});
+}
+
+TEST(Program, OfManyFaultsTheFirstHundredAreTold) {
+    const FindProgram program;
+    QByteArray empty = "{}";
+    const QString catalogue = program.file("x.json", "{\"games\": [" + (empty + ",").repeated(59) + empty + "]}");
+    const QStringList errors = program.run({catalogue}).errors.split('\n', Qt::SkipEmptyParts);
+    EXPECT_EQ(errors.size(), 101);
+    EXPECT_EQ(errors.back(), "luruludri-find: " + QDir::toNativeSeparators(catalogue) + ": and 20 more faults");
+}
+
+TEST(Program, AWordThatIsNoCatalogueMayHaveBeenMeantOtherwise) {
+    const FindProgram program;
+    const auto meant = [&program](const QStringList& arguments) {
+        return program.run(arguments).errors.section("; did you mean ", 1).trimmed();
+    };
+    EXPECT_EQ(meant({"help"}), "\"--help\"?");
+    EXPECT_EQ(meant({"/?"}), "\"--help\"?");
+    EXPECT_EQ(meant({"version"}), "\"--version\"?");
+    EXPECT_EQ(meant({"runtime"}), "\"runtimes\"?");
+    EXPECT_EQ(meant({"--versoin"}), "\"--version\"?\nluruludri-find: try luruludri-find --help");
+    EXPECT_EQ(meant({"explain", "Lantern", "Harbour"}), "explain \"Lantern Harbour\"?");
+}
+
+TEST(Program, TellsItsVersionAfterACommandToo) {
+    const FindProgram program;
+    EXPECT_EQ(program.run({"find", "-V"}).output, program.run({"--version"}).output);
+    EXPECT_TRUE(program.run({"list", "--version"}).output.startsWith("luruludri-find "));
+}
+
+TEST(Program, SaysWhenNoPcIsAsked) {
+    if (!worldKnowsRecordings()) {
+        GTEST_SKIP() << "there always is one";
+    }
+    const FindProgram program;
+    const QString catalogue = program.file("games.json", twoGames);
+    for (const QStringList& arguments : {QStringList{catalogue}, QStringList{"list"}, QStringList{"runtimes"},
+                                         QStringList{"record", program.folder() + "/x", catalogue}}) {
+        EXPECT_EQ(program.runBare(arguments).errors,
+                  "luruludri-find: no recorded PC is chosen (--pc), so this system is asked, which is no Windows\n");
+    }
+}
+
+TEST(Program, AFaultOfARecordingIsPlacedInJson) {
+    if (!worldKnowsRecordings()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    const FindProgram program;
+    const QString pc = program.file("pc.json", "{\"format\": \"luruludri-pc\", \"version\": 1,\n\"volumes\": 3}");
+    const QString cut = program.file("cut.json", "{\n\n");
+    const QString catalogue = program.file("games.json", twoGames);
+    for (const auto& [file, line] : {std::pair(pc, 2), std::pair(cut, 3)}) {
+        const FindRun run = program.run({"--json", "--pc", file, catalogue});
+        EXPECT_EQ(run.exitStatus, 2);
+        const QJsonObject error = QJsonDocument::fromJson(run.output.toUtf8())["errors"][0].toObject();
+        EXPECT_EQ(error["file"].toString(), file);
+        EXPECT_EQ(error["line"].toInt(), line) << error["message"].toString().toStdString();
+    }
 }
 
 TEST(Program, WithJsonAnswersAndErrorsAreOneObject) {
@@ -214,7 +273,7 @@ TEST(Program, WrongArgumentsAreRefused) {
     const FindProgram program;
     const QString catalogue = program.file("games.json", twoGames);
     expectRefusal(program.run({""}), "CATALOGUE is empty");
-    expectRefusal(program.run({catalogue, "zwölf"}), "surplus argument \"zwölf\"");
+    expectRefusal(program.run({catalogue, "zwölf"}), "unexpected argument \"zwölf\"");
     expectRefusal(program.run({catalogue, "--jason"}), "unknown option \"--jason\"; did you mean \"--json\"?");
     expectRefusal(program.run({catalogue, "--game"}), "--game: NAME is missing");
     expectRefusal(program.run({catalogue, "--json=x"}), "--json takes no value");
@@ -230,13 +289,13 @@ TEST(Program, WrongCommandsAreRefused) {
     expectRefusal(program.run({"locate", " ", "D:\\X"}), "KEY is empty");
     expectRefusal(program.run({"locate", "Käfer", ""}), "FOLDER is empty");
     expectRefusal(program.run({"locate", "Käfer", "D:\\X", ""}), "CATALOGUE is empty");
-    expectRefusal(program.run({"locate", "Käfer", "D:\\X", "games.json", "zwölf"}), "surplus argument \"zwölf\"");
+    expectRefusal(program.run({"locate", "Käfer", "D:\\X", "games.json", "zwölf"}), "unexpected argument \"zwölf\"");
     expectRefusal(program.run({"forget"}), "forget: KEY is missing");
-    expectRefusal(program.run({"forget", "Käfer", "zwölf"}), "surplus argument \"zwölf\"");
-    expectRefusal(program.run({"runtimes", "zwölf"}), "surplus argument \"zwölf\"");
-    expectRefusal(program.run({"--game", "Käfer", "runtimes"}), "--game: not with runtimes");
-    expectRefusal(program.run({"runtimes", "--game", "Käfer"}), "--game: not with runtimes");
-    expectRefusal(program.run({"games.json", "runtimes"}), "surplus argument \"games.json\"");
+    expectRefusal(program.run({"forget", "Käfer", "zwölf"}), "unexpected argument \"zwölf\"");
+    expectRefusal(program.run({"runtimes", "zwölf"}), "unexpected argument \"zwölf\"");
+    expectRefusal(program.run({"--game", "Käfer", "runtimes"}), "runtimes does not take --game");
+    expectRefusal(program.run({"runtimes", "--game", "Käfer"}), "runtimes does not take --game");
+    expectRefusal(program.run({"games.json", "runtimes"}), "unexpected argument \"games.json\"");
     expectRefusal(program.run({"--plugin=", "runtimes"}), "--plugin is empty");
     expectRefusal(program.run({"--pc", "-", "-"}), "standard input cannot be both the recorded PC and the catalogue");
     EXPECT_TRUE(program.fakeLog().isEmpty());

@@ -41,6 +41,7 @@ TEST(OneLine, OnlyWhatLeavesTheLineIsReplaced) {
     EXPECT_EQ(oneLine("Käfer 王 \U0001D11E\u200D"), "Käfer 王 \U0001D11E\u200D");
     EXPECT_EQ(oneLine("\r\n\t\u0085\u2028\u2029\u007F."), "       .");
     EXPECT_EQ(oneLine(QString(3, QChar(0))), "   ");
+    EXPECT_EQ(oneLine("a\u202Eb\u202C\u2066c\u2069"), "a b  c ") << "which would turn the line";
 }
 
 TEST(RenderTables, GamesFirstThenRuntimes) {

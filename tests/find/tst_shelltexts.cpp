@@ -52,7 +52,7 @@ TEST(ShellTexts, NameEachCommandAndItsOptions) {
 TEST(ShellTexts, AShellThatIsNotKnownIsRefused) {
     const FindRun run = FindProgram().runBare({"completion", "fish"});
     EXPECT_EQ(run.exitStatus, 2);
-    EXPECT_EQ(run.errors, "luruludri-find: completion: there is none for \"fish\", but for bash, zsh, powershell\n");
+    EXPECT_EQ(run.errors, "luruludri-find: completion: there is none for \"fish\", only for bash, zsh, powershell\n");
     EXPECT_EQ(Find::completionFor("fish"), "");
 }
 

@@ -119,11 +119,14 @@ TEST(UserChoice, OnlyAFullPathToAFolderThatIsThereIsRemembered) {
         EXPECT_EQ(run.output, "");
         return run.errors;
     };
-    EXPECT_TRUE(complaint("Spiele").startsWith("luruludri-find: Spiele: is no full path; the current folder is "));
+    EXPECT_TRUE(complaint("Spiele").startsWith("luruludri-find: Spiele: is not a full path (the current folder is "));
     const QString missing = program.folder() + "/keiner";
     EXPECT_EQ(complaint(missing), "luruludri-find: " + missing + ": there is no such folder\n");
-    EXPECT_EQ(complaint(catalogue), "luruludri-find: " + catalogue + ": is no folder\n");
+    EXPECT_EQ(complaint(catalogue), "luruludri-find: " + catalogue + ": is not a folder\n");
     if (Find::isPcItself()) {
+        for (const QString folder : {"D:Spiele", "\\Spiele", "/Spiele"}) {
+            EXPECT_TRUE(complaint(folder).contains(": is not a full path (")) << folder.toStdString();
+        }
         EXPECT_EQ(complaint("q:\\Spiele"), "luruludri-find: q:\\Spiele: there is no drive Q:\n");
     }
     EXPECT_TRUE(program.fakeLog().isEmpty()) << "the plug-in is not asked";
@@ -142,7 +145,8 @@ TEST(UserChoice, AQuotedFolderThatEndsInABackslashIsTakenForWhatWasMeant) {
     EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
     EXPECT_EQ(program.fakeLog().value(2), "setUserLocation(" + program.folder() + ")");
     const FindRun more = program.run({"locate", "installed", program.folder() + "\" a.json", "b.json"});
-    EXPECT_TRUE(more.errors.startsWith("luruludri-find: surplus argument \"b.json\"\n")) << more.errors.toStdString();
+    EXPECT_TRUE(more.errors.startsWith("luruludri-find: unexpected argument \"b.json\"\n"))
+        << more.errors.toStdString();
 }
 
 TEST(UserChoice, AnEmptyFolderForgets) {
@@ -150,7 +154,7 @@ TEST(UserChoice, AnEmptyFolderForgets) {
     const FindRun run = program.run({"forget", " Käfer"});
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors, "");
-    EXPECT_EQ(run.output, "Käfer: forgotten\n");
+    EXPECT_EQ(run.output, "Käfer: no folder was remembered\n");
     EXPECT_EQ(program.fakeLog().mid(1, 2), (QStringList{"userProvidedLocation( Käfer|)", "setUserLocation()"}));
 }
 
@@ -209,7 +213,7 @@ TEST(UserChoice, TheRealPluginRemembersFindsAndForgets) {
 
     const FindRun located = program.runBare({"locate", "Wal", folder + "/bin", catalogue});
     EXPECT_EQ(located.exitStatus, 0) << located.errors.toStdString();
-    EXPECT_EQ(located.output, "Wal: " + folder + "\n");
+    EXPECT_EQ(located.output, "Wal: " + QDir::toNativeSeparators(folder) + "\n");
     EXPECT_EQ(program.runBare({catalogue}).exitStatus, 0);
 
     EXPECT_EQ(program.runBare({"forget", "Wal"}).output, "Wal: forgotten\n");

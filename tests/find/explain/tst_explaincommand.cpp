@@ -94,7 +94,7 @@ TEST(ExplainCommand, NamesTheGamesOfTheCatalogueThatAreCalledAlike) {
     const FindRun run = explain(program, {"käfer", catalogue});
     EXPECT_EQ(run.exitStatus, 1);
     EXPECT_EQ(run.output, "käfer: not in the catalogue; did you mean \"Käferrennen\"?\n"
-                          "nothing that is installed has a name like it\n");
+                          "nothing installed has a similar name\n");
     EXPECT_EQ(program.run({"--game", "Wal (Demo)", catalogue}).errors,
               "luruludri-find: " + catalogue + ": no game is named \"Wal (Demo)\"; did you mean \"Wal\"?\n");
 }
@@ -132,7 +132,7 @@ TEST(ExplainCommand, RefusesAPlugInThatTellsNoTrace) {
     const FindRun run = program.run({"explain", "Wal", program.file("Käfer.json", twoGames)});
     EXPECT_EQ(run.exitStatus, 2);
     EXPECT_EQ(run.output, "");
-    EXPECT_TRUE(run.errors.endsWith(": this plug-in tells no trace\n")) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.endsWith(": this plug-in writes no trace\n")) << run.errors.toStdString();
 }
 
 TEST(ExplainCommand, RefusesWrongArguments) {
@@ -145,9 +145,9 @@ TEST(ExplainCommand, RefusesWrongArguments) {
     };
     EXPECT_EQ(complaint({"explain"}), "luruludri-find: explain: NAME is missing");
     EXPECT_EQ(complaint({"explain", " "}), "luruludri-find: NAME is empty");
-    EXPECT_EQ(complaint({"explain", "Wal", "a.json", "b"}), "luruludri-find: surplus argument \"b\"");
-    EXPECT_EQ(complaint({"--game", "Wal", "explain", "Wal"}), "luruludri-find: --game: not with explain");
-    EXPECT_EQ(complaint({"--all", "a.json"}), "luruludri-find: --all: not with find");
+    EXPECT_EQ(complaint({"explain", "Wal", "a.json", "b"}), "luruludri-find: unexpected argument \"b\"");
+    EXPECT_EQ(complaint({"--game", "Wal", "explain", "Wal"}), "luruludri-find: explain does not take --game");
+    EXPECT_EQ(complaint({"--all", "a.json"}), "luruludri-find: find does not take --all");
 }
 
 } // namespace

@@ -15,6 +15,8 @@ using Find::OutputFile;
 
 class OutputFileTest : public ::testing::Test {
 protected:
+    static QString native(const QString& path) { return QDir::toNativeSeparators(path); }
+
     QString path(const QString& name) const { return m_folder.filePath(name); }
 
     QString nameFor(const QString& wanted) {
@@ -32,22 +34,22 @@ private:
 };
 
 TEST_F(OutputFileTest, IsNamedAsTheUserSaidWithItsEnding) {
-    EXPECT_EQ(nameFor(path("my-pc.json")), path("my-pc.json"));
-    EXPECT_EQ(nameFor(path("my-pc.JSON")), path("my-pc.JSON"));
-    EXPECT_EQ(nameFor(path("my-pc")), path("my-pc.json"));
+    EXPECT_EQ(nameFor(path("my-pc.json")), native(path("my-pc.json")));
+    EXPECT_EQ(nameFor(path("my-pc.JSON")), native(path("my-pc.JSON")));
+    EXPECT_EQ(nameFor(path("my-pc")), native(path("my-pc.json")));
     EXPECT_EQ(fault, "");
 }
 
 TEST_F(OutputFileTest, OfAPageHasTheEndingOfOne) {
-    EXPECT_EQ(OutputFile(path("my-pc.json"), QLatin1String(".html"), fault).name(), path("my-pc.json.html"));
+    EXPECT_EQ(OutputFile(path("my-pc.json"), QLatin1String(".html"), fault).name(), native(path("my-pc.json.html")));
     EXPECT_TRUE(OutputFile(path(""), QLatin1String(".html"), fault).name().endsWith(".html"));
 }
 
 TEST_F(OutputFileTest, IsNamedAfterTheDayWhereTheUserNamedAFolderOrNothing) {
-    EXPECT_EQ(nameFor(path("")), path(nameOfTheDay));
+    EXPECT_EQ(nameFor(path("")), native(path(nameOfTheDay)));
     EXPECT_EQ(fault, "");
-    EXPECT_EQ(nameFor(path("none/")), path("none/" + nameOfTheDay));
-    EXPECT_EQ(fault, path("none/" + nameOfTheDay) + ": the file cannot be made: there is no folder " +
+    EXPECT_EQ(nameFor(path("none/")), native(path("none/" + nameOfTheDay)));
+    EXPECT_EQ(fault, native(path("none/" + nameOfTheDay)) + ": the file cannot be made: there is no folder " +
                          QDir::toNativeSeparators(path("none")));
     EXPECT_TRUE(nameFor("").endsWith(nameOfTheDay));
 }
@@ -62,17 +64,25 @@ TEST_F(OutputFileTest, IsThereWhenItIsComplete) {
     EXPECT_EQ(written.readAll(), "all of it");
 }
 
+TEST_F(OutputFileTest, IsANewOneEachTimeWhereTheUserNamedNone) {
+    ASSERT_EQ(OutputFile(path(""), QLatin1String(".json"), fault).write("first"), "");
+    QString second = nameOfTheDay;
+    second.insert(second.size() - 5, "-2");
+    EXPECT_EQ(nameFor(path("")), native(path(second)));
+    EXPECT_EQ(fault, "");
+}
+
 TEST_F(OutputFileTest, ThatIsThereIsLeftAlone) {
     ASSERT_EQ(OutputFile(path("x.json"), QLatin1String(".json"), fault).write("mine"), "");
     EXPECT_EQ(fault, "");
     nameFor(path("x"));
-    EXPECT_EQ(fault, path("x.json") + ": the file is there already");
+    EXPECT_EQ(fault, native(path("x.json")) + ": the file exists already");
 }
 
 TEST_F(OutputFileTest, ThatCannotBeWrittenIsNotThere) {
     OutputFile file(path("x.json"), QLatin1String(".json"), fault);
     QDir().mkdir(path("x.json")); // in the meantime
-    EXPECT_TRUE(file.write("x").startsWith(path("x.json") + ": the file cannot be written: "));
+    EXPECT_TRUE(file.write("x").startsWith(native(path("x.json")) + ": the file cannot be written: "));
     EXPECT_EQ(files(), QStringList{"x.json"});
 }
 

@@ -74,12 +74,12 @@ TEST_F(OutputFolderTest, AFileIsNoFolder) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
     { const OutputFolder folder(path("file"), fault); }
-    EXPECT_EQ(fault, path("file") + ": is no folder");
+    EXPECT_EQ(fault, path("file") + ": is not a folder");
     EXPECT_TRUE(QFileInfo::exists(path("file")));
     fault.clear();
     { const OutputFolder folder(path("file/below"), fault); }
     EXPECT_EQ(fault, path("file/below") + ": the folder cannot be made: " + QDir::toNativeSeparators(path("file")) +
-                         " is no folder");
+                         " is not a folder");
 }
 
 } // namespace

@@ -23,12 +23,12 @@ TEST(RecordCommand, WrongUseIsRefused) {
     const FindProgram program;
     const QString refusal = "luruludri-find: %1\nluruludri-find: try luruludri-find --help\n";
     const auto errors = [&program](const QStringList& arguments) { return program.run(arguments).errors; };
-    EXPECT_EQ(errors({"record", "a", "b", "c"}), refusal.arg("surplus argument \"c\""));
+    EXPECT_EQ(errors({"record", "a", "b", "c"}), refusal.arg("unexpected argument \"c\""));
     const FindRun withJson = program.run({"record", "a", "--json"});
     EXPECT_EQ(withJson.exitStatus, 2);
-    EXPECT_TRUE(withJson.output.contains("--json: not with record")) << withJson.output.toStdString();
-    EXPECT_EQ(errors({"record", "a", "--game", "x"}), refusal.arg("--game: not with record"));
-    EXPECT_EQ(errors({"runtimes", "--keep-names"}), refusal.arg("--keep-names: not with runtimes"));
+    EXPECT_TRUE(withJson.output.contains("record does not take --json")) << withJson.output.toStdString();
+    EXPECT_EQ(errors({"record", "a", "--game", "x"}), refusal.arg("record does not take --game"));
+    EXPECT_EQ(errors({"runtimes", "--keep-names"}), refusal.arg("runtimes does not take --keep-names"));
     EXPECT_EQ(program.run({"record", "a", "b", "c"}).exitStatus, 2);
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
@@ -38,7 +38,7 @@ TEST(RecordCommand, AFileThatIsThereIsLeftAlone) {
     const QString catalogue = program.file("none.json", noGames);
     const FindRun run = program.run({"record", catalogue});
     EXPECT_EQ(run.exitStatus, 2);
-    EXPECT_EQ(run.errors, "luruludri-find: " + catalogue + ": the file is there already\n");
+    EXPECT_EQ(run.errors, "luruludri-find: " + catalogue + ": the file exists already\n");
     EXPECT_TRUE(program.fakeLog().isEmpty()) << "nothing was asked in vain";
 }
 

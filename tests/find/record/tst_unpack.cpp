@@ -21,6 +21,17 @@ TEST(Unpack, MakesAFolderThatIsTheSamePc) {
     EXPECT_TRUE(Recordings::readRecording(folder.toUtf8()).pc == OddPc::make(true));
 }
 
+TEST(Unpack, ReadsStandardInput) {
+    FindProgram program;
+    program.setInput(Recordings::renderPcFile(OddPc::make(true)));
+    const QString folder = program.folder() + "/pc";
+    EXPECT_EQ(program.run({"unpack", "-", folder}).errors, "");
+    EXPECT_TRUE(Recordings::readRecording(folder.toUtf8()).pc == OddPc::make(true));
+    program.setInput("{\n");
+    EXPECT_EQ(program.run({"unpack", "-", folder + "2"}).errors,
+              "luruludri-find: standard input:2: a name in quotes is expected\n");
+}
+
 TEST(Unpack, TellsWhatAFolderCannotHave) {
     const FindProgram program;
     Recordings::Pc pc;

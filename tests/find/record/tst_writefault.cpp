@@ -26,8 +26,8 @@ TEST(WriteFault, NamesTheFileThatIsInTheWay) {
     const QString inTheWay = folder.filePath("file");
     QFile file(inTheWay);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_EQ(causeAgainstFile(inTheWay + "/x"), QDir::toNativeSeparators(inTheWay) + " is no folder");
-    EXPECT_EQ(causeAgainstFolder(inTheWay + "/a/b"), QDir::toNativeSeparators(inTheWay) + " is no folder");
+    EXPECT_EQ(causeAgainstFile(inTheWay + "/x"), QDir::toNativeSeparators(inTheWay) + " is not a folder");
+    EXPECT_EQ(causeAgainstFolder(inTheWay + "/a/b"), QDir::toNativeSeparators(inTheWay) + " is not a folder");
 }
 
 TEST(WriteFault, NamesTheDriveThatIsMissing) {

@@ -14,9 +14,9 @@ constexpr const char* noGames = R"({"games": []})";
 TEST(ReportCommand, WrongUseIsRefused) {
     const FindProgram program;
     const auto errors = [&program](const QStringList& arguments) { return program.run(arguments).errors; };
-    EXPECT_TRUE(errors({"report", "a", "b", "c"}).contains("surplus argument \"c\""));
+    EXPECT_TRUE(errors({"report", "a", "b", "c"}).contains("unexpected argument \"c\""));
     const FindRun withJson = program.run({"report", "a", "--json"});
-    EXPECT_TRUE(withJson.output.contains("--json: not with report")) << withJson.output.toStdString();
+    EXPECT_TRUE(withJson.output.contains("report does not take --json")) << withJson.output.toStdString();
     EXPECT_EQ(program.run({"report", "a", "b", "c"}).exitStatus, 2);
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
@@ -26,7 +26,7 @@ TEST(ReportCommand, AFileThatIsThereIsLeftAlone) {
     const QString page = program.file("page.html", "mine");
     const FindRun run = program.run({"report", page, program.file("none.json", noGames)});
     EXPECT_EQ(run.exitStatus, 2);
-    EXPECT_EQ(run.errors, "luruludri-find: " + page + ": the file is there already\n");
+    EXPECT_EQ(run.errors, "luruludri-find: " + page + ": the file exists already\n");
     EXPECT_TRUE(program.fakeLog().isEmpty()) << "nothing was asked in vain";
 }
 

@@ -80,7 +80,7 @@ TEST(ReportPage, TellsWhyAGameWasNotFound) {
     EXPECT_THAT(html, HasSubstr("<span>folder</span> <span>uninstall</span>"));
     data.games.front() = missingGame("x");
     data.games.front().explanation.clear();
-    EXPECT_THAT(page(data), HasSubstr("<summary><bdi>No finder looked for it.</bdi></summary>"));
+    EXPECT_THAT(page(data), HasSubstr("<summary><bdi>The catalogue has no finder for it.</bdi></summary>"));
 }
 
 TEST(ReportPage, WhateverATextIsItStaysText) {
@@ -153,8 +153,8 @@ TEST(ReportPage, SaysWhatBecameOfPrivateNames) {
     data.neutralNames = QStringList{"user"};
     data.neutralFolders = QStringList{"user-2"};
     EXPECT_THAT(page(data),
-                HasSubstr("<q>user</q> stands in the place of one.\n<q>user-2</q> stands in the place of one "
-                          "where that is the folder of a user, and only there.\n"));
+                HasSubstr("One is now <q>user</q>.\nOne is now <q>user-2</q>, only where it is the name of a user's "
+                          "folder.\n"));
 }
 
 TEST(ReportPage, TellsFaultsOrThatThereAreNone) {
