@@ -2,12 +2,14 @@
 
 #include "platform/Clocks.h"
 #include "platform/Files.h"
+#include "platform/FolderLock.h"
 #include "platform/Process.h"
 #include "support/FileVersion.h"
 #include "support/HostExecutable.h"
 #include "support/LogPrefix.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <array>
 
@@ -88,10 +90,22 @@ Platform::TextStream* LogFile::openedFile() {
     return file ? file : m_file.offer(Platform::openShared(m_path, modeOf(m_options)));
 }
 
+bool LogFile::isLarge() const {
+    return Platform::fileSize(m_path) > largestSize;
+}
+
 void LogFile::rotateWhenLarge() const {
-    if (m_options.truncate || Platform::fileSize(m_path) <= largestSize) {
+    if (m_options.truncate || !isLarge()) {
         return;
     }
+    // Another process may find the same now; if both rotated, a file that has just begun would push the oldest one out.
+    const auto lock = Platform::lockFolder(QFileInfo(m_path).path());
+    if (isLarge()) {
+        rotate();
+    }
+}
+
+void LogFile::rotate() const {
     constexpr std::array<const char*, 6> suffixes{"", ".bak", ".ba2", ".ba3", ".ba4", ".ba5"};
     const auto withSuffix = [this](const char* suffix) { return m_path + QLatin1String(suffix); };
 

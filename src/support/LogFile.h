@@ -30,7 +30,8 @@ QString logFileName(const QByteArray& name, const QString& processName);
 ///
 /// Every failure is silent, as there is nobody to tell. A file that could not be opened is tried again at every line.
 /// Has no lock: lines of several threads may interleave, and a file that opens late for several at once may be opened
-/// by each of them, to be closed again by all but one. Other processes may write to the same file.
+/// by each of them, to be closed again by all but one. Other processes may write to the same file: their lines come
+/// between this one's, and who opens it at once with them does not rotate it once more.
 class LogFile {
 public:
     /// Opens the file and writes the opening banner. `name` is ASCII; `level` is 0 or below for a file that is not
@@ -52,7 +53,9 @@ private:
     Q_DISABLE_COPY_MOVE(LogFile)
 
     bool hasBanners() const noexcept;
+    bool isLarge() const;
     void rotateWhenLarge() const;
+    void rotate() const;
     Platform::TextStream* openedFile();
     void writeOpeningBanner(Platform::TextStream& file) const;
 

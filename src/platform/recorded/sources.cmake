@@ -6,6 +6,7 @@ target_sources(
             platform/recorded/DriveFileEngine.cpp
             platform/recorded/DriveFolderIterator.cpp
             platform/recorded/Files.cpp
+            platform/recorded/FolderLock.cpp
             platform/recorded/Folders.cpp
             platform/recorded/Listing.cpp
             platform/recorded/Locks.cpp

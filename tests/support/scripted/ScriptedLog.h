@@ -56,6 +56,20 @@ private:
     std::shared_ptr<StreamRecord> m_record;
 };
 
+/// A lock that notes when it is given up.
+class NotingLock final : public Platform::FolderLock {
+public:
+    explicit NotingLock(QStringList& notes)
+        : m_notes(notes) {}
+
+    ~NotingLock() override { m_notes.append("unlock"); }
+
+private:
+    Q_DISABLE_COPY_MOVE(NotingLock)
+
+    QStringList& m_notes;
+};
+
 /// Logs of a system that notes what it is asked for.
 class ScriptedLogTest : public ::testing::Test {
 protected:
@@ -72,6 +86,11 @@ protected:
         system.fileSize = [this](const QString& path) {
             told("size " + named(path));
             return size;
+        };
+        system.lockFolder = [this](const QString& path) {
+            EXPECT_EQ(QDir::toNativeSeparators(path), folder);
+            told("lock");
+            return std::make_unique<NotingLock>(asked);
         };
         system.openShared = [this](const QString& path, const char* mode) {
             told("open " + named(path) + ' ' + mode);

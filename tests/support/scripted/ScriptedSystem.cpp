@@ -24,6 +24,7 @@ ScriptedSystem::ScriptedSystem() {
     createFolder = deleteFile = [](const QString&) { return false; };
     moveFile = [](const QString&, const QString&) { return false; };
     openShared = [](const QString&, const char*) { return nullptr; };
+    lockFolder = [](const QString&) { return nullptr; };
     fileVersionInfoSize = [](const QString&) { return 0; };
     fileVersionInfo = [](const QString&, quint32, void*) { return false; };
     versionRootBlock = [](const void*, const void*&, quint32&) { return false; };
@@ -101,6 +102,10 @@ bool moveFile(const QString& from, const QString& to) {
 
 std::unique_ptr<TextStream> openShared(const QString& path, const char* mode) {
     return current->openShared(path, mode);
+}
+
+std::unique_ptr<FolderLock> lockFolder(const QString& path) {
+    return current->lockFolder(path);
 }
 
 quint32 fileVersionInfoSize(const QString& path) {

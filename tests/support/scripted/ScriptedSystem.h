@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/FolderLock.h"
 #include "platform/Registry.h"
 #include "platform/TextStream.h"
 
@@ -35,6 +36,7 @@ public:
     std::function<bool(const QString& path)> deleteFile;
     std::function<bool(const QString& from, const QString& to)> moveFile;
     std::function<std::unique_ptr<Platform::TextStream>(const QString& path, const char* mode)> openShared;
+    std::function<std::unique_ptr<Platform::FolderLock>(const QString& path)> lockFolder;
 
     // Version resources
     std::function<quint32(const QString& path)> fileVersionInfoSize;

@@ -69,12 +69,64 @@ TEST_F(ScriptedLogTest, RotatesFromTheOldestOn) {
     size = limit + 1;
     const LogFile file("Test", 2, {});
     EXPECT_THAT(asked, ElementsAre("create " + folder, "size Test.log", //
+                                   "lock", "size Test.log",             //
                                    "delete Test.log.ba5",               //
                                    "move Test.log.ba4 to Test.log.ba5", //
                                    "move Test.log.ba3 to Test.log.ba4", //
                                    "move Test.log.ba2 to Test.log.ba3", //
                                    "move Test.log.bak to Test.log.ba2", //
-                                   "move Test.log to Test.log.bak", "open Test.log at"));
+                                   "move Test.log to Test.log.bak",     //
+                                   "unlock", "open Test.log at"));
+}
+
+TEST_F(ScriptedLogTest, IsNotRotatedAgainWhenAnotherProcessHasJustDoneIt) {
+    size = limit + 1;
+    system.lockFolder = [this](const QString&) {
+        size = 58; // what the other one has written to its new file
+        return std::make_unique<NotingLock>(asked);
+    };
+    const LogFile file("Test", 2, {});
+    EXPECT_THAT(asked, ElementsAre("create " + folder, "size Test.log", "size Test.log", "unlock", "open Test.log at"));
+}
+
+TEST_F(ScriptedLogTest, IsRotatedAlsoWhenTheLockCannotBeHad) {
+    size = limit + 1;
+    system.lockFolder = [](const QString&) { return nullptr; };
+    const LogFile file("Test", 2, {});
+    EXPECT_EQ(asked.filter("move ").size(), 5);
+}
+
+// A move that fails stops no other one. A file is then replaced by the next newer one, or it stays where it is.
+TEST_F(ScriptedLogTest, EachStepOfARotationMayFail) {
+    const std::vector<std::pair<QString, QStringList>> filesAfter{
+        {"", {"", "log", "bak", "ba2", "ba3", "ba4"}},
+        {"delete Test.log.ba5", {"", "log", "bak", "ba2", "ba3", "ba4"}},
+        {"move Test.log.ba4 to Test.log.ba5", {"", "log", "bak", "ba2", "ba3", ""}},
+        {"move Test.log.ba3 to Test.log.ba4", {"", "log", "bak", "ba2", "", "ba4"}},
+        {"move Test.log.ba2 to Test.log.ba3", {"", "log", "bak", "", "ba3", "ba4"}},
+        {"move Test.log.bak to Test.log.ba2", {"", "log", "", "ba2", "ba3", "ba4"}},
+        {"move Test.log to Test.log.bak", {"log", "", "bak", "ba2", "ba3", "ba4"}}};
+    const QStringList names{"Test.log", "Test.log.bak", "Test.log.ba2", "Test.log.ba3", "Test.log.ba4", "Test.log.ba5"};
+    for (const auto& [failing, expected] : filesAfter) {
+        QStringList files{"log", "bak", "ba2", "ba3", "ba4", "ba5"};
+        const QString step = failing;
+        const auto take = [&](const QString& from) { return std::exchange(files[names.indexOf(named(from))], ""); };
+        size = limit + 1;
+        system.deleteFile = [&](const QString& path) {
+            return step == "delete " + named(path) ? false : !take(path).isNull();
+        };
+        system.moveFile = [&](const QString& from, const QString& to) {
+            if (step == "move " + named(from) + " to " + named(to)) {
+                return false;
+            }
+            files[names.indexOf(named(to))] = take(from);
+            return true;
+        };
+        LogFile file("Test", 2, {});
+        file.writeLine('A', "text");
+        EXPECT_EQ(files, expected) << step.toStdString();
+        EXPECT_THAT(streams.back()->lines(), ElementsAre(created, ::testing::_, "A: text")) << step.toStdString();
+    }
 }
 
 TEST_F(ScriptedLogTest, AFileThatCannotBeMovedIsAddedTo) {
