@@ -23,8 +23,9 @@ protected:
 };
 
 /// _wfsopen with share flag _SH_DENYNO and one of the modes "at", "wt", "at, ccs=UNICODE", "wt, ccs=UNICODE". Plain
-/// modes write UTF-8; the Unicode ones write UTF-16LE after a byte-order mark that a new file begins with. Destroying
-/// the stream closes the file. Null when it cannot be opened.
+/// modes write UTF-8; the Unicode ones write UTF-16LE after a byte-order mark that a new file begins with. In the mode
+/// "at", what several processes flush to one file comes one behind the other. Destroying the stream closes the file.
+/// Null when it cannot be opened.
 std::unique_ptr<TextStream> openShared(const QString& path, const char* mode);
 
 } // namespace Platform

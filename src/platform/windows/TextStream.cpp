@@ -4,9 +4,13 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <new>
+
+#include <fcntl.h>
+#include <io.h>
 #include <share.h>
 
 namespace Platform {
@@ -54,10 +58,32 @@ private:
     Stream m_stream;
 };
 
+/// As _wfsopen with "at" and _SH_DENYNO, but that the system itself finds the file's end, at each write. The runtime
+/// asks for the end and writes there then: over what another process has written in the meantime.
+Stream openToAppend(const QString& path) {
+    const HANDLE file = ::CreateFileW(wide(path), FILE_APPEND_DATA | SYNCHRONIZE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                      nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return nullptr;
+    }
+    const int descriptor = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_APPEND | _O_TEXT);
+    if (descriptor < 0) {
+        ::CloseHandle(file);
+        return nullptr;
+    }
+    Stream stream(::_fdopen(descriptor, "at"));
+    if (!stream) {
+        ::_close(descriptor);
+    }
+    return stream;
+}
+
 } // namespace
 
 std::unique_ptr<TextStream> openShared(const QString& path, const char* mode) {
-    Stream stream(::_wfsopen(wide(path), wide(QString::fromLatin1(mode)), _SH_DENYNO));
+    const bool appends = std::strcmp(mode, "at") == 0;
+    Stream stream(appends ? openToAppend(path)
+                          : Stream(::_wfsopen(wide(path), wide(QString::fromLatin1(mode)), _SH_DENYNO)));
     if (!stream) {
         return nullptr;
     }
