@@ -1,26 +1,35 @@
 #pragma once
 
-#include "recordings/Pc.h"
+#include "platform/Registry.h"
 
 #include <QByteArray>
 #include <QString>
-#include <QTemporaryDir>
 
-/// The recorded PC that the benchmarks ask, in a temporary folder: drives C and D, both Start menus. Also takes the
-/// log files. One a process.
+#include <memory>
+#include <utility>
+#include <vector>
+
+/// The PC that the benchmarks ask: natively a recorded one in a temporary folder, on Windows the very PC, which must be
+/// one to throw away, as nothing is taken off it again. One a process.
 class BenchPc {
 public:
+    using Values = std::vector<std::pair<QString, QString>>;
+
+    /// Ends the process on a PC that nobody has said may be written to.
     BenchPc();
     ~BenchPc();
+
+    /// A registry key with values of type REG_SZ.
+    void key(Platform::RootKey root, const QString& path, quint32 view, const Values& values);
 
     /// A file with the folders on the way; `path` is Windows' own ("C:\\Games\\x.exe").
     void file(const QString& path, const QByteArray& contents = {});
 
-    /// An entry of the Uninstall registry; the key's name and its values.
-    void program(const QString& key, const QString& displayName, const QString& installLocation);
+    /// The folder that the user chose for the game `key`.
+    void userChoice(const QString& key, const QString& folder);
 
-    /// Registers the Steam client.
-    void steam(const QString& executable);
+    /// Where the shell has the folder with this CSIDL value.
+    QString shellFolder(int csidl) const;
 
     /// Makes the library answer from what was added.
     void use();
@@ -28,6 +37,6 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(BenchPc)
 
-    QTemporaryDir m_folder;
-    Recordings::Pc m_pc;
+    class World;
+    std::unique_ptr<World> m_world;
 };

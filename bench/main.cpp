@@ -1,41 +1,35 @@
 #include "BenchPc.h"
-#include "Ratios.h"
+#include "Benchmarks.h"
+#include "Figures.h"
+#include "InstalledGames.h"
 
-#include "Counts.h"
+#include <QCoreApplication>
+
+#include <cstdio>
 
 namespace {
 
-QString name(const char* what, int number) {
-    return QLatin1String(what) + QLatin1Char(' ') + QString::number(number);
-}
-
-void fill(BenchPc& pc) {
-    for (int i = 0; i < Counts::programs; ++i) {
-        pc.program(name("Steam App", i), name("Galactic Postman", i), name("C:\\Games\\Galactic Postman", i));
-    }
-    for (int i = 0; i < Counts::shortcuts; ++i) {
-        pc.file(name("C:\\Menu\\Programs\\Folder", i % Counts::menuFolders) + name("\\Space Racer", i) +
-                QLatin1String(".lnk"));
-    }
-    pc.steam(QStringLiteral("C:\\Steam\\steam.exe"));
-    pc.file(QStringLiteral("C:\\Steam\\steam.exe"));
-    for (int i = 0; i < Counts::apps; ++i) {
-        pc.file(QLatin1String("C:\\Steam\\steamapps\\appmanifest_") + QString::number(i) + QLatin1String(".acf"));
-    }
-}
+constexpr int filesPerKey = 2; ///< Start menus have more shortcuts than registries have programs
+constexpr double seconds = 3;  ///< a figure
 
 } // namespace
 
+/// luruludri-bench KEYS PLUGIN [--once]: the figures of a PC with so many programs, as lines of JSON.
 int main(int argc, char** argv) {
-    BenchPc pc;
-    fill(pc);
-    pc.use();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const int keys = arguments.value(1).toInt();
+    if (keys <= 0 || arguments.size() < 3) {
+        std::fputs("usage: luruludri-bench KEYS PLUGIN [--once]\n", stderr);
+        return 2;
     }
-    Ratios ratios;
-    benchmark::RunSpecifiedBenchmarks(&ratios);
-    benchmark::Shutdown();
+    const int files = keys * filesPerKey;
+    BenchPc pc;
+    InstalledGames::install(pc, keys, files);
+    pc.use();
+    const Figures figures(keys, arguments.contains(QLatin1String("--once")) ? 0 : seconds);
+    Benchmarks::builds(figures, keys, files);
+    Benchmarks::searches(figures, keys, files);
+    Benchmarks::plugin(figures, arguments.at(2));
     return 0;
 }

@@ -1,0 +1,18 @@
+#pragma once
+
+class Figures;
+class QString;
+
+/// All that is measured. A floor whose answers are not those of the work ends the process.
+namespace Benchmarks {
+
+/// How long the six lists take at the first question, against their floors, and how much memory they need.
+void builds(const Figures& figures, int keys, int files);
+
+/// What later questions take.
+void searches(const Figures& figures, int keys, int files);
+
+/// The plug-in as a file: its size, its loading, `Create`.
+void plugin(const Figures& figures, const QString& path);
+
+} // namespace Benchmarks
