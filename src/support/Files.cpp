@@ -7,6 +7,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <array>
+
 namespace Files {
 
 namespace {
@@ -14,6 +17,19 @@ namespace {
 bool told(const QString& path, bool found) {
     Trace::tell([&] { return Trace::Exists{Paths::toNative(path), found}; });
     return found;
+}
+
+/// A file's size is asked for only when it is not small, as Qt looks the file up by its path once more for that, which
+/// takes longer than to open and read it.
+QByteArray wholeOf(QFile& file, qint64 largest) {
+    std::array<char, 8192> start;
+    const qint64 size = std::max<qint64>(file.read(start.data(), static_cast<qint64>(start.size())), 0);
+    const bool isAll = size < static_cast<qint64>(start.size());
+    if ((isAll ? size : file.size()) > largest) {
+        return QByteArray();
+    }
+    const QByteArray bytes(start.data(), static_cast<int>(size));
+    return isAll ? bytes : bytes + file.readAll();
 }
 
 } // namespace
@@ -40,8 +56,8 @@ QStringList names(const QString& folder, const QString& pattern) {
 
 QByteArray readWholeFile(const QString& path, qint64 largest) {
     QFile file(Platform::pathOnPc(path));
-    const bool isToBeRead = file.open(QIODevice::ReadOnly) && file.size() <= largest;
-    const QByteArray bytes = isToBeRead ? file.readAll() : QByteArray();
+    const QByteArray bytes =
+        file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ? wholeOf(file, largest) : QByteArray();
     Trace::tell([&] { return Trace::Read{Paths::toNative(path), bytes.size()}; });
     return bytes;
 }

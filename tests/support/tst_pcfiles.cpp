@@ -42,6 +42,20 @@ TEST_F(PcFiles, AreFoundByEverySpellingOfTheirPath) {
     }
 }
 
+TEST_F(PcFiles, AreReadWholeWhateverTheirSize) {
+    const QString path = "C:\\Luruludri Test\\sized.bin";
+    for (const int size : {0, 1, 8191, 8192, 8193, 100'000}) {
+        QByteArray bytes;
+        for (int i = 0; i < size; ++i) {
+            bytes.append(static_cast<char>(i % 251));
+        }
+        pc.file(path, bytes);
+        EXPECT_TRUE(Files::readWholeFile(path) == bytes) << size;
+        EXPECT_TRUE(Files::readWholeFile(path, size) == bytes) << size;
+        EXPECT_EQ(Files::readWholeFile(path, size - 1), "") << size;
+    }
+}
+
 TEST_F(PcFiles, AreNotFoundByPathsThatQtDoesNotKnow) {
     for (const char* const path :
          {"//?/C:/Luruludri Test/a.txt", "\\\\?\\UNC\\C:\\Luruludri Test\\a.txt", "/C:/Luruludri Test/a.txt",
