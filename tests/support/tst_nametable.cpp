@@ -2,6 +2,8 @@
 
 #include "common/QtPrinters.h"
 
+#include <QStringList>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -54,6 +56,35 @@ TEST_F(NameTableTest, ARowThatIsNotEnteredIsNotFound) {
     EXPECT_THAT(table.find("Late", MatchMode::contains), IsEmpty());
 }
 
+TEST_F(NameTableTest, APartThatGoesOverTwoNamesIsInNeither) {
+    EXPECT_THAT(table.find("2SPACE", MatchMode::contains), IsEmpty()) << "the end of one and the beginning of the next";
+    addTo(table, "x2space");
+    EXPECT_THAT(table.find("2SPACE", MatchMode::contains), ElementsAre("x2space"));
+}
+
+TEST(ManyNamesTest, AreFoundInTheirOrderByAllTheirParts) {
+    NameTable<int> table;
+    QStringList names;
+    for (int i = 0; i < 1000; ++i) {
+        names.append(i % 7 == 0 ? "Twin" : QString("Name %1 of many").arg(i % 400));
+        table.row(names.last(), i).enter();
+    }
+    for (const char* const name : {"twin", "TWI", "n", "name 1", "name 399 of many", "of many", "name 400", "yn", ""}) {
+        std::vector<int> equal;
+        std::vector<int> containing;
+        for (int i = 0; i < names.size(); ++i) {
+            if (names[i].compare(name, Qt::CaseInsensitive) == 0) {
+                equal.push_back(i);
+            }
+            if (names[i].contains(name, Qt::CaseInsensitive)) {
+                containing.push_back(i);
+            }
+        }
+        EXPECT_EQ(table.find(name, MatchMode::equals), equal) << name;
+        EXPECT_EQ(table.find(name, MatchMode::contains), containing) << name;
+    }
+}
+
 TEST(IdTableTest, ComparesExactlyAndKeepsTheOrder) {
     IdTable<int> table;
     int number = 0;
@@ -64,6 +95,16 @@ TEST(IdTableTest, ComparesExactlyAndKeepsTheOrder) {
     EXPECT_THAT(table.find("0440"), ElementsAre(2));
     EXPECT_THAT(table.find("ABC"), IsEmpty());
     EXPECT_THAT(table.find(""), IsEmpty());
+}
+
+TEST(IdTableTest, TellsIdentifiersOfOneHashApart) {
+    // Each letter counts 31 times the next one.
+    ASSERT_EQ(qHash(QString("Aa")), qHash(QString("BB"))) << "else two other ones must be found";
+    IdTable<int> table;
+    table.row("Aa", 1).enter();
+    table.row("BB", 2).enter();
+    EXPECT_THAT(table.find("Aa"), ElementsAre(1));
+    EXPECT_THAT(table.find("BB"), ElementsAre(2));
 }
 
 } // namespace

@@ -83,4 +83,24 @@ TEST(FoldCase, HalfACharacterIsLookedForInTheFoldedPair) {
     EXPECT_FALSE(Text::foldCase(capital).contains(Text::foldCase(QChar(0xDC00))));
 }
 
+TEST(IndexOf, AgreesWithThePlainSearchEverywhere) {
+    QRandomGenerator random(1);
+    const auto anyText = [&random](int length) {
+        std::u16string text;
+        for (int i = 0; i < length; ++i) {
+            text += static_cast<char16_t>(u'a' + random.bounded(2));
+        }
+        return text;
+    };
+    for (int round = 0; round < 3000; ++round) {
+        const std::u16string text = anyText(random.bounded(150));
+        const std::u16string sought = anyText(1 + random.bounded(12));
+        for (std::size_t from = 0; from <= text.size() + 1; ++from) {
+            ASSERT_EQ(Text::indexOf(text, sought, from), text.find(sought, from))
+                << QString::fromStdU16String(text).toStdString() << ", "
+                << QString::fromStdU16String(sought).toStdString() << ", " << from;
+        }
+    }
+}
+
 } // namespace
