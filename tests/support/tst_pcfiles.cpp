@@ -11,8 +11,13 @@
 
 namespace {
 
+using ::testing::AllOf;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::IsSupersetOf;
+using ::testing::Not;
+using ::testing::UnorderedElementsAre;
 
 /// A PC with one file, "abc". The current folder is the root of its drive.
 class PcFiles : public ::testing::Test {
@@ -40,6 +45,32 @@ TEST_F(PcFiles, AreFoundByEverySpellingOfTheirPath) {
         EXPECT_TRUE(Files::exists(path)) << path;
         EXPECT_EQ(Files::readWholeFile(path), "abc") << path;
     }
+}
+
+TEST_F(PcFiles, AreListedByTheirEndingsWithoutHiddenOnesAndFolders) {
+    const QString folder = "C:\\Luruludri Test\\Listed";
+    for (const char* const name : {"b.acf", "A.ACF", "a.acf.bak", "acf", ".acf", "c.acf ", "sys.acf", "hid.acf"}) {
+        pc.file(folder + "\\" + name);
+    }
+    pc.folder(folder + "\\folder.acf");
+    pc.hide(folder + "\\hid.acf");
+    pc.makeSystem(folder + "\\sys.acf");
+    const QStringList byQt = QDir(Platform::pathOnPc(folder)).entryList({"*.acf"}, QDir::Files, QDir::Unsorted);
+    EXPECT_EQ(Files::names(folder, "*.acf"), byQt);
+    EXPECT_THAT(byQt, IsSupersetOf({QString("b.acf"), QString("A.ACF"), QString("sys.acf")}));
+    EXPECT_THAT(byQt, AllOf(Not(Contains("hid.acf")), Not(Contains("folder.acf")), Not(Contains("a.acf.bak"))));
+    EXPECT_EQ(Files::names(folder + "\\missing", "*.acf"), QStringList());
+}
+
+TEST_F(PcFiles, AreListedThroughLinksAndByNamesBeyondTheBasicPlane) {
+    const QString folder = "C:\\Luruludri Test\\Linked";
+    pc.file(folder + "\\plain.acf");
+    pc.file(folder + QString::fromUtf8("\\\xF0\x9F\x8E\xAE.acf"));
+    pc.folder("C:\\Luruludri Test\\Target");
+    pc.link(folder + "\\link.acf", "C:\\Luruludri Test\\Target");
+    const QStringList byQt = QDir(Platform::pathOnPc(folder)).entryList({"*.acf"}, QDir::Files, QDir::Unsorted);
+    EXPECT_EQ(Files::names(folder, "*.acf"), byQt);
+    EXPECT_THAT(byQt, UnorderedElementsAre("plain.acf", QString::fromUtf8("\xF0\x9F\x8E\xAE.acf")));
 }
 
 TEST_F(PcFiles, AreReadWholeWhateverTheirSize) {
