@@ -4,12 +4,11 @@
 
 #include <windows.h>
 
-#include <cstdint>
+#include <array>
 #include <cstdio>
 #include <cstring>
 #include <new>
 
-#include <fcntl.h>
 #include <io.h>
 #include <share.h>
 
@@ -23,18 +22,84 @@ struct StreamCloser {
 
 using Stream = std::unique_ptr<std::FILE, StreamCloser>;
 
-/// A plain text-mode stream. The text goes out as bytes, so the runtime's locale has no say in it.
-class NarrowStream final : public TextStream {
+struct HandleCloser {
+    void operator()(void* handle) const noexcept { ::CloseHandle(handle); }
+};
+
+using Handle = std::unique_ptr<void, HandleCloser>;
+
+/// The stream's file once more. With no right but to append, all that is written goes to the file's end, wherever
+/// others have written meanwhile.
+Handle fileOf(std::FILE* stream, const char* mode) {
+    const auto own = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
+    const DWORD access = *mode == 'a' ? FILE_APPEND_DATA | SYNCHRONIZE : FILE_GENERIC_WRITE;
+    HANDLE file = nullptr;
+    ::DuplicateHandle(::GetCurrentProcess(), own, ::GetCurrentProcess(), &file, access, FALSE, 0);
+    return Handle(file);
+}
+
+/// As the runtime locks a stream for each of its own calls, so that threads that share one lose nothing.
+class StreamLock {
 public:
-    explicit NarrowStream(Stream stream)
-        : m_stream(std::move(stream)) {}
+    explicit StreamLock(std::FILE* stream) noexcept
+        : m_stream(stream) {
+        ::_lock_file(m_stream);
+    }
 
-    void write(std::string_view utf8) noexcept override { std::fwrite(utf8.data(), 1, utf8.size(), m_stream.get()); }
-
-    void flush() noexcept override { std::fflush(m_stream.get()); }
+    ~StreamLock() { ::_unlock_file(m_stream); }
 
 private:
+    Q_DISABLE_COPY_MOVE(StreamLock)
+
+    std::FILE* m_stream;
+};
+
+/// A plain text-mode stream. The text goes out as bytes, so the runtime's locale has no say in it; and past the
+/// runtime, which would look for the file's end before each line, though the system itself can write there.
+class NarrowStream final : public TextStream {
+public:
+    NarrowStream(Stream stream, Handle file)
+        : m_stream(std::move(stream))
+        , m_file(std::move(file)) {}
+
+    ~NarrowStream() override { writeOut(); }
+
+    void write(std::string_view utf8) noexcept override {
+        const StreamLock lock(m_stream.get());
+        for (const char byte : utf8) {
+            if (byte == '\n') {
+                put('\r');
+            }
+            put(byte);
+        }
+    }
+
+    void flush() noexcept override {
+        const StreamLock lock(m_stream.get());
+        writeOut();
+    }
+
+private:
+    void put(char byte) noexcept {
+        if (m_size == m_buffer.size()) {
+            writeOut();
+        }
+        m_buffer[m_size] = byte;
+        ++m_size;
+    }
+
+    void writeOut() noexcept {
+        DWORD written = 0;
+        if (m_size > 0) {
+            ::WriteFile(m_file.get(), m_buffer.data(), static_cast<DWORD>(m_size), &written, nullptr);
+        }
+        m_size = 0;
+    }
+
     Stream m_stream;
+    Handle m_file;
+    std::array<char, 4096> m_buffer;
+    std::size_t m_size = 0;
 };
 
 /// A stream in the runtime's Unicode text mode, which takes wide text only.
@@ -58,39 +123,18 @@ private:
     Stream m_stream;
 };
 
-/// As _wfsopen with "at" and _SH_DENYNO, but that the system itself finds the file's end, at each write. The runtime
-/// asks for the end and writes there then: over what another process has written in the meantime.
-Stream openToAppend(const QString& path) {
-    const HANDLE file = ::CreateFileW(wide(path), FILE_APPEND_DATA | SYNCHRONIZE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                      nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        return nullptr;
-    }
-    const int descriptor = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_APPEND | _O_TEXT);
-    if (descriptor < 0) {
-        ::CloseHandle(file);
-        return nullptr;
-    }
-    Stream stream(::_fdopen(descriptor, "at"));
-    if (!stream) {
-        ::_close(descriptor);
-    }
-    return stream;
-}
-
 } // namespace
 
 std::unique_ptr<TextStream> openShared(const QString& path, const char* mode) {
-    const bool appends = std::strcmp(mode, "at") == 0;
-    Stream stream(appends ? openToAppend(path)
-                          : Stream(::_wfsopen(wide(path), wide(QString::fromLatin1(mode)), _SH_DENYNO)));
+    Stream stream(::_wfsopen(wide(path), wide(QString::fromLatin1(mode)), _SH_DENYNO));
     if (!stream) {
         return nullptr;
     }
     if (std::strstr(mode, "ccs=UNICODE") != nullptr) {
         return std::make_unique<UnicodeStream>(std::move(stream));
     }
-    return std::make_unique<NarrowStream>(std::move(stream));
+    Handle file = fileOf(stream.get(), mode);
+    return file ? std::make_unique<NarrowStream>(std::move(stream), std::move(file)) : nullptr;
 }
 
 } // namespace Platform
