@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
+
 class Figures;
 class QString;
 
@@ -8,6 +11,12 @@ namespace Benchmarks {
 
 /// How long the six lists take at the first question, against their floors, and how much memory they need.
 void builds(const Figures& figures, int keys, int files);
+
+/// What a user would run instead, against the lists.
+void programs(const Figures& figures, int keys, int files);
+
+/// How many bytes more than before are held at once during `work`; 0 where it can't be told.
+std::size_t peakMemory(const std::function<void()>& work);
 
 /// What later questions take.
 void searches(const Figures& figures, int keys, int files);

@@ -75,6 +75,50 @@ std::size_t oculus() {
 
 } // namespace Floors
 
+// The characters that an entry holds.
+
+int textOf(const UninstallEntry& entry) {
+    return entry.keyPath.size() + entry.displayName.size() + entry.installLocation.size() +
+           entry.uninstallString.size();
+}
+
+int textOf(const GamesExplorerEntry& entry) {
+    return entry.keyName.size() + entry.title.size() + entry.appExePath.size() + entry.configApplicationPath.size();
+}
+
+int textOf(const QString& shortcut) {
+    return shortcut.size();
+}
+
+int textOf(const SteamAppEntry& entry) {
+    return entry.appId.size() + entry.commonFolder.size();
+}
+
+int textOf(const EpicAppEntry& entry) {
+    return entry.AppName.size() + entry.LaunchExecutable.size() + entry.LaunchCommand.size() +
+           entry.InstallLocation.size() + entry.DisplayName.size() + entry.CatalogNamespace.size() +
+           entry.CatalogItemId.size();
+}
+
+int textOf(const OculusAppEntry& entry) {
+    return entry.appId.size() + entry.manifestsFolder.size();
+}
+
+/// The most that is held while a list is made, against the text in it.
+template <class Index>
+void memory(const Figures& figures, const char* name) {
+    Index index;
+    const std::size_t peak = Benchmarks::peakMemory([&index] { index.entries(); });
+    std::size_t text = 0;
+    for (const auto& entry : index.entries()) {
+        text += static_cast<std::size_t>(textOf(entry)) * sizeof(QChar);
+    }
+    if (peak > 0) {
+        figures.number(QLatin1String(name) + QLatin1String(" memory"),
+                       static_cast<double>(peak) / static_cast<double>(text), QStringLiteral("ratio"));
+    }
+}
+
 /// `logger` is empty for a list that writes no log.
 template <class Index>
 void build(const Figures& figures, const char* name, const QString& logger, std::size_t (*floor)()) {
@@ -98,6 +142,8 @@ void build(const Figures& figures, const char* name, const QString& logger, std:
         index.reset();
         Logs::remove(logger);
     };
+    before();
+    memory<Index>(figures, name);
     before();
     figures.ratio(QLatin1String(name) + QLatin1String(" build"), work, bareWork, before);
 }

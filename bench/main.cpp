@@ -29,6 +29,7 @@ int main(int argc, char** argv) {
     pc.use();
     const Figures figures(keys, arguments.contains(QLatin1String("--once")) ? 0 : seconds);
     Benchmarks::builds(figures, keys, files);
+    Benchmarks::programs(figures, keys, files);
     Benchmarks::searches(figures, keys, files);
     Benchmarks::plugin(figures, arguments.at(2));
     return 0;

@@ -47,6 +47,7 @@ void GamesExplorerIndex::build(std::list<GamesExplorerEntry>& entries) {
 void GamesExplorerIndex::read(quint32 view, std::list<GamesExplorerEntry>& entries, Logger& logger) {
     QStringList names;
     RegistryKey::open(rootKeyPath(), Hive::localMachine, view).subKeyNames(names);
+    m_titles.reserve(static_cast<std::size_t>(names.size()));
     for (const QString& name : qAsConst(names)) {
         const GamesExplorerEntry entry = readEntry(name, view);
         logger.logAlways("Title: %ls, %ls", qUtf16Printable(entry.title), qUtf16Printable(entry.appExePath));

@@ -12,8 +12,8 @@ constexpr quint64 longestWalkMs = 30'000;
 
 /// By its text, as asking the file system would open each shortcut.
 QString nameOf(const QString& shortcut) {
-    const QString file = shortcut.mid(shortcut.lastIndexOf(Paths::separator()) + 1);
-    return file.left(file.lastIndexOf(QLatin1Char('.')));
+    const int begin = shortcut.lastIndexOf(Paths::separator()) + 1;
+    return shortcut.mid(begin, shortcut.lastIndexOf(QLatin1Char('.')) - begin);
 }
 
 } // namespace
@@ -29,6 +29,8 @@ std::vector<QString> StartMenuIndex::findByName(const QString& name, int matchMo
 void StartMenuIndex::build(QStringList& entries) {
     for (const int csidl : startMenus) {
         const QStringList shortcuts = shortcutsBelow(knownFolderPath(csidl), longestWalkMs, m_source);
+        entries.reserve(entries.size() + shortcuts.size());
+        m_names.reserve(static_cast<std::size_t>(shortcuts.size()));
         for (const QString& shortcut : shortcuts) {
             const QString name = nameOf(shortcut);
             add(entries, shortcut, name, shortcut, m_names.row(name, shortcut));

@@ -55,6 +55,8 @@ void UninstallIndex::read(quint32 hive, quint32 view, std::list<UninstallEntry>&
         return;
     }
     logger.logAlways("=== View: %d, Scope: %d ===", static_cast<int>(view), static_cast<int>(hive));
+    m_names.reserve(static_cast<std::size_t>(names.size()));
+    m_keyPaths.reserve(static_cast<std::size_t>(names.size()));
     for (const QString& name : qAsConst(names)) {
         const UninstallEntry entry = readEntry(rootKeyPath() + QLatin1Char('\\') + name, hive, view);
         if (!entry.displayName.isEmpty() && tellsAPlace(entry)) {

@@ -48,12 +48,14 @@ void SteamLibraryIndex::read(const QString& folder, std::list<SteamAppEntry>& en
     const QLatin1String prefix("appmanifest_");
     logger.logAlways("Library Folder: %ls", qUtf16Printable(folder));
     const QStringList manifests = Files::names(folder, QStringLiteral("*.acf"));
+    const QString commonFolder = folder + QLatin1String("/common"); // one text for all entries
+    m_appIds.reserve(static_cast<std::size_t>(manifests.size()));
     for (const QString& manifest : manifests) {
         if (!manifest.startsWith(prefix)) {
             continue;
         }
         const QString baseName = manifest.left(manifest.indexOf(QLatin1Char('.')));
-        const SteamAppEntry entry{baseName.mid(prefix.size()), folder + QLatin1String("/common")};
+        const SteamAppEntry entry{baseName.mid(prefix.size()), commonFolder};
         add(entries, entry, entry.appId, entry.commonFolder, m_appIds.row(entry.appId, entry));
         logger.logAlways("  App ID: %ls", qUtf16Printable(entry.appId));
     }

@@ -58,9 +58,14 @@ public:
 
     /// Rows are entered in index order.
     Row row(const QString& id, const Entry& entry) {
-        makeRoom(m_rows, 1);
-        m_hashes.reserve();
+        reserve(1);
         return Row(this, {id, entry});
+    }
+
+    /// Makes room for so many more rows at once, which takes less memory than to grow row by row.
+    void reserve(std::size_t more) {
+        makeRoom(m_rows, more);
+        m_hashes.reserve(more);
     }
 
     /// All entries with this identifier, in index order; empty when there are none.
@@ -110,9 +115,14 @@ public:
     /// Rows are entered in index order.
     Row row(const QString& name, const Entry& entry) {
         makeRoom(m_names, static_cast<std::size_t>(name.size()));
-        makeRoom(m_rows, 1);
-        m_hashes.reserve();
+        reserve(1);
         return Row(this, name, entry);
+    }
+
+    /// As that of IdTable.
+    void reserve(std::size_t more) {
+        makeRoom(m_rows, more);
+        m_hashes.reserve(more);
     }
 
     /// All entries whose name fits by `matchMode`, in index order; empty when none does.

@@ -2,6 +2,8 @@
 
 #include "platform/Paths.h"
 
+#include <QStringBuilder>
+
 /// Paths of the PC that finders look at, in the words that finders use. This library's own files, which are not on a
 /// recorded PC, take QDir::separator().
 namespace Paths {
@@ -16,7 +18,7 @@ inline QString toNative(const QString& path) {
 
 /// `folder`, one native separator, `name`: never checks whether `folder` ends with a separator already.
 inline QString join(const QString& folder, const QString& name) {
-    return folder + separator() + name;
+    return folder % separator() % name; // in one piece of memory, and no larger than it must be
 }
 
 /// Cleaned, and native.

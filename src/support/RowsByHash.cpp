@@ -10,12 +10,16 @@ constexpr std::size_t fewestSlots = 8;
 
 } // namespace
 
-void RowsByHash::reserve() {
-    makeRoom(m_rows, 1);
-    if (m_rows.size() < m_slots.size()) {
+void RowsByHash::reserve(std::size_t more) {
+    makeRoom(m_rows, more);
+    std::size_t count = std::max(fewestSlots, m_slots.size());
+    while (count < m_rows.size() + more) {
+        count *= 2;
+    }
+    if (count == m_slots.size()) {
         return;
     }
-    std::vector<Slot> slots(std::max(fewestSlots, m_slots.size() * 2));
+    std::vector<Slot> slots(count);
     m_slots.swap(slots);
     for (Number number = 0; number < m_rows.size(); ++number) {
         append(number);

@@ -9,8 +9,8 @@
 /// its own, which is what makes it cheaper than one of the library's maps.
 class RowsByHash {
 public:
-    /// Makes room for one more row, so that add() can't fail.
-    void reserve();
+    /// Makes room for so many more rows, so that add() can't fail.
+    void reserve(std::size_t more);
 
     /// The row that comes next: they are numbered from 0.
     void add(uint hash) noexcept;
