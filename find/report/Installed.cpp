@@ -40,13 +40,17 @@ const InstalledList* listOf(const QString& index) {
 /// Reads the entries out of a trace, in its order.
 class EntryReader {
 public:
-    void operator()(const Trace::IndexBegin& event) { m_list = listOf(event.name); }
+    void operator()(const Trace::IndexBegin& event) { m_lists.push_back(listOf(event.name)); }
 
-    void operator()(const Trace::IndexEnd&) { m_list = nullptr; }
+    void operator()(const Trace::IndexEnd&) {
+        if (!m_lists.empty()) {
+            m_lists.pop_back();
+        }
+    }
 
     void operator()(const Trace::Entry& event) {
-        if (m_list != nullptr) {
-            m_entries.push_back({m_list, event.name, event.folder});
+        if (!m_lists.empty() && m_lists.back() != nullptr) {
+            m_entries.push_back({m_lists.back(), event.name, event.folder});
         }
     }
 
@@ -76,7 +80,7 @@ public:
     }
 
 private:
-    const InstalledList* m_list = nullptr; ///< that is being made
+    std::vector<const InstalledList*> m_lists; ///< that are being made, the last one for that before it
     std::vector<InstalledEntry> m_entries;
     QHash<QString, QString> m_targets;
     QSet<QString> m_packages;

@@ -3,6 +3,7 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "find/pc/System.h"
+#include "platform/Folders.h"
 #include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
@@ -130,6 +131,18 @@ TEST(ListCommand, AProgramOfTheUninstallRegistryIsListedWithWhatStartsIt) {
               (QJsonArray{"bin\\käferrennen.exe", "bin\\Kaeferrennen.exe"}));
     const QString line = listOf(program, {"list"}).output.section("    {", 1).section("\n", 0, 0);
     EXPECT_EQ(folderOfPasted(program, {}, "{" + line), "D:\\Spiele\\Käfer");
+}
+
+TEST(ListCommand, ASteamAppIsListedWhereOnlyTheStartMenuKnowsSteam) {
+    TestPc pc;
+    pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
+    pc.shortcut("C:\\Menu\\Steam.lnk", "D:\\Steam\\steam.exe");
+    pc.file("D:\\Steam\\steam.exe");
+    pc.file("D:\\Steam\\steamapps\\appmanifest_7.acf");
+    pc.file("D:\\Steam\\steamapps\\common\\Wal\\wal.exe");
+    FindProgram program;
+    const QJsonValue game = entry(installed(listOf(program)), "Wal", "Steam");
+    EXPECT_EQ(game["finders"][0]["appId"].toString(), "7");
 }
 
 TEST(ListCommand, WhatHasNoExecutableIsListedWithoutALine) {

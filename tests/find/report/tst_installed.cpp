@@ -73,6 +73,19 @@ TEST(Installed, AreTheEntriesOfAllListsAndTheAppPackages) {
                                  "Start menu|Los|C:\\Menu\\Los.lnk", "App packages|Maker.Game_x|Maker.Game_1_x64__x"}));
 }
 
+TEST(Installed, AListKeepsTheEntriesBehindAListThatIsMadeWithinIt) {
+    const TraceEvents events = {
+        Trace::IndexBegin{"SteamLibraries"}, Trace::IndexBegin{"StartMenu"},  Trace::Entry{"Steam", "C:\\Steam"},
+        Trace::IndexEnd{"StartMenu", 1},     Trace::Entry{"7", "D:\\common"}, Trace::IndexEnd{"SteamLibraries", 1},
+        Trace::Entry{"in no list", ""},
+    };
+    QStringList told;
+    for (const InstalledEntry& one : installedEntries(events)) {
+        told.append(QString("%1|%2").arg(one.list->title, one.name));
+    }
+    EXPECT_EQ(told, (QStringList{"Start menu|Steam", "Steam|7"}));
+}
+
 TEST(Installed, EveryListIsSearchedByAFinderThatThereIs) {
     for (const InstalledList& one : installedLists()) {
         EXPECT_NE(findFinderType(QLatin1String(one.finder)), nullptr) << one.finder;
