@@ -26,10 +26,12 @@ struct FinderField {
 /// here.
 struct FinderType {
     using Make = std::unique_ptr<IGameFinder> (*)(IGameFinderFactory&, const FinderEntry&);
-    using Questions = std::vector<FinderEntry> (*)(const Inventory&);
+    using Questions = std::vector<FinderEntry> (*)(const FinderType&, const Inventory&);
 
     const char* name;                ///< in the catalogue
     const char* operation;           ///< the factory's operation that makes one
+    const char* index;               ///< the list that it searches, as the trace names it; empty when that has none
+    const char* title;               ///< of what it searches, for people; empty when that is no list
     std::vector<FinderField> fields; ///< numbers may be left out of a catalogue's entry, everything else must be there
     Make make;
 
@@ -43,6 +45,9 @@ const std::vector<FinderType>& finderTypes();
 
 /// The kind of that name; null when there is none.
 const FinderType* findFinderType(const QString& name);
+
+/// The kind that searches the list of that name in the trace; null when there is none.
+const FinderType* finderTypeOfList(const QString& index);
 
 /// A multi finder of at most `mostFinders` entries. Null when the factory gives none; a member that the factory does
 /// not give is left out.

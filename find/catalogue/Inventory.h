@@ -1,7 +1,7 @@
 #pragma once
 
 #include "find/catalogue/Catalogue.h"
-#include "find/catalogue/IndexEntries.h"
+#include "find/catalogue/InstalledEntries.h"
 
 #include <QStringList>
 
@@ -12,7 +12,7 @@ namespace Find {
 /// What finders can be asked for on a PC, as far as it is known.
 struct Inventory {
     std::vector<FinderEntry> catalogue; ///< every finder of the catalogue's games, those within multi finders too
-    IndexEntries lists;                 ///< the plug-in's lists of what is installed
+    std::vector<InstalledEntry> installed;
     QStringList packageFamilies;
     QStringList userChoiceKeys;
 };

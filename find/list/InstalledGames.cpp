@@ -3,6 +3,7 @@
 #include "core/IGameFinderFactory.h"
 #include "find/answers/Plugin.h"
 #include "find/catalogue/CatalogueWriter.h"
+#include "find/catalogue/FinderTypes.h"
 #include "find/explain/PluginTrace.h"
 #include "find/list/Proposer.h"
 #include "find/record/Survey.h"
@@ -17,15 +18,12 @@ namespace Find {
 
 namespace {
 
-/// The user's choices of folders, which the plug-in has no list of.
-const InstalledList userChoices{"", "User's choices", "userProvidedLocation"};
-
 /// Each once: what is in both views of the registry is told twice.
 std::vector<InstalledEntry> withoutDoubles(const std::vector<InstalledEntry>& entries) {
     std::vector<InstalledEntry> once;
     QSet<QString> known;
     for (const InstalledEntry& entry : entries) {
-        const QString key = QStringList{QLatin1String(entry.list->title), entry.name, entry.place}.join(QChar());
+        const QString key = QStringList{QLatin1String(entry.type->name), entry.name, entry.place}.join(QChar());
         if (!known.contains(key)) {
             known.insert(key);
             once.push_back(entry);
@@ -35,11 +33,12 @@ std::vector<InstalledEntry> withoutDoubles(const std::vector<InstalledEntry>& en
 }
 
 std::vector<InstalledEntry> entriesOf(const TraceEvents& events) {
+    const FinderType* const userChoices = findFinderType(QStringLiteral("userProvidedLocation"));
     std::vector<InstalledEntry> entries = installedEntries(events);
     for (const TraceEvent& event : events) {
         const auto* const choice = std::get_if<Trace::UserLocation>(&event);
         if (choice != nullptr && !choice->path.isEmpty()) {
-            entries.push_back({&userChoices, choice->key, choice->path});
+            entries.push_back({userChoices, choice->key, choice->path});
         }
     }
     return withoutDoubles(entries);

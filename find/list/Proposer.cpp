@@ -39,13 +39,12 @@ bool hasExecutables(const FinderType& type) {
 
 /// Where a store keeps the folders of the games, seen from what its list tells.
 QString gamesFolder(const InstalledEntry& entry) {
-    return QLatin1String(entry.list->finder) == QLatin1String("oculusStore")
-               ? folderOf(entry.place) + QStringLiteral("/Software")
-               : entry.place;
+    const bool isOculus = QLatin1String(entry.type->name) == QLatin1String("oculusStore");
+    return isOculus ? folderOf(entry.place) + QStringLiteral("/Software") : entry.place;
 }
 
 bool isOfTheSameLibrary(const InstalledEntry& a, const InstalledEntry& b) {
-    return a.list == b.list && a.place == b.place;
+    return a.type == b.type && a.place == b.place;
 }
 
 } // namespace
@@ -138,9 +137,9 @@ bool Proposer::complete(FinderEntry& question, ListedGame& game) {
 }
 
 ListedGame Proposer::propose(const InstalledEntry& entry) {
-    ListedGame game{entry.name, QLatin1String(entry.list->title), entry.place, {}};
+    ListedGame game{entry.name, QLatin1String(entry.type->title), entry.place, {}};
     FinderEntry question;
-    question.type = findFinderType(QLatin1String(entry.list->finder));
+    question.type = entry.type;
     question.subject = entry.name;
     if (isOf(question, "steam") || isOf(question, "oculusStore")) {
         question.folderName = folderNameFor(entry, question);

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "core/GameLocation.h"
+#include "find/catalogue/InstalledEntries.h"
 #include "find/list/ListedGame.h"
-#include "find/report/Installed.h"
 
 #include <QStringList>
 
-#include <map>
 #include <vector>
 
 class IGameFinderFactory;

@@ -3,7 +3,7 @@
 #include "core/GameLocation.h"
 #include "core/IGameFinderFactory.h"
 #include "find/catalogue/FinderTypes.h"
-#include "find/catalogue/IndexEntries.h"
+#include "find/catalogue/InstalledEntries.h"
 #include "find/catalogue/Inventory.h"
 #include "find/pc/AnsweringPc.h"
 #include "find/record/Probe.h"
@@ -55,7 +55,7 @@ void Questioner::askForNothing() {
 
 void Questioner::askForEverything(const Inventory& inventory) {
     for (const FinderType& type : finderTypes()) {
-        for (const FinderEntry& question : type.questions(inventory)) {
+        for (const FinderEntry& question : type.questions(type, inventory)) {
             ask(type, question);
         }
     }
@@ -83,7 +83,7 @@ void askForTheRest(IGameFinderFactory& factory, const Catalogue& games, const Re
     Questioner questioner(factory, progress);
     questioner.askForNothing();
     questioner.askForEverything(
-        {findersOf(games), IndexEntries(readTrace()), registeredPackageFamilies(), userChoiceKeys()});
+        {findersOf(games), installedEntries(readTrace()), registeredPackageFamilies(), userChoiceKeys()});
 }
 
 } // namespace Find

@@ -30,84 +30,7 @@ QString subjectKey(const char* finder, const QString& subject) {
     return QLatin1String(finder) + QLatin1Char('\n') + Recordings::foldName(subject);
 }
 
-const InstalledList* listOf(const QString& index) {
-    const std::vector<InstalledList>& lists = installedLists();
-    const auto found = std::find_if(lists.begin(), lists.end(),
-                                    [&](const InstalledList& list) { return index == QLatin1String(list.index); });
-    return found == lists.end() ? nullptr : &*found;
-}
-
-/// Reads the entries out of a trace, in its order.
-class EntryReader {
-public:
-    void operator()(const Trace::IndexBegin& event) { m_lists.push_back(listOf(event.name)); }
-
-    void operator()(const Trace::IndexEnd&) {
-        if (!m_lists.empty()) {
-            m_lists.pop_back();
-        }
-    }
-
-    void operator()(const Trace::Entry& event) {
-        if (!m_lists.empty() && m_lists.back() != nullptr) {
-            m_entries.push_back({m_lists.back(), event.name, event.folder});
-        }
-    }
-
-    void operator()(const Trace::Shortcut& event) {
-        if (!event.target.isEmpty()) {
-            m_targets.insert(event.path, event.target);
-        }
-    }
-
-    void operator()(const Trace::Package& event) {
-        if (!event.fullName.isEmpty() && !m_packages.contains(event.family)) {
-            m_packages.insert(event.family);
-            m_entries.push_back({&installedLists().back(), event.family, event.fullName});
-        }
-    }
-
-    template <class OtherEvent>
-    void operator()(const OtherEvent&) {}
-
-    /// With the shortcuts' targets, which are told later than the list of shortcuts.
-    std::vector<InstalledEntry> entries() const {
-        std::vector<InstalledEntry> entries = m_entries;
-        for (InstalledEntry& entry : entries) {
-            entry.place = m_targets.value(entry.place, entry.place);
-        }
-        return entries;
-    }
-
-private:
-    std::vector<const InstalledList*> m_lists; ///< that are being made, the last one for that before it
-    std::vector<InstalledEntry> m_entries;
-    QHash<QString, QString> m_targets;
-    QSet<QString> m_packages;
-};
-
 } // namespace
-
-const std::vector<InstalledList>& installedLists() {
-    static const std::vector<InstalledList> lists = {
-        {"Uninstall", "Uninstall registry", "uninstall"},
-        {"StartMenu", "Start menu", "startMenu"},
-        {"SteamLibraries", "Steam", "steam"},
-        {"EpicManifests", "Epic launcher", "epicStore"},
-        {"OculusLibraries", "Oculus", "oculusStore"},
-        {"GamesExplorer", "Games Explorer", "gameForWindow"},
-        {"", "App packages", "universalApp"},
-    };
-    return lists;
-}
-
-std::vector<InstalledEntry> installedEntries(const TraceEvents& events) {
-    EntryReader reader;
-    for (const TraceEvent& event : events) {
-        std::visit(reader, event);
-    }
-    return reader.entries();
-}
 
 FoundGames::FoundGames(const Catalogue& games, const std::vector<GameAnswer>& answers) {
     for (std::size_t i = 0; i < games.size() && i < answers.size(); ++i) {
@@ -130,7 +53,7 @@ void FoundGames::add(const std::vector<FinderEntry>& finders) {
 }
 
 bool FoundGames::have(const InstalledEntry& entry) const {
-    if (m_subjects.contains(subjectKey(entry.list->finder, entry.name))) {
+    if (m_subjects.contains(subjectKey(entry.type->name, entry.name))) {
         return true;
     }
     for (QString place = foldedPath(entry.place); !place.isEmpty();
@@ -140,8 +63,7 @@ bool FoundGames::have(const InstalledEntry& entry) const {
         }
     }
     return std::any_of(m_parts.begin(), m_parts.end(), [&entry](const FinderEntry& finder) {
-        return QLatin1String(finder.type->name) == QLatin1String(entry.list->finder) &&
-               entry.name.contains(finder.subject, Qt::CaseInsensitive);
+        return finder.type == entry.type && entry.name.contains(finder.subject, Qt::CaseInsensitive);
     });
 }
 
@@ -187,7 +109,7 @@ std::vector<InstalledThing> unclaimed(const std::vector<InstalledEntry>& entries
             known.insert(key, things.size());
             things.push_back({entry.name, {}, entry.place});
         }
-        addLists({QLatin1String(entry.list->title)}, things[known.value(key)]);
+        addLists({QLatin1String(entry.type->title)}, things[known.value(key)]);
     }
     return withPlaces(things);
 }

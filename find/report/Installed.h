@@ -2,7 +2,7 @@
 
 #include "find/answers/Answers.h"
 #include "find/catalogue/Catalogue.h"
-#include "find/explain/TraceReader.h"
+#include "find/catalogue/InstalledEntries.h"
 
 #include <QSet>
 #include <QString>
@@ -11,26 +11,6 @@
 #include <vector>
 
 namespace Find {
-
-/// A list of what is installed: how the trace names it, how people do, and the finders that search it.
-struct InstalledList {
-    const char* index;
-    const char* title;
-    const char* finder;
-};
-
-/// The lists that finders search. App packages, of which the trace has no list, come last.
-const std::vector<InstalledList>& installedLists();
-
-/// One entry of such a list.
-struct InstalledEntry {
-    const InstalledList* list = nullptr; ///< never null in what `installedEntries` gives
-    QString name;                        ///< a title, or an identifier where the list has no titles
-    QString place;                       ///< a folder, or the file that a shortcut leads to; may be empty
-};
-
-/// All entries of all lists, as the trace tells of them.
-std::vector<InstalledEntry> installedEntries(const TraceEvents& events);
 
 /// What the games that were found are known by, to tell whose an entry is.
 class FoundGames {

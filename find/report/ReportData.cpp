@@ -30,12 +30,8 @@ void addTypes(const std::vector<FinderEntry>& finders, QStringList& types) {
 }
 
 QString titleOfList(const QString& index) {
-    for (const InstalledList& list : installedLists()) {
-        if (index == QLatin1String(list.index)) {
-            return QLatin1String(list.title);
-        }
-    }
-    return index;
+    const FinderType* const type = finderTypeOfList(index);
+    return type ? QString::fromLatin1(type->title) : index;
 }
 
 class Gatherer {
@@ -115,7 +111,7 @@ ReportedGame Gatherer::game(const Game& game, const GameSearch& search) const {
 void Gatherer::addSimilar(const Game& game, ReportedGame& reported) const {
     QStringList names;
     for (const InstalledEntry* const entry : m_similar.mentioning(searchWords(game))) {
-        names.append(QStringLiteral("%1: %2").arg(QLatin1String(entry->list->title), entry->name) +
+        names.append(QStringLiteral("%1: %2").arg(QLatin1String(entry->type->title), entry->name) +
                      (entry->place.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(entry->place)));
     }
     names.removeDuplicates();

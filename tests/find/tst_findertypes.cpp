@@ -37,6 +37,25 @@ TEST(FinderTypes, HaveARowForEachCreateOperationOfTheFactory) {
     EXPECT_EQ(operations, createOperations());
 }
 
+/// Or it would be missing in what `list` and reports tell.
+TEST(FinderTypes, SearchEachListThatTheTraceCanTellOf) {
+    QStringList lists;
+    auto matches =
+        QRegularExpression(R"(constexpr const char\* \w+ = "([A-Z]\w+)\";)")
+            .globalMatch(textOf(LURULUDRI_DOCS "/../src/trace/Events.h").section("namespace IndexName", 1, 1));
+    while (matches.hasNext()) {
+        lists.append(matches.next().captured(1));
+    }
+    EXPECT_TRUE(lists.contains("Uninstall")) << "the header is read as it is written";
+    for (const QString& list : lists) {
+        const FinderType* const type = finderTypeOfList(list);
+        ASSERT_NE(type, nullptr) << list.toStdString();
+        EXPECT_STRNE(type->title, "");
+    }
+    EXPECT_EQ(finderTypeOfList("Other"), nullptr);
+    EXPECT_EQ(finderTypeOfList(""), nullptr);
+}
+
 TEST(FinderTypes, AreAllInTheDocumentOfTheCatalogueWithTheirFields) {
     const QString document = textOf(LURULUDRI_DOCS "/catalogue.md");
     for (const FinderType& type : finderTypes()) {

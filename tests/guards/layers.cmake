@@ -27,9 +27,9 @@ set(may_find_catalogue find_pc find_terminal interface recordings trace)
 set(may_find_answers ${may_find_catalogue} find_catalogue)
 set(may_find_explain ${may_find_answers} find_answers)
 set(may_find_record ${may_find_explain} find_explain)
-set(may_find_report ${may_find_record} find_record)
-set(may_find_list ${may_find_report} find_report)
-set(may_find_cli ${may_find_list} find_list)
+set(may_find_list ${may_find_record} find_record)
+set(may_find_report ${may_find_list} find_list)
+set(may_find_cli ${may_find_report} find_report)
 
 # The namespaces of the headers of a layer.
 set(namespace_platform Platform)

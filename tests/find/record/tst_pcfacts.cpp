@@ -1,6 +1,5 @@
 #include "TestTrace.h"
 
-#include "find/catalogue/IndexEntries.h"
 #include "find/record/PcFacts.h"
 #include "recordings/WindowsNames.h"
 
@@ -57,25 +56,6 @@ TEST(PcFacts, HavePackagesOnceAndWhereOneLooksForThem) {
                                       Recordings::RegistryView::Bits64);
     EXPECT_EQ(Recordings::Registry::subKeys(key),
               (std::vector<QString>{"Maker.Game_1_x64__abc", "Maker.Lib_1_x64__abc"}));
-}
-
-TEST(IndexEntries, AreThoseOfTheirList) {
-    using Trace::Entry;
-    const Find::IndexEntries entries(
-        {Entry{"lost", "0"}, Trace::IndexBegin{"SteamLibraries"}, Trace::FinderBegin{1}, Entry{"1", "D:/a"},
-         Entry{"2", "D:/a"}, Entry{"1", "D:/b"}, Trace::IndexEnd{"SteamLibraries", 3}, Entry{"lost", "0"},
-         Trace::IndexBegin{"EpicManifests"}, Entry{"epic", "E:/"}, Trace::IndexEnd{"EpicManifests", 1}});
-    const auto texts = [](const std::vector<Find::IndexEntry>& list) {
-        QStringList lines;
-        for (const Find::IndexEntry& one : list) {
-            lines.append(one.name + '@' + one.folder);
-        }
-        return lines;
-    };
-    EXPECT_EQ(texts(entries.of("SteamLibraries")), (QStringList{"1@D:/a", "2@D:/a"})) << "each name once";
-    EXPECT_EQ(texts(entries.onePerFolder("SteamLibraries")), (QStringList{"1@D:/a", "1@D:/b"}));
-    EXPECT_EQ(texts(entries.of("EpicManifests")), QStringList{"epic@E:/"});
-    EXPECT_EQ(texts(entries.of("StartMenu")), QStringList());
 }
 
 } // namespace

@@ -13,18 +13,8 @@ using namespace Find;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const InstalledList& list(const char* finder) {
-    for (const InstalledList& one : installedLists()) {
-        if (QLatin1String(one.finder) == QLatin1String(finder)) {
-            return one;
-        }
-    }
-    ADD_FAILURE() << finder;
-    return installedLists().front();
-}
-
 InstalledEntry entry(const char* finder, const QString& name, const QString& place) {
-    return {&list(finder), name, place};
+    return {findFinderType(QLatin1String(finder)), name, place};
 }
 
 FinderEntry finder(const char* type, const QString& subject, int matchMode = 0) {
@@ -46,50 +36,6 @@ QStringList unclaimedNames(const std::vector<InstalledEntry>& entries, const Fou
         names.append(thing.name);
     }
     return names;
-}
-
-TEST(Installed, AreTheEntriesOfAllListsAndTheAppPackages) {
-    const TraceEvents events = {
-        Trace::Entry{"in no list", ""},
-        Trace::IndexBegin{"Uninstall"},
-        Trace::Entry{"Käfer", "D:\\Käfer"},
-        Trace::IndexEnd{"Uninstall", 1},
-        Trace::Entry{"behind", ""},
-        Trace::IndexBegin{"StartMenu"},
-        Trace::Entry{"Wal", "C:\\Menu\\Wal.lnk"},
-        Trace::Entry{"Los", "C:\\Menu\\Los.lnk"},
-        Trace::IndexEnd{"StartMenu", 2},
-        Trace::Shortcut{"C:\\Menu\\Wal.lnk", "C:\\Wal\\wal.exe"},
-        Trace::Shortcut{"C:\\Menu\\Los.lnk", ""},
-        Trace::Package{"Maker.Game_x", true, "Maker.Game_1_x64__x", {}},
-        Trace::Package{"Maker.Game_x", true, "Maker.Game_1_x64__x", {}},
-        Trace::Package{"Maker.None_x", true, "", {}},
-    };
-    QStringList told;
-    for (const InstalledEntry& one : installedEntries(events)) {
-        told.append(QString("%1|%2|%3").arg(one.list->title, one.name, one.place));
-    }
-    EXPECT_EQ(told, (QStringList{"Uninstall registry|Käfer|D:\\Käfer", "Start menu|Wal|C:\\Wal\\wal.exe",
-                                 "Start menu|Los|C:\\Menu\\Los.lnk", "App packages|Maker.Game_x|Maker.Game_1_x64__x"}));
-}
-
-TEST(Installed, AListKeepsTheEntriesBehindAListThatIsMadeWithinIt) {
-    const TraceEvents events = {
-        Trace::IndexBegin{"SteamLibraries"}, Trace::IndexBegin{"StartMenu"},  Trace::Entry{"Steam", "C:\\Steam"},
-        Trace::IndexEnd{"StartMenu", 1},     Trace::Entry{"7", "D:\\common"}, Trace::IndexEnd{"SteamLibraries", 1},
-        Trace::Entry{"in no list", ""},
-    };
-    QStringList told;
-    for (const InstalledEntry& one : installedEntries(events)) {
-        told.append(QString("%1|%2").arg(one.list->title, one.name));
-    }
-    EXPECT_EQ(told, (QStringList{"Start menu|Steam", "Steam|7"}));
-}
-
-TEST(Installed, EveryListIsSearchedByAFinderThatThereIs) {
-    for (const InstalledList& one : installedLists()) {
-        EXPECT_NE(findFinderType(QLatin1String(one.finder)), nullptr) << one.finder;
-    }
 }
 
 TEST(Installed, WhatLiesInTheFolderOfAGameThatWasFoundIsOfTheGame) {
