@@ -1,6 +1,7 @@
 #include "find/cli/ReportCommand.h"
 
 #include "find/cli/CommandLine.h"
+#include "find/list/InstalledGames.h"
 #include "find/record/NeutralRecording.h"
 #include "find/record/OutputFile.h"
 #include "find/record/RecordingSummary.h"
@@ -43,12 +44,16 @@ MadeReport makeReport(const Options& options, const Catalogue& games, const Reco
     if (!made.fault.isEmpty()) {
         return made;
     }
-    const Survey survey = surveyPc(options.plugin, games, made.fault);
+    std::vector<InstalledEntry> shown;
+    const auto askForNames = [&shown](IGameFinderFactory& factory, PluginTrace& trace, const Survey& survey) {
+        shown = shownEntries(factory, trace, installedEntries(survey.events));
+    };
+    const Survey survey = surveyPc(options.plugin, games, made.fault, askForNames);
     if (!made.fault.isEmpty()) {
         return made;
     }
     const NeutralRecording recording = makeRecording(survey.events, games, options.keepNames, chosen);
-    const ReportData data = gatherReport(survey, games, recording, problems);
+    const ReportData data = gatherReport(survey, shown, games, recording, problems);
     made.fault = file.write(renderReportPage(data, originOf(options, file), Recordings::renderPcFile(recording.pc)));
     made.file = file.name();
     made.summary = describe(data, recording, file, options.keepNames);

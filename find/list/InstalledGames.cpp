@@ -1,18 +1,13 @@
 #include "find/list/InstalledGames.h"
 
-#include "core/IGameFinderFactory.h"
-#include "find/answers/Plugin.h"
 #include "find/catalogue/CatalogueWriter.h"
 #include "find/catalogue/FinderTypes.h"
-#include "find/explain/PluginTrace.h"
 #include "find/list/Proposer.h"
 #include "find/record/Survey.h"
 #include "find/terminal/OneLine.h"
 #include "find/terminal/Progress.h"
 
 #include <QSet>
-
-#include <new>
 
 namespace Find {
 
@@ -71,20 +66,25 @@ std::vector<ListedGame> proposeAll(IGameFinderFactory& factory, PluginTrace& tra
 } // namespace
 
 std::vector<ListedGame> installedGames(const QString& pluginFile, QString& fault) {
-    const Survey survey = surveyPc(pluginFile, {}, fault);
-    if (!fault.isEmpty()) {
-        return {};
+    std::vector<ListedGame> games;
+    surveyPc(pluginFile, {}, fault, [&games](IGameFinderFactory& factory, PluginTrace& trace, const Survey& survey) {
+        games = proposeAll(factory, trace, entriesOf(survey.events));
+    });
+    return games;
+}
+
+std::vector<InstalledEntry> shownEntries(IGameFinderFactory& factory, PluginTrace& trace,
+                                         std::vector<InstalledEntry> entries) {
+    const std::vector<InstalledEntry> all = entries;
+    Proposer proposer(factory, trace, all);
+    for (InstalledEntry& entry : entries) {
+        if (isOfLibrary(entry)) {
+            const ListedGame game = proposer.propose(entry);
+            entry.name = game.name;
+            entry.place = game.folder;
+        }
     }
-    PluginTrace trace;
-    Plugin plugin(pluginFile);
-    try {
-        const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault);
-        return factory ? proposeAll(*factory, trace, entriesOf(survey.events)) : std::vector<ListedGame>();
-    } catch (const std::bad_alloc&) {
-        // Here and not further out: what the plug-in throws is destroyed by code of the plug-in.
-        fault = QStringLiteral("out of memory");
-        return {};
-    }
+    return entries;
 }
 
 } // namespace Find

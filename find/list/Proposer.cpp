@@ -27,8 +27,9 @@ QString folderOf(const QString& path) {
     return path.left(std::max(path.size() - fileNameOf(path).size() - 1, 0));
 }
 
-bool isOf(const FinderEntry& finder, const char* type) {
-    return finder.type == findFinderType(QLatin1String(type));
+template <class Entry>
+bool isOf(const Entry& entry, const char* type) {
+    return entry.type == findFinderType(QLatin1String(type));
 }
 
 bool hasExecutables(const FinderType& type) {
@@ -39,8 +40,7 @@ bool hasExecutables(const FinderType& type) {
 
 /// Where a store keeps the folders of the games, seen from what its list tells.
 QString gamesFolder(const InstalledEntry& entry) {
-    const bool isOculus = QLatin1String(entry.type->name) == QLatin1String("oculusStore");
-    return isOculus ? folderOf(entry.place) + QStringLiteral("/Software") : entry.place;
+    return isOf(entry, "oculusStore") ? folderOf(entry.place) + QStringLiteral("/Software") : entry.place;
 }
 
 bool isOfTheSameLibrary(const InstalledEntry& a, const InstalledEntry& b) {
@@ -48,6 +48,10 @@ bool isOfTheSameLibrary(const InstalledEntry& a, const InstalledEntry& b) {
 }
 
 } // namespace
+
+bool isOfLibrary(const InstalledEntry& entry) {
+    return isOf(entry, "steam") || isOf(entry, "oculusStore");
+}
 
 Proposer::Proposer(IGameFinderFactory& factory, PluginTrace& trace, const std::vector<InstalledEntry>& entries)
     : m_factory(factory)
@@ -141,7 +145,7 @@ ListedGame Proposer::propose(const InstalledEntry& entry) {
     FinderEntry question;
     question.type = entry.type;
     question.subject = entry.name;
-    if (isOf(question, "steam") || isOf(question, "oculusStore")) {
+    if (isOfLibrary(entry)) {
         question.folderName = folderNameFor(entry, question);
         const QString title = isOf(question, "steam") ? readSteamManifest(entry.place, entry.name).name : QString();
         game.name = !title.isEmpty() ? title : !question.folderName.isEmpty() ? question.folderName : entry.name;

@@ -14,6 +14,9 @@ namespace Find {
 
 class PluginTrace;
 
+/// Whether the entry is of a store's library: its name is an identifier, and its place the library's.
+bool isOfLibrary(const InstalledEntry& entry);
+
 /// Makes up finders for what is installed. Each is tried: what is proposed has found the thing on this PC.
 class Proposer {
 public:

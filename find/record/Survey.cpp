@@ -65,29 +65,29 @@ private:
     Survey& m_survey;
 };
 
-QString askPlugin(Plugin& plugin, const Catalogue& games, PluginTrace& trace, Survey& survey) {
-    QString fault;
-    const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault);
-    if (factory) {
-        Progress progress(QStringLiteral("asking"));
-        Surveyor surveyor(*factory, trace, survey);
-        surveyor.askForGames(games, progress);
-        surveyor.askForRuntimes();
-        askForTheRest(
-            *factory, games, [&surveyor]() -> const TraceEvents& { return surveyor.events(); }, progress);
-        surveyor.events();
-    }
-    return fault;
+void askAll(IGameFinderFactory& factory, const Catalogue& games, PluginTrace& trace, Survey& survey) {
+    Progress progress(QStringLiteral("asking"));
+    Surveyor surveyor(factory, trace, survey);
+    surveyor.askForGames(games, progress);
+    surveyor.askForRuntimes();
+    askForTheRest(
+        factory, games, [&surveyor]() -> const TraceEvents& { return surveyor.events(); }, progress);
+    surveyor.events();
 }
 
 } // namespace
 
-Survey surveyPc(const QString& pluginFile, const Catalogue& games, QString& fault) {
+Survey surveyPc(const QString& pluginFile, const Catalogue& games, QString& fault, const MoreQuestions& askMore) {
     Survey survey;
     PluginTrace trace;
     Plugin plugin(pluginFile);
     try {
-        fault = askPlugin(plugin, games, trace, survey);
+        if (const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault)) {
+            askAll(*factory, games, trace, survey);
+            if (askMore) {
+                askMore(*factory, trace, survey);
+            }
+        }
     } catch (const std::bad_alloc&) {
         // Here and not further out: what the plug-in throws is destroyed by code of the plug-in.
         fault = QStringLiteral("out of memory");

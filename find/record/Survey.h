@@ -6,9 +6,14 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
+class IGameFinderFactory;
+
 namespace Find {
+
+class PluginTrace;
 
 /// What came of the search for one game: the answer, and which of the survey's events were told meanwhile.
 struct GameSearch {
@@ -25,7 +30,10 @@ struct Survey {
     TraceEvents events;
 };
 
+/// What is asked of the plug-in besides, once the survey is complete.
+using MoreQuestions = std::function<void(IGameFinderFactory&, PluginTrace&, const Survey&)>;
+
 /// Asks the plug-in in this file, which is unloaded afterwards. Says in `fault` why it gave no answers.
-Survey surveyPc(const QString& pluginFile, const Catalogue& games, QString& fault);
+Survey surveyPc(const QString& pluginFile, const Catalogue& games, QString& fault, const MoreQuestions& askMore = {});
 
 } // namespace Find

@@ -97,11 +97,13 @@ std::vector<InstalledThing> withPlaces(const std::vector<InstalledThing>& things
 
 } // namespace
 
-std::vector<InstalledThing> unclaimed(const std::vector<InstalledEntry>& entries, const FoundGames& games) {
+std::vector<InstalledThing> unclaimed(const std::vector<InstalledEntry>& entries,
+                                      const std::vector<InstalledEntry>& shown, const FoundGames& games) {
     std::vector<InstalledThing> things;
     QHash<QString, std::size_t> known;
-    for (const InstalledEntry& entry : entries) {
-        if (games.have(entry)) {
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const InstalledEntry& entry = shown[i];
+        if (games.have(entries[i]) || games.have(entry)) {
             continue;
         }
         const QString key = Recordings::foldName(entry.name) + QLatin1Char('\n') + foldedPath(entry.place);

@@ -36,7 +36,9 @@ struct InstalledThing {
     QString place;
 };
 
-/// What is installed and belongs to none of the games that were found.
-std::vector<InstalledThing> unclaimed(const std::vector<InstalledEntry>& entries, const FoundGames& games);
+/// What is installed and belongs to none of the games that were found. `shown` are the same entries with the names and
+/// places that people know them by.
+std::vector<InstalledThing> unclaimed(const std::vector<InstalledEntry>& entries,
+                                      const std::vector<InstalledEntry>& shown, const FoundGames& games);
 
 } // namespace Find

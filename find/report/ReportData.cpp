@@ -36,8 +36,10 @@ QString titleOfList(const QString& index) {
 
 class Gatherer {
 public:
-    Gatherer(const Survey& survey, const Catalogue& games, const NeutralRecording& recording)
+    Gatherer(const Survey& survey, const std::vector<InstalledEntry>& shown, const Catalogue& games,
+             const NeutralRecording& recording)
         : m_survey(survey)
+        , m_shown(shown)
         , m_games(games)
         , m_recording(recording)
         , m_entries(installedEntries(entryEvents()))
@@ -60,6 +62,7 @@ private:
     std::size_t endOfList(std::size_t begin) const;
 
     const Survey& m_survey;
+    const std::vector<InstalledEntry>& m_shown;
     const Catalogue& m_games;
     const NeutralRecording& m_recording;
     std::vector<InstalledEntry> m_entries;
@@ -134,7 +137,12 @@ std::vector<InstalledThing> Gatherer::others() const {
         games.push_back(neutralGame(m_games[i], m_recording.neutral));
         answers.push_back(neutralAnswer(m_survey.searches[i].answer, m_recording.neutral));
     }
-    return unclaimed(m_entries, FoundGames(games, answers));
+    std::vector<InstalledEntry> shown = m_shown;
+    for (InstalledEntry& entry : shown) {
+        entry.name = m_recording.neutral.text(entry.name);
+        entry.place = m_recording.neutral.text(entry.place);
+    }
+    return unclaimed(m_entries, shown, FoundGames(games, answers));
 }
 
 /// The type of the innermost finder that found the game.
@@ -208,9 +216,9 @@ QStringList Gatherer::loggedErrors() const {
 
 } // namespace
 
-ReportData gatherReport(const Survey& survey, const Catalogue& games, const NeutralRecording& recording,
-                        const QStringList& problems) {
-    const Gatherer gatherer(survey, games, recording);
+ReportData gatherReport(const Survey& survey, const std::vector<InstalledEntry>& shown, const Catalogue& games,
+                        const NeutralRecording& recording, const QStringList& problems) {
+    const Gatherer gatherer(survey, shown, games, recording);
     ReportData data;
     data.games = gatherer.games();
     data.runtimes = gatherer.runtimes();

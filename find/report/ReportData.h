@@ -45,8 +45,9 @@ struct ReportData {
     QStringList neutralFolders;           ///< the same, as folders of users only
 };
 
-/// Gathers a report. `problems` are the faults of the recorded PC that was asked.
-ReportData gatherReport(const Survey& survey, const Catalogue& games, const NeutralRecording& recording,
-                        const QStringList& problems);
+/// Gathers a report. `shown` are the survey's entries as people know them, `problems` the faults of the recorded PC
+/// that was asked.
+ReportData gatherReport(const Survey& survey, const std::vector<InstalledEntry>& shown, const Catalogue& games,
+                        const NeutralRecording& recording, const QStringList& problems);
 
 } // namespace Find

@@ -4,14 +4,11 @@
 #include "find/catalogue/FinderTypes.h"
 #include "find/report/SimilarNames.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace Find;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 InstalledEntry entry(const char* finder, const QString& name, const QString& place) {
     return {findFinderType(QLatin1String(finder)), name, place};
@@ -32,7 +29,7 @@ GameAnswer foundIn(const QString& folder) {
 /// The names of those that are not of the games.
 QStringList unclaimedNames(const std::vector<InstalledEntry>& entries, const FoundGames& games) {
     QStringList names;
-    for (const InstalledThing& thing : unclaimed(entries, games)) {
+    for (const InstalledThing& thing : unclaimed(entries, entries, games)) {
         names.append(thing.name);
     }
     return names;
@@ -62,7 +59,7 @@ TEST(Installed, AFinderWithinAMultiFinderCountsAsWell) {
     multi.type = findFinderType(QLatin1String("multi"));
     multi.finders = {finder("epicStore", "Wal")};
     const FoundGames games({{"x", {multi}}}, {foundIn("E:\\x")});
-    EXPECT_THAT(unclaimed({entry("epicStore", "Wal", "D:\\Wal")}, games), IsEmpty());
+    EXPECT_EQ(unclaimedNames({entry("epicStore", "Wal", "D:\\Wal")}, games), QStringList());
 }
 
 TEST(Installed, AGameThatWasNotFoundHasNothing) {
@@ -72,18 +69,30 @@ TEST(Installed, AGameThatWasNotFoundHasNothing) {
 }
 
 TEST(Installed, EntriesOfTheSameThingAreOne) {
-    const std::vector<InstalledThing> things =
-        unclaimed({entry("uninstall", "Wal", ""), entry("startMenu", "wal", "D:\\Wal\\wal.exe"),
-                   entry("epicStore", "Wal", "D:\\Wal"), entry("gameForWindow", "WAL", "d:/wal"),
-                   entry("uninstall", "Los", ""), entry("startMenu", "Los", "")},
-                  FoundGames({}, {}));
+    const std::vector<InstalledEntry> entries = {
+        entry("uninstall", "Wal", ""),        entry("startMenu", "wal", "D:\\Wal\\wal.exe"),
+        entry("epicStore", "Wal", "D:\\Wal"), entry("gameForWindow", "WAL", "d:/wal"),
+        entry("uninstall", "Los", ""),        entry("startMenu", "Los", "")};
     QStringList told;
-    for (const InstalledThing& thing : things) {
+    for (const InstalledThing& thing : unclaimed(entries, entries, FoundGames({}, {}))) {
         told.append(QString("%1|%2|%3").arg(thing.name, thing.lists.join(','), thing.place));
     }
     EXPECT_EQ(told, (QStringList{"wal|Start menu|D:\\Wal\\wal.exe",
                                  "Wal|Epic launcher,Games Explorer,Uninstall registry|D:\\Wal",
                                  "Los|Uninstall registry,Start menu|"}));
+}
+
+TEST(Installed, BearTheNamesThatPeopleKnow) {
+    const std::vector<InstalledEntry> entries = {entry("steam", "7", "D:\\common"), entry("steam", "8", "D:\\common"),
+                                                 entry("steam", "9", "D:\\common")};
+    const std::vector<InstalledEntry> shown = {entry("steam", "Wal", "D:\\common\\Wal"),
+                                               entry("steam", "Hai", "D:\\common\\Hai"),
+                                               entry("steam", "Aal", "D:\\common\\Aal")};
+    const FoundGames games({{"x", {finder("steam", "8")}}, {"y", {}}}, {foundIn("E:\\x"), foundIn("D:/common/Aal")});
+    const std::vector<InstalledThing> things = unclaimed(entries, shown, games);
+    ASSERT_EQ(things.size(), 1U) << "one is looked for by its number, and one lies in a game's folder";
+    EXPECT_EQ(things[0].name, "Wal");
+    EXPECT_EQ(things[0].place, "D:\\common\\Wal");
 }
 
 class SimilarNamesTest : public ::testing::Test {
