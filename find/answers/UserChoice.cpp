@@ -13,20 +13,14 @@ namespace Find {
 namespace {
 
 /// Finders in the order in which they are asked, without multi finders.
-void addAsked(const std::vector<FinderEntry>& finders, std::vector<FinderEntry>& asked) {
+std::vector<FinderEntry> askedFor(const Game& game) {
     static const FinderType* const multi = findFinderType(QStringLiteral("multi"));
-    for (const FinderEntry& finder : finders) {
-        if (finder.type == multi) {
-            addAsked(finder.finders, asked);
-        } else {
+    std::vector<FinderEntry> asked;
+    forEachFinder(game.finders, [&asked](const FinderEntry& finder) {
+        if (finder.type != multi) {
             asked.push_back(finder);
         }
-    }
-}
-
-std::vector<FinderEntry> askedFor(const Game& game) {
-    std::vector<FinderEntry> asked;
-    addAsked(game.finders, asked);
+    });
     return asked;
 }
 
@@ -35,12 +29,16 @@ bool asksForChoice(const FinderEntry& finder) {
     return finder.type == userProvided;
 }
 
+bool asksForChoice(const FinderEntry& finder, const QString& key) {
+    return asksForChoice(finder) && isSameUserChoice(finder.subject.trimmed(), key.trimmed());
+}
+
 /// All finders that ask for the user's choice under this key.
 std::vector<FinderEntry> findersFor(const Catalogue& games, const QString& key) {
     std::vector<FinderEntry> finders;
     for (const Game& game : games) {
         for (const FinderEntry& finder : askedFor(game)) {
-            if (asksForChoice(finder) && isSameUserChoice(finder.subject.trimmed(), key.trimmed())) {
+            if (asksForChoice(finder, key)) {
                 finders.push_back(finder);
             }
         }
@@ -79,9 +77,8 @@ std::vector<ShutOut> shutOutBy(const Catalogue& games, const QString& key) {
     std::vector<ShutOut> all;
     for (const Game& game : games) {
         std::vector<FinderEntry> asked = askedFor(game);
-        const auto choice = std::find_if(asked.begin(), asked.end(), [&key](const FinderEntry& finder) {
-            return asksForChoice(finder) && isSameUserChoice(finder.subject.trimmed(), key.trimmed());
-        });
+        const auto choice = std::find_if(asked.begin(), asked.end(),
+                                         [&key](const FinderEntry& finder) { return asksForChoice(finder, key); });
         if (choice != asked.end() && std::next(choice) != asked.end()) {
             all.push_back({game.name, {std::next(choice), asked.end()}});
         }

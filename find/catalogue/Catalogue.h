@@ -52,6 +52,15 @@ std::optional<Catalogue> readCatalogue(const QString& file, CatalogueFaults& fau
 /// No value when a name is not in the catalogue; `unknown` is then that name.
 std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringList& names, QString& unknown);
 
+/// Visits each finder, those within a multi finder behind it.
+template <class Visit>
+void forEachFinder(const std::vector<FinderEntry>& finders, const Visit& visit) {
+    for (const FinderEntry& finder : finders) {
+        visit(finder);
+        forEachFinder(finder.finders, visit);
+    }
+}
+
 /// The games' names, in the catalogue's order.
 QStringList namesOf(const Catalogue& catalogue);
 

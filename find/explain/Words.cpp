@@ -24,15 +24,12 @@ void addWords(const QString& text, QStringList& words) {
     }
 }
 
-void addWords(const std::vector<FinderEntry>& finders, QStringList& words) {
-    for (const FinderEntry& finder : finders) {
-        // The last part of a folder; those before it are of other games, too.
-        QString subject = finder.subject;
-        subject.replace(QLatin1Char('/'), QLatin1Char('\\'));
-        addWords(subject.mid(subject.lastIndexOf(QLatin1Char('\\')) + 1), words);
-        addWords(finder.folderName, words);
-        addWords(finder.finders, words);
-    }
+void addWords(const FinderEntry& finder, QStringList& words) {
+    // The last part of a folder; those before it are of other games, too.
+    QString subject = finder.subject;
+    subject.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    addWords(subject.mid(subject.lastIndexOf(QLatin1Char('\\')) + 1), words);
+    addWords(finder.folderName, words);
 }
 
 } // namespace
@@ -40,7 +37,7 @@ void addWords(const std::vector<FinderEntry>& finders, QStringList& words) {
 QStringList searchWords(const Game& game) {
     QStringList words;
     addWords(game.name, words);
-    addWords(game.finders, words);
+    forEachFinder(game.finders, [&words](const FinderEntry& finder) { addWords(finder, words); });
     return words;
 }
 

@@ -175,16 +175,13 @@ QString pathOf(const TraceEvent& event) {
     return read ? read->path : QString();
 }
 
-void addWordsOf(const std::vector<FinderEntry>& finders, QStringList& words) {
+void addWordsOf(const FinderEntry& finder, QStringList& words) {
     static const FinderType* const folder = findFinderType(QStringLiteral("folder"));
-    for (const FinderEntry& finder : finders) {
-        addWordsOf(finder.finders, words);
-        if (finder.type != folder) { // a folder's path is one of this PC, with its names
-            words.append(finder.subject);
-        }
-        words += finder.executables;
-        words.append(finder.folderName);
+    if (finder.type != folder) { // a folder's path is one of this PC, with its names
+        words.append(finder.subject);
     }
+    words += finder.executables;
+    words.append(finder.folderName);
 }
 
 } // namespace
@@ -193,7 +190,7 @@ QStringList askedWords(const TraceEvents& events, const Catalogue& games, const 
                        const QString& profilesFolder) {
     QStringList words;
     for (const Game& game : games) {
-        addWordsOf(game.finders, words);
+        forEachFinder(game.finders, [&words](const FinderEntry& finder) { addWordsOf(finder, words); });
     }
     const QSet<QString> listed = listedKeys(events);
     KnownPaths known(pc);

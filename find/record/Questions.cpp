@@ -61,17 +61,10 @@ void Questioner::askForEverything(const Inventory& inventory) {
     }
 }
 
-void addAll(const std::vector<FinderEntry>& finders, std::vector<FinderEntry>& all) {
-    for (const FinderEntry& finder : finders) {
-        all.push_back(finder);
-        addAll(finder.finders, all);
-    }
-}
-
 std::vector<FinderEntry> findersOf(const Catalogue& games) {
     std::vector<FinderEntry> all;
     for (const Game& game : games) {
-        addAll(game.finders, all);
+        forEachFinder(game.finders, [&all](const FinderEntry& finder) { all.push_back(finder); });
     }
     return all;
 }

@@ -36,19 +36,16 @@ FoundGames::FoundGames(const Catalogue& games, const std::vector<GameAnswer>& an
     for (std::size_t i = 0; i < games.size() && i < answers.size(); ++i) {
         if (answers[i].found) {
             m_folders.insert(foldedPath(answers[i].location.installFolder));
-            add(games[i].finders);
+            forEachFinder(games[i].finders, [this](const FinderEntry& finder) { add(finder); });
         }
     }
 }
 
-void FoundGames::add(const std::vector<FinderEntry>& finders) {
+void FoundGames::add(const FinderEntry& finder) {
     constexpr int isPartOfName = 1;
-    for (const FinderEntry& finder : finders) {
-        add(finder.finders);
-        m_subjects.insert(subjectKey(finder.type->name, finder.subject));
-        if (finder.matchMode == isPartOfName && !finder.subject.isEmpty()) {
-            m_parts.push_back(finder);
-        }
+    m_subjects.insert(subjectKey(finder.type->name, finder.subject));
+    if (finder.matchMode == isPartOfName && !finder.subject.isEmpty()) {
+        m_parts.push_back(finder);
     }
 }
 

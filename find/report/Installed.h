@@ -22,7 +22,7 @@ public:
     bool have(const InstalledEntry& entry) const;
 
 private:
-    void add(const std::vector<FinderEntry>& finders);
+    void add(const FinderEntry& finder);
 
     QSet<QString> m_folders;          ///< folded
     QSet<QString> m_subjects;         ///< finder and what it searches for, folded

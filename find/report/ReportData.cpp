@@ -19,14 +19,15 @@ constexpr std::size_t mostSimilar = 10;
 constexpr int mostLines = 1000; ///< of how a list was made; whoever wants more replays the report
 
 /// The types of all finders, each once.
-void addTypes(const std::vector<FinderEntry>& finders, QStringList& types) {
-    for (const FinderEntry& finder : finders) {
-        addTypes(finder.finders, types);
-        const QString type = QLatin1String(finder.type->name);
-        if (finder.finders.empty() && !types.contains(type)) {
-            types.append(type);
+QStringList typesOf(const std::vector<FinderEntry>& finders) {
+    QStringList types;
+    forEachFinder(finders, [&types](const FinderEntry& finder) {
+        if (finder.finders.empty()) {
+            types.append(QLatin1String(finder.type->name));
         }
-    }
+    });
+    types.removeDuplicates();
+    return types;
 }
 
 QString titleOfList(const QString& index) {
@@ -105,7 +106,7 @@ ReportedGame Gatherer::game(const Game& game, const GameSearch& search) const {
         reported.finders = QStringList{finderThatFound(game, search)};
         return reported;
     }
-    addTypes(game.finders, reported.finders);
+    reported.finders = typesOf(game.finders);
     reported.explanation = explainSearch(game, neutralEvents(search.firstEvent, search.endOfEvents));
     addSimilar(game, reported);
     return reported;
