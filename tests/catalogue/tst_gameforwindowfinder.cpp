@@ -1,15 +1,12 @@
 #include "catalogue/GameForWindowFinder.h"
 
 #include "catalogue/GamesExplorerIndex.h"
-#include "core/GameLocation.h"
-#include "support/Logger.h"
 
 #include "common/AtOnce.h"
 #include "common/Games.h"
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -22,16 +19,13 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class GameForWindowFinderTest : public ::testing::Test {
+class GameForWindowFinderTest : public FinderTest {
 protected:
     bool find(const QString& title, const QStringList& executables) {
         return Finders::GameForWindowFinder(&logger, &index, title, executables).find(location);
     }
 
-    TestPc pc;
-    Logger logger = Logger::create("Test");
     GamesExplorerIndex index;
-    GameLocation location = usedLocation();
 };
 
 TEST_F(GameForWindowFinderTest, TheRegisteredExecutableWinsOutright) {

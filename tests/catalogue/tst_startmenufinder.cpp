@@ -1,11 +1,9 @@
 #include "catalogue/StartMenuFinder.h"
 
 #include "catalogue/StartMenuIndex.h"
-#include "support/Logger.h"
 
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 #include "platform/Folders.h"
 
 #include <gmock/gmock.h>
@@ -16,7 +14,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class StartMenuFinderTest : public ::testing::Test {
+class StartMenuFinderTest : public FinderTest {
 protected:
     StartMenuFinderTest() {
         pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
@@ -33,10 +31,6 @@ protected:
         pc.file(target);
         pc.shortcut(path, target);
     }
-
-    TestPc pc;
-    Logger logger = Logger::create("Test");
-    GameLocation location = usedLocation();
 };
 
 TEST_F(StartMenuFinderTest, FindsAProgramByItsShortcut) {

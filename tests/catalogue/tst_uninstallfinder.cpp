@@ -1,14 +1,12 @@
 #include "catalogue/UninstallFinder.h"
 
 #include "catalogue/UninstallIndex.h"
-#include "support/Logger.h"
 #include "support/Paths.h"
 
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
 #include "common/TraceLog.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 #include "platform/Registry.h"
 
 #include <gmock/gmock.h>
@@ -20,19 +18,12 @@ using Platform::RootKey;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class UninstallFinderTest : public ::testing::Test {
+class UninstallFinderTest : public FinderTest {
 protected:
     bool find(const QString& name, const QStringList& executables, int matchMode = 0) {
         UninstallIndex index;
         return Finders::UninstallFinder(&logger, &index, name, executables, matchMode).find(location);
     }
-
-    /// What a failed search leaves in the location.
-    static GameLocation failedIn(const QString& folder) { return {{}, {}, {}, folder, false}; }
-
-    TestPc pc;
-    Logger logger = Logger::create("Test");
-    GameLocation location = usedLocation();
 };
 
 TEST_F(UninstallFinderTest, FindsEveryExecutableInTheInstallLocation) {

@@ -1,11 +1,7 @@
 #include "core/FolderFinder.h"
 
-#include "core/GameLocation.h"
-#include "support/Logger.h"
-
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,15 +14,11 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class FolderFinderTest : public ::testing::Test {
+class FolderFinderTest : public FinderTest {
 protected:
     bool find(const QString& folder, const QStringList& executables) {
         return Finders::FolderFinder(&logger, folder, executables).find(location);
     }
-
-    TestPc pc;
-    Logger logger = Logger::create("Test");
-    GameLocation location = usedLocation();
 };
 
 TEST_F(FolderFinderTest, FindsEveryExecutableInTheOrderGiven) {

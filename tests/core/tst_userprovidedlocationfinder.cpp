@@ -1,14 +1,11 @@
 #include "core/UserProvidedLocationFinder.h"
 
-#include "core/GameLocation.h"
 #include "core/MultiFinder.h"
 #include "platform/Settings.h"
-#include "support/Logger.h"
 
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 #include "core/ScriptedFinder.h"
 
 #include <gmock/gmock.h>
@@ -22,7 +19,7 @@ using ::testing::IsEmpty;
 const QString installFolder = "D:/Steam/steamapps/common/SteamVR";
 const QString server = "bin\\win64\\vrserver.exe";
 
-class UserProvidedLocationFinderTest : public ::testing::Test {
+class UserProvidedLocationFinderTest : public FinderTest {
 protected:
     ~UserProvidedLocationFinderTest() override {
         for (const QString& key : settings()->allKeys()) {
@@ -46,10 +43,6 @@ protected:
         finder("K", executables).setUserLocation(path);
         return stored("K");
     }
-
-    TestPc pc;
-    Logger logger = Logger::create("Test");
-    GameLocation location = usedLocation();
 };
 
 TEST_F(UserProvidedLocationFinderTest, FindsEveryExecutableInTheRememberedFolder) {

@@ -2,12 +2,10 @@
 
 #include "catalogue/UninstallIndex.h"
 #include "steam/SteamLibraryIndex.h"
-#include "support/Logger.h"
 
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 #include "platform/Folders.h"
 #include "platform/Registry.h"
 
@@ -19,7 +17,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class SteamFinderTest : public ::testing::Test {
+class SteamFinderTest : public FinderTest {
 protected:
     SteamFinderTest() {
         pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
@@ -44,12 +42,6 @@ protected:
     void addEntry(const QString& appId, const QString& folder, const QString& uninstaller = "steam uninstaller") {
         addProgram(pc, {"Steam App " + appId, "A game", folder, uninstaller});
     }
-
-    static GameLocation failedIn(const QString& folder) { return {{}, {}, {}, folder, false}; }
-
-    TestPc pc;
-    Logger logger = Logger::create("Test");
-    GameLocation location = usedLocation();
 };
 
 TEST_F(SteamFinderTest, FindsAGameByItsUninstallEntryWithoutTheClient) {

@@ -1,15 +1,12 @@
 #include "stores/EpicStoreFinder.h"
 
-#include "core/GameLocation.h"
 #include "stores/EpicManifestIndex.h"
-#include "support/Logger.h"
 
 #include "common/AtOnce.h"
 #include "common/EpicLauncher.h"
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -22,16 +19,13 @@ using ::testing::IsEmpty;
 constexpr int equals = 0;
 constexpr int contains = 1;
 
-class EpicStoreFinderTest : public ::testing::Test {
+class EpicStoreFinderTest : public FinderTest {
 protected:
     bool find(const QString& name, const QStringList& executables, int matchMode) {
         return Finders::EpicStoreFinder(&logger, &index, name, executables, matchMode).find(location);
     }
 
-    TestPc pc;
-    Logger logger = Logger::create("Test");
     EpicManifestIndex index;
-    GameLocation location = usedLocation();
 };
 
 TEST_F(EpicStoreFinderTest, FindsEveryExecutableAndStartsTheGameThroughTheLauncher) {

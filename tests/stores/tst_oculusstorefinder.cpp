@@ -1,15 +1,12 @@
 #include "stores/OculusStoreFinder.h"
 
-#include "core/GameLocation.h"
 #include "stores/OculusLibraryIndex.h"
-#include "support/Logger.h"
 
 #include "common/AtOnce.h"
 #include "common/OculusStore.h"
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,7 +16,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class OculusStoreFinderTest : public ::testing::Test {
+class OculusStoreFinderTest : public FinderTest {
 protected:
     /// A library that names the app "kite".
     void addLibrary(const QString& key, const QString& folder) {
@@ -32,10 +29,7 @@ protected:
         return Finders::OculusStoreFinder(&logger, &index, appId, executables, softwareFolder).find(location);
     }
 
-    TestPc pc;
-    Logger logger = Logger::create("Test");
     OculusLibraryIndex index;
-    GameLocation location = usedLocation();
 };
 
 TEST_F(OculusStoreFinderTest, FindsEveryExecutableInTheGamesFolder) {

@@ -1,12 +1,8 @@
 #include "stores/UniversalAppFinder.h"
 
-#include "core/GameLocation.h"
-#include "support/Logger.h"
-
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,14 +12,9 @@ namespace {
 using ::testing::ElementsAre;
 
 /// On a system that has no package functions, or none of these packages: Wine, and a recorded PC that lists none.
-class UniversalAppFinderTest : public ::testing::Test {
-protected:
-    TestPc pc;
-    GameLocation location = usedLocation();
-};
+using UniversalAppFinderTest = FinderTest;
 
 TEST_F(UniversalAppFinderTest, LeavesTheLocationAloneWhenThereIsNoPackage) {
-    Logger logger = Logger::create("Test");
     Finders::UniversalAppFinder finder(&logger, "Käfer.競走_%s");
     EXPECT_FALSE(finder.find(location));
     EXPECT_FALSE(finder.find(location)) << "it asks every time";

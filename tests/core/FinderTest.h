@@ -1,0 +1,18 @@
+#pragma once
+
+#include "common/TestPc.h"
+#include "core/Locations.h"
+#include "support/Logger.h"
+
+#include <gtest/gtest.h>
+
+/// A PC, and what a finder over it logs with and fills.
+class FinderTest : public ::testing::Test {
+protected:
+    /// What a failed search in the folder leaves in the location.
+    static GameLocation failedIn(const QString& folder) { return {{}, {}, {}, folder, false}; }
+
+    TestPc pc;
+    Logger logger = Logger::create("Test");
+    GameLocation location = usedLocation();
+};
