@@ -1,4 +1,4 @@
-#include "common/AtOnce.h"
+#include "common/FindersAtOnce.h"
 #include "common/PluginUnderTest.h"
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
@@ -60,16 +60,7 @@ TEST_F(CatalogueFactoryTest, WhatIsInstalledLaterIsSeenByANewFactory) {
 TEST_F(CatalogueFactoryTest, FindersOnManyThreadsShareOneIndex) {
     addProgram(pc, {"X", "X", "C:\\Games\\X", {}});
     const auto factory = plugin.create();
-    std::vector<std::unique_ptr<IGameFinder>> finders;
-    for (int i = 0; i < 16; ++i) {
-        finders.push_back(factory->createUninstallFinder("X", {"no such game.exe"}, 0));
-    }
-    std::atomic<std::size_t> next{0};
-    callAtOnce([&] {
-        GameLocation own;
-        EXPECT_FALSE(finders[next++]->find(own));
-        EXPECT_EQ(own.installFolder, "C:\\Games\\X");
-    });
+    findFolderAtOnce([&] { return factory->createUninstallFinder("X", {"no such game.exe"}, 0); }, "C:\\Games\\X");
     EXPECT_EQ(pc.log("Quorvan.Finders.Uninstall").count("LOG CREATED"), 1);
 }
 

@@ -2,7 +2,7 @@
 
 #include "catalogue/GamesExplorerIndex.h"
 
-#include "common/AtOnce.h"
+#include "common/FindersAtOnce.h"
 #include "common/Games.h"
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
@@ -133,15 +133,7 @@ TEST_F(GameForWindowFinderTest, TheFactoryMakesItAndKeepsOneIndexForAll) {
     addGame(pc, {"{1}", "X", "C:\\Games\\X\\x.exe", {}});
     const PluginUnderTest plugin;
     const auto factory = plugin.create();
-    std::vector<std::unique_ptr<IGameFinder>> finders;
-    for (int i = 0; i < 16; ++i) {
-        finders.push_back(factory->createGameForWindowFinder("Y", {"y.exe"}));
-    }
-    std::atomic<std::size_t> next{0};
-    callAtOnce([&] {
-        GameLocation own;
-        EXPECT_FALSE(finders[next++]->find(own));
-    });
+    findFolderAtOnce([&] { return factory->createGameForWindowFinder("Y", {"y.exe"}); }, "");
     EXPECT_TRUE(factory->createGameForWindowFinder("x", {"y.exe"})->find(location));
     EXPECT_EQ(location.installFolder, "C:/Games/X");
     EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: GameForWindow: C:\\Games\\X\\x.exe"));

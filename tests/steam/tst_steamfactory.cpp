@@ -1,4 +1,4 @@
-#include "common/AtOnce.h"
+#include "common/FindersAtOnce.h"
 #include "common/PluginUnderTest.h"
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
@@ -76,16 +76,8 @@ TEST_F(SteamFactoryTest, FindersOnManyThreadsShareOneIndex) {
     installSteam();
     pc.file("C:\\Steam\\steamapps\\appmanifest_440.acf");
     const auto factory = plugin.create();
-    std::vector<std::unique_ptr<IGameFinder>> finders;
-    for (int i = 0; i < 16; ++i) {
-        finders.push_back(factory->createSteamFinder("440", "Game", {"no such game.exe"}));
-    }
-    std::atomic<std::size_t> next{0};
-    callAtOnce([&] {
-        GameLocation own;
-        EXPECT_FALSE(finders[next++]->find(own));
-        EXPECT_EQ(own.installFolder, "C:/Steam/steamapps/common/Game");
-    });
+    findFolderAtOnce([&] { return factory->createSteamFinder("440", "Game", {"no such game.exe"}); },
+                     "C:/Steam/steamapps/common/Game");
     EXPECT_EQ(pc.log("Quorvan.Finders.SteamGames").count("LOG CREATED"), 1);
     EXPECT_EQ(pc.log("Quorvan.Finders.Uninstall").count("LOG CREATED"), 1);
 }

@@ -2,8 +2,8 @@
 
 #include "stores/EpicManifestIndex.h"
 
-#include "common/AtOnce.h"
 #include "common/EpicLauncher.h"
+#include "common/FindersAtOnce.h"
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
 #include "core/FinderTest.h"
@@ -126,15 +126,7 @@ TEST_F(EpicStoreFinderTest, TheFactoryMakesItAndKeepsOneIndexForAll) {
     addEpicApp(pc, "1.item", {"Kiwi", "Kiwi Racer", "D:\\Kiwi"});
     const PluginUnderTest plugin;
     const auto factory = plugin.create();
-    std::vector<std::unique_ptr<IGameFinder>> finders;
-    for (int i = 0; i < 16; ++i) {
-        finders.push_back(factory->createEpicStoreFinder("kiwi", {"a.exe"}, equals));
-    }
-    std::atomic<std::size_t> next{0};
-    callAtOnce([&] {
-        GameLocation own;
-        EXPECT_FALSE(finders[next++]->find(own));
-    });
+    findFolderAtOnce([&] { return factory->createEpicStoreFinder("kiwi", {"a.exe"}, equals); }, "");
     addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Kiwi"});
     EXPECT_FALSE(factory->createEpicStoreFinder("Plum", {"a.exe"}, equals)->find(location)) << "installed later";
     EXPECT_TRUE(factory->createEpicStoreFinder("kiwi", {"a.exe"}, contains)->find(location));

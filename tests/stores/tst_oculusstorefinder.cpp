@@ -2,7 +2,7 @@
 
 #include "stores/OculusLibraryIndex.h"
 
-#include "common/AtOnce.h"
+#include "common/FindersAtOnce.h"
 #include "common/OculusStore.h"
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
@@ -155,15 +155,7 @@ TEST_F(OculusStoreFinderTest, TheFactoryMakesItAndKeepsOneIndexForAll) {
     pc.file("D:\\Apps\\Software\\kite\\k.exe");
     const PluginUnderTest plugin;
     const auto factory = plugin.create();
-    std::vector<std::unique_ptr<IGameFinder>> finders;
-    for (int i = 0; i < 16; ++i) {
-        finders.push_back(factory->createOculusStoreFinder("other", {"k.exe"}, "kite"));
-    }
-    std::atomic<std::size_t> next{0};
-    callAtOnce([&] {
-        GameLocation own;
-        EXPECT_FALSE(finders[next++]->find(own));
-    });
+    findFolderAtOnce([&] { return factory->createOculusStoreFinder("other", {"k.exe"}, "kite"); }, "");
     EXPECT_TRUE(factory->createOculusStoreFinder("kite", {"k.exe"}, "kite")->find(location));
     EXPECT_EQ(location.installFolder, "D:/Apps/Software/kite");
     EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: OculusStore: D:/Apps/Software/kite\\k.exe"));
