@@ -27,9 +27,8 @@ FindProgram::FindProgram()
     for (const char* const variable : {"COLUMNS", "NO_COLOR", "TERM"}) { // the wishes of who runs the tests
         m_environment.remove(QString::fromLatin1(variable));
     }
-    for (const char* name : {"COLUMNS", "NO_COLOR", "TERM"}) {
-        m_environment.remove(QString::fromLatin1(name));
-    }
+    m_environment.insert(QStringLiteral("XDG_DATA_HOME"), m_folder.path());
+    m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder.filePath(QStringLiteral("settings")));
     m_environment.insert(QStringLiteral("LURULUDRI_FAKE_LOG"), m_folder.filePath(QStringLiteral("fake.log")));
 }
 
@@ -98,4 +97,10 @@ QStringList FindProgram::fakeLog() const {
     QFile file(m_folder.filePath(QStringLiteral("fake.log")));
     return file.open(QIODevice::ReadOnly) ? textOf(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
                                           : QStringList();
+}
+
+QString docText(const QString& name) {
+    QFile file(QStringLiteral(LURULUDRI_DOCS "/") + name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+    return textOf(file.readAll());
 }

@@ -20,7 +20,7 @@ struct FindRun {
 };
 
 /// Runs luruludri-find as a user does, with the fake plug-in, in a folder of its own whose name is not ASCII. The
-/// program's environment is the test's, without a recorded PC.
+/// program's environment is the test's, without a recorded PC, and off Windows logs and settings go to that folder.
 class FindProgram {
 public:
     FindProgram();
@@ -61,3 +61,6 @@ private:
     QString m_errorFile;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
 };
+
+/// The text of a file below docs. Line ends are "\n" on every system.
+QString docText(const QString& name);

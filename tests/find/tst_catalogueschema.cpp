@@ -3,6 +3,8 @@
 #include "find/catalogue/Catalogue.h"
 #include "find/catalogue/FinderTypes.h"
 
+#include "FindProgram.h"
+
 #include "common/QtPrinters.h"
 
 #include <gtest/gtest.h>
@@ -20,10 +22,8 @@ using namespace Find;
 namespace {
 
 QJsonObject schema() {
-    QFile file(LURULUDRI_DOCS "/catalogue.schema.json");
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     QJsonParseError error;
-    const QJsonObject root = QJsonDocument::fromJson(file.readAll(), &error).object();
+    const QJsonObject root = QJsonDocument::fromJson(docText("catalogue.schema.json").toUtf8(), &error).object();
     EXPECT_EQ(error.error, QJsonParseError::NoError);
     return root;
 }
@@ -194,9 +194,7 @@ TEST(CatalogueSchema, TheWholeIsWhatTheReaderTakesForOne) {
 }
 
 TEST(CatalogueSchema, TheSamplesNameIt) {
-    QFile file(LURULUDRI_SAMPLES "/catalogue.json");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QString named = QJsonDocument::fromJson(file.readAll())["$schema"].toString();
+    const QString named = QJsonDocument::fromJson(docText("../samples/catalogue.json").toUtf8())["$schema"].toString();
     EXPECT_TRUE(QFile::exists(QString(LURULUDRI_SAMPLES "/") + named)) << named.toStdString();
 }
 

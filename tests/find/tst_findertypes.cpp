@@ -1,27 +1,22 @@
 #include "find/catalogue/FinderTypes.h"
 
+#include "FindProgram.h"
+
 #include "common/QtPrinters.h"
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QRegularExpression>
 
 using namespace Find;
 
 namespace {
 
-QString textOf(const QString& file) {
-    QFile source(file);
-    EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << file.toStdString();
-    return QString::fromUtf8(source.readAll());
-}
-
 /// The create operations that the header for hosts declares, in its order.
 QStringList createOperations() {
     static const QRegularExpression declaration(R"(\b(create\w+Finder)\()");
     QStringList operations;
-    auto matches = declaration.globalMatch(textOf(LURULUDRI_DOCS "/../src/core/IGameFinderFactory.h"));
+    auto matches = declaration.globalMatch(docText("../src/core/IGameFinderFactory.h"));
     while (matches.hasNext()) {
         operations.append(matches.next().captured(1));
     }
@@ -40,9 +35,8 @@ TEST(FinderTypes, HaveARowForEachCreateOperationOfTheFactory) {
 /// Or it would be missing in what `list` and reports tell.
 TEST(FinderTypes, SearchEachListThatTheTraceCanTellOf) {
     QStringList lists;
-    auto matches =
-        QRegularExpression(R"(constexpr const char\* \w+ = "([A-Z]\w+)\";)")
-            .globalMatch(textOf(LURULUDRI_DOCS "/../src/trace/Events.h").section("namespace IndexName", 1, 1));
+    auto matches = QRegularExpression(R"(constexpr const char\* \w+ = "([A-Z]\w+)\";)")
+                       .globalMatch(docText("../src/trace/Events.h").section("namespace IndexName", 1, 1));
     while (matches.hasNext()) {
         lists.append(matches.next().captured(1));
     }
@@ -57,7 +51,7 @@ TEST(FinderTypes, SearchEachListThatTheTraceCanTellOf) {
 }
 
 TEST(FinderTypes, AreAllInTheDocumentOfTheCatalogueWithTheirFields) {
-    const QString document = textOf(LURULUDRI_DOCS "/catalogue.md");
+    const QString document = docText("catalogue.md");
     for (const FinderType& type : finderTypes()) {
         QStringList fields;
         for (const FinderField& field : type.fields) {
@@ -70,7 +64,7 @@ TEST(FinderTypes, AreAllInTheDocumentOfTheCatalogueWithTheirFields) {
 
 /// So whoever tries the samples, and the tests that record them, see each kind at work.
 TEST(FinderTypes, AreAllInTheSampleCatalogue) {
-    const QString samples = textOf(LURULUDRI_SAMPLES "/catalogue.json");
+    const QString samples = docText("../samples/catalogue.json");
     for (const FinderType& type : finderTypes()) {
         const bool isMade = QLatin1String(type.name) == "multi"; // of a game's other finders
         EXPECT_TRUE(isMade || samples.contains(QString("\"type\": \"%1\"").arg(type.name))) << type.name;
@@ -78,7 +72,7 @@ TEST(FinderTypes, AreAllInTheSampleCatalogue) {
 }
 
 TEST(FinderTypes, AreAllInTheReadme) {
-    const QString readme = textOf(LURULUDRI_DOCS "/../README.md");
+    const QString readme = docText("../README.md");
     for (const FinderType& type : finderTypes()) {
         EXPECT_TRUE(readme.contains(QString("| `%1` |").arg(type.operation))) << type.operation;
     }

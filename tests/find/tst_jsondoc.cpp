@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -15,16 +14,10 @@
 
 namespace {
 
-QString docText() {
-    QFile file(LURULUDRI_DOCS "/json.md");
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-    return QString::fromUtf8(file.readAll()).replace("\r\n", "\n");
-}
-
 /// The examples of docs/json.md: first games, then only the runtimes, then an error.
 QStringList examples() {
     QStringList found;
-    const QStringList parts = docText().split("```");
+    const QStringList parts = docText("json.md").split("```");
     for (const QString& part : parts) {
         if (part.startsWith("json\n")) {
             found.append(part.mid(5));
@@ -52,7 +45,6 @@ TEST(JsonDoc, ItsExamplesAreWhatTheProgramPrintsOfTheSamplePc) {
     }
     ASSERT_EQ(examples().size(), 3);
     FindProgram program;
-    program.setVariable("XDG_DATA_HOME", program.folder());
     const QStringList common = {"--pc", LURULUDRI_SAMPLES "/pc", "--json"};
     const FindRun games =
         program.runBare(common + QStringList{"--game", "Lantern Harbour", "--game", "Nordlicht Tactics",
@@ -89,7 +81,7 @@ TEST(JsonDoc, ItsErrorIsWhatTheProgramPrints) {
 }
 
 TEST(JsonDoc, EveryFieldHasALineInItsTables) {
-    const QString text = docText();
+    const QString text = docText("json.md");
     const QJsonObject root = objectOf(examples().value(0));
     for (const QJsonObject& object : {root, root["runtimes"].toObject(), root["games"][0].toObject()}) {
         EXPECT_FALSE(object.isEmpty());

@@ -10,7 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QProcess>
 
 namespace {
@@ -26,9 +25,7 @@ struct Shown {
 };
 
 std::vector<Shown> shownCommands() {
-    QFile file(LURULUDRI_DOCS "/luruludri-find.md");
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    const QStringList parts = QString::fromUtf8(file.readAll()).replace("\r\n", "\n").split("```");
+    const QStringList parts = docText("luruludri-find.md").split("```");
     std::vector<Shown> commands;
     for (int i = 1; i < parts.size(); i += 2) {
         const QString first = parts.at(i).section('\n', 1, 1);
@@ -83,8 +80,6 @@ TEST(ProgramDoc, EveryOutputOfTheSamplePcIsWhatTheProgramPrints) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
-    program.setVariable("XDG_DATA_HOME", program.folder());
-    program.setVariable("XDG_CONFIG_HOME", program.folder());
     program.setVariable(Recordings::environmentVariable, LURULUDRI_SAMPLES "/pc");
     for (const Shown& shown : shownCommands()) {
         if (shown.prompt == "$" && !shown.isHelp()) {

@@ -5,26 +5,16 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-
 namespace {
-
-QString readme() {
-    QFile file(LURULUDRI_DOCS "/../README.md");
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return QString::fromUtf8(file.readAll());
-}
 
 /// Expects a block of the README to be what the real plug-in prints of the sample PC.
 void expectShown(const QStringList& arguments) {
-    FindProgram program;
-    program.setVariable("XDG_DATA_HOME", program.folder());
-    program.setVariable("XDG_CONFIG_HOME", program.folder());
+    const FindProgram program;
     const FindRun run = program.runBare(QStringList{"--pc", LURULUDRI_SAMPLES "/pc"} + arguments);
     EXPECT_EQ(run.errors, "");
     EXPECT_FALSE(run.output.isEmpty());
-    EXPECT_TRUE(readme().contains("\n```\n" + run.output + "```\n")) << "The README does not show:\n"
-                                                                     << run.output.toStdString();
+    EXPECT_TRUE(docText("../README.md").contains("\n```\n" + run.output + "```\n")) << "The README does not show:\n"
+                                                                                    << run.output.toStdString();
 }
 
 TEST(Readme, ShowsWhatTheProgramPrintsOfTheSamples) {

@@ -17,7 +17,6 @@ namespace {
 
 /// What the real plug-in says of the samples. Its log goes into the folder of `program`.
 FindRun runSamples(FindProgram& program, const QStringList& arguments) {
-    program.setVariable("XDG_DATA_HOME", program.folder());
     return program.runBare(QStringList{"--pc", LURULUDRI_SAMPLES "/pc", LURULUDRI_SAMPLES "/catalogue.json"} +
                            arguments);
 }
@@ -85,7 +84,6 @@ TEST(Samples, HaveAllRuntimes) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
-    program.setVariable("XDG_DATA_HOME", program.folder());
     const FindRun run = program.runBare({"--pc", LURULUDRI_SAMPLES "/pc", "--json", "runtimes"});
     EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
     const QJsonObject runtimes = QJsonDocument::fromJson(run.output.toUtf8()).object()["runtimes"].toObject();
@@ -101,7 +99,6 @@ TEST(Samples, HaveAGameThatTheUserCanLocate) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
-    program.setVariable("XDG_DATA_HOME", program.folder());
     const QString folder = "D:\\Eigene Spiele\\Moosgarten";
     const QJsonObject description{{"userLocations", QJsonObject{{"moosgarten", folder}}}};
     const QString pc = QFileInfo(program.file("pc/pc.json", QJsonDocument(description).toJson())).path();

@@ -9,18 +9,11 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 
 namespace {
 
-QString textOf(const QString& file) {
-    QFile source(file);
-    EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << file.toStdString();
-    return QString::fromUtf8(source.readAll()).replace("\r\n", "\n");
-}
-
 QString shellFile(const QString& name) {
-    return textOf(LURULUDRI_DOCS "/shell/" + name);
+    return docText("shell/" + name);
 }
 
 TEST(ShellTexts, TheFilesThatAreInstalledAreWhatTheProgramPrints) {

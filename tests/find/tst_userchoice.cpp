@@ -204,7 +204,6 @@ TEST(UserChoice, OfARecordedPcIsChangedInTheRecording) {
 
 TEST(UserChoice, TheRealPluginRemembersFindsAndForgets) {
     FindProgram program;
-    program.setVariable("XDG_DATA_HOME", program.folder());
     program.file("Spiele/Wal/bin/wal.exe", "");
     const QString folder = program.folder() + "/Spiele/Wal";
     const QString catalogue = program.file("g.json", R"({"games": [{"name": "Wal", "finders": [

@@ -18,7 +18,6 @@ constexpr const char* twoGames = R"({"games": [
 
 /// What the program explains of a game, with the real plug-in, over the PC under test.
 FindRun explain(FindProgram& program, const QStringList& arguments) {
-    program.setVariable("XDG_DATA_HOME", program.folder());
     program.setVariable(Recordings::environmentVariable, qEnvironmentVariable(Recordings::environmentVariable));
     return program.runBare(QStringList{"explain"} + arguments);
 }

@@ -14,13 +14,6 @@
 
 namespace {
 
-/// What the program says with the real plug-in.
-FindRun run(FindProgram& program, const QStringList& arguments) {
-    program.setVariable("XDG_DATA_HOME", program.folder());
-    program.setVariable("XDG_CONFIG_HOME", program.folder());
-    return program.runBare(arguments);
-}
-
 QJsonArray installed(const FindRun& list) {
     EXPECT_EQ(list.exitStatus, 0) << list.errors.toStdString();
     return QJsonDocument::fromJson(list.output.toUtf8())["installed"].toArray();
@@ -38,9 +31,9 @@ QJsonValue entry(const QJsonArray& list, const QString& name, const QString& tit
 }
 
 /// The folder in which the game is found whose line is pasted into an empty catalogue.
-QString folderOfPasted(FindProgram& program, const QStringList& pc, const QString& line) {
+QString folderOfPasted(const FindProgram& program, const QStringList& pc, const QString& line) {
     const QString catalogue = program.file("pasted.json", ("{\"games\": [\n" + line + "\n]}").toUtf8());
-    const FindRun found = run(program, QStringList{"--json", catalogue} + pc);
+    const FindRun found = program.runBare(QStringList{"--json", catalogue} + pc);
     EXPECT_EQ(found.exitStatus, 0) << line.toStdString() << found.output.toStdString();
     return QJsonDocument::fromJson(found.output.toUtf8())["games"][0]["installFolder"].toString();
 }
@@ -51,8 +44,8 @@ TEST(ListCommand, WhatItProposesForTheSamplePcIsFoundWhenItIsPasted) {
     }
     FindProgram program;
     const QStringList pc = {"--pc", LURULUDRI_SAMPLES "/pc"};
-    const QJsonArray games = installed(run(program, QStringList{"list", "--json"} + pc));
-    const QStringList lines = run(program, QStringList{"list"} + pc).output.split("\n");
+    const QJsonArray games = installed(program.runBare(QStringList{"list", "--json"} + pc));
+    const QStringList lines = program.runBare(QStringList{"list"} + pc).output.split("\n");
     int pasted = 0;
     for (const QString& line : lines) {
         if (line.startsWith("    {\"name\": ")) {
@@ -75,7 +68,7 @@ TEST(ListCommand, TellsAllListsOfTheSamplePc) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
-    const QJsonArray games = installed(run(program, {"list", "--json", "--pc", LURULUDRI_SAMPLES "/pc"}));
+    const QJsonArray games = installed(program.runBare({"list", "--json", "--pc", LURULUDRI_SAMPLES "/pc"}));
     EXPECT_EQ(entry(games, "Orbitkurier", "Steam")["folder"].toString(),
               "D:/SteamLibrary/steamapps/common/Orbitkurier");
     EXPECT_EQ(entry(games, "Sturmvogel 2 (Version 2.1)", "Uninstall registry")["folder"].toString(),
@@ -96,9 +89,9 @@ TEST(ListCommand, OfARecordingASteamAppIsProposedWhenItsFolderCanBeTold) {
         GTEST_SKIP() << "no recordings here";
     }
     FindProgram program;
-    ASSERT_EQ(run(program, {"record", "sent", "--pc", LURULUDRI_SAMPLES "/pc"}).exitStatus, 0);
+    ASSERT_EQ(program.runBare({"record", "sent", "--pc", LURULUDRI_SAMPLES "/pc"}).exitStatus, 0);
     const QStringList pc = {"--pc", program.folder() + "/sent.json"};
-    const QJsonArray games = installed(run(program, QStringList{"list", "--json"} + pc));
+    const QJsonArray games = installed(program.runBare(QStringList{"list", "--json"} + pc));
     EXPECT_EQ(entry(games, "Orbitkurier", "Steam")["folder"].toString(), "D:/SteamLibrary/steamapps/common/Orbitkurier")
         << "the only folder of the only app";
     EXPECT_EQ(entry(games, "Fjordflug VR", "Steam")["finders"][0]["appId"].toString(), "7310040")
@@ -109,7 +102,7 @@ TEST(ListCommand, OfARecordingASteamAppIsProposedWhenItsFolderCanBeTold) {
 /// The program over the PC under test.
 FindRun listOf(FindProgram& program, const QStringList& arguments = {"list", "--json"}) {
     program.setVariable(Recordings::environmentVariable, qEnvironmentVariable(Recordings::environmentVariable));
-    return run(program, arguments);
+    return program.runBare(arguments);
 }
 
 TEST(ListCommand, AProgramOfTheUninstallRegistryIsListedWithWhatStartsIt) {

@@ -27,7 +27,6 @@ protected:
             std::signal(signal, SIG_DFL); // which the program inherits; a shell's background or nohup ignores some
         }
         program.setVariable("TMPDIR", temporary);
-        program.setVariable("XDG_DATA_HOME", program.folder() + "/data");
     }
 
     /// What a shell's command with the program's path in "$0" leaves in the folder.

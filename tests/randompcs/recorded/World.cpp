@@ -14,7 +14,5 @@ QMap<QChar, QString> RandomWorld::volumes() const {
 }
 
 QStringList RandomWorld::plant(const Recordings::Pc& pc, FindProgram& program) {
-    program.setVariable("XDG_DATA_HOME", program.folder());
-    program.setVariable("XDG_CONFIG_HOME", program.folder() + "/settings");
     return {"--pc", program.file("pc.json", Recordings::renderPcFile(pc))};
 }

@@ -1,15 +1,10 @@
-#include "FindProgram.h"
 #include "recorded/FullPc.h"
+#include "recorded/ReplayTest.h"
 
-#include "common/QtPrinters.h"
 #include "recordings/PcFile.h"
 #include "recordings/Recording.h"
 #include "recordings/ShellLink.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -17,41 +12,17 @@ namespace {
 
 constexpr const char* noGames = R"({"games": []})";
 
-class RecordTest : public ::testing::Test {
+class RecordTest : public ReplayTest {
 protected:
-    void SetUp() override {
-        program.setVariable("XDG_DATA_HOME", program.folder());
-        program.setVariable("XDG_CONFIG_HOME", program.folder() + "/settings");
-    }
-
-    QString path(const QString& name) const { return program.folder() + '/' + name; }
-
-    /// The text of the recording of that name.
-    QString contents(const QString& name) const {
-        QFile file(path(name) + ".json");
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return QString::fromUtf8(file.readAll());
-    }
-
     bool tells(const QString& name, const QString& text) const {
-        return contents(name).contains(text, Qt::CaseInsensitive);
+        return contents(name + ".json").contains(text, Qt::CaseInsensitive);
     }
 
-    /// Records `pc` as the file of that name in the test's.
-    FindRun record(const QString& pc, const QString& name, const QString& catalogue, const QStringList& options = {}) {
+    /// Records `pc` as the file of that name in the test's folder.
+    FindRun record(const QString& pc, const QString& name, const QString& catalogue,
+                   const QStringList& options = {}) const {
         return program.runBare(QStringList{"--pc", pc, "record", path(name), catalogue} + options);
     }
-
-    /// The answers for a catalogue on a recorded PC.
-    QString answers(const QString& pc, const QString& catalogue) {
-        const FindRun run = program.runBare({"--pc", pc, "--json", catalogue});
-        EXPECT_EQ(run.errors, "");
-        return run.output;
-    }
-
-    FindProgram program;
-    const QString samplePc = LURULUDRI_SAMPLES "/pc";
-    const QString sampleCatalogue = LURULUDRI_SAMPLES "/catalogue.json";
 };
 
 TEST_F(RecordTest, TheSamplePcAnswersAsItDid) {
@@ -71,7 +42,7 @@ TEST_F(RecordTest, TheUsersNameIsReplaced) {
 TEST_F(RecordTest, ARecordingOfARecordingIsTheSame) {
     ASSERT_EQ(record(samplePc, "1", sampleCatalogue).exitStatus, 0);
     ASSERT_EQ(record(path("1.json"), "2", sampleCatalogue).exitStatus, 0);
-    EXPECT_EQ(contents("1"), contents("2"));
+    EXPECT_EQ(contents("1.json"), contents("2.json"));
 }
 
 TEST_F(RecordTest, GamesThatNobodyKnewWhileRecordingAreFound) {
@@ -119,7 +90,7 @@ TEST_F(RecordTest, NothingIsTakenThatNoFinderReads) {
     for (const QStringList& options : {QStringList{}, QStringList{"--keep-names"}}) {
         const QString name = QString("pc%1").arg(options.size());
         ASSERT_EQ(record(pc.folder(), name, pc.catalogue(), options).exitStatus, 0);
-        EXPECT_FALSE(tells(name, FullPc::secret)) << contents(name).toStdString();
+        EXPECT_FALSE(tells(name, FullPc::secret)) << contents(name + ".json").toStdString();
     }
 }
 
@@ -130,7 +101,7 @@ TEST_F(RecordTest, TheUserAndTheMachineAreNamedNowhere) {
     EXPECT_TRUE(run.output.contains("\"Anneliese Ö\" is now \"user-2\", \"KAEFER-PC\" is now \"pc\""))
         << run.output.toStdString();
     for (const char* const name : {"Anneliese", "ANNELI~1", "KAEFER"}) {
-        EXPECT_FALSE(tells("pc", name)) << name << contents("pc").toStdString();
+        EXPECT_FALSE(tells("pc", name)) << name << contents("pc.json").toStdString();
     }
     QString expected = answers(pc.folder(), pc.catalogue());
     expected.replace("Anneliese Ö", "user-2").replace("ANNELI~1", "user-2").replace("KAEFER-PC", "pc");
@@ -245,7 +216,7 @@ TEST_F(RecordTest, SecretsOfEveryKindStayWhereTheyAre) {
         {"name": "Muschel", "finders": [{"type": "epicStore", "name": "Muschel", "executables": ["m.exe"]}]}]})");
     const FindRun run = record(path("secret"), "pc", catalogue);
     ASSERT_EQ(run.exitStatus, 0) << run.errors.toStdString();
-    EXPECT_FALSE(tells("pc", "GEHEIM")) << contents("pc").toStdString();
+    EXPECT_FALSE(tells("pc", "GEHEIM")) << contents("pc.json").toStdString();
     EXPECT_EQ(answers(path("pc.json"), catalogue).count("\"found\": true"), 4);
 
     ASSERT_EQ(program.runBare({"--pc", path("secret"), "report", path("page.html"), catalogue}).exitStatus, 0);

@@ -1,44 +1,15 @@
-#include "FindProgram.h"
 #include "recorded/FullPc.h"
-
-#include "common/QtPrinters.h"
-
-#include <gtest/gtest.h>
-
-#include <QFile>
+#include "recorded/ReplayTest.h"
 
 namespace {
 
-class ReportTest : public ::testing::Test {
+class ReportTest : public ReplayTest {
 protected:
-    void SetUp() override {
-        program.setVariable("XDG_DATA_HOME", program.folder());
-        program.setVariable("XDG_CONFIG_HOME", program.folder() + "/settings");
-    }
-
-    QString path(const QString& name) const { return program.folder() + '/' + name; }
-
-    QString contents(const QString& name) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return QString::fromUtf8(file.readAll());
-    }
-
     /// Makes the report page.html of the PC, anew.
-    FindRun report(const QString& pc, const QString& catalogue, const QStringList& options = {}) {
+    FindRun report(const QString& pc, const QString& catalogue, const QStringList& options = {}) const {
         QFile::remove(path("page.html"));
         return program.runBare(QStringList{"--pc", pc, "report", path("page"), catalogue} + options);
     }
-
-    QString answers(const QString& pc, const QString& catalogue) {
-        const FindRun run = program.runBare({"--pc", pc, "--json", catalogue});
-        EXPECT_EQ(run.errors, "");
-        return run.output;
-    }
-
-    FindProgram program;
-    const QString samplePc = LURULUDRI_SAMPLES "/pc";
-    const QString sampleCatalogue = LURULUDRI_SAMPLES "/catalogue.json";
 };
 
 TEST_F(ReportTest, APageAnswersAsThePcDid) {
