@@ -42,7 +42,7 @@ void EpicManifestIndex::build(std::list<EpicAppEntry>& entries) {
     Logger logger = Logger::create("Quorvan.Finders.EpicStore");
     const QString folder = manifestFolder();
     logger.logAlways("MetaDir Folder: %ls", qUtf16Printable(folder));
-    const QStringList manifests = Files::names(folder, QStringLiteral("*.item"));
+    const QStringList manifests = Files::names(folder, QStringLiteral(".item"));
     m_names.reserve(static_cast<std::size_t>(manifests.size()));
     for (const QString& manifest : manifests) {
         read(QDir(folder), manifest, entries, logger);

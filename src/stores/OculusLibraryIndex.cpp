@@ -31,7 +31,7 @@ void OculusLibraryIndex::build(std::list<OculusAppEntry>& entries) {
 
 void OculusLibraryIndex::read(const QString& folder, std::list<OculusAppEntry>& entries, Logger& logger) {
     logger.logAlways("Library Folder: %ls", qUtf16Printable(folder));
-    const QStringList manifests = Files::names(folder, QStringLiteral("*.json.mini"));
+    const QStringList manifests = Files::names(folder, QStringLiteral(".json.mini"));
     m_appIds.reserve(static_cast<std::size_t>(manifests.size()));
     for (const QString& manifest : manifests) {
         const OculusAppEntry entry{QFileInfo(manifest).baseName(), folder};

@@ -6,6 +6,7 @@
 #include "support/Trace.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -70,6 +71,20 @@ std::optional<QStringList> plainNames(const QString& folder, const QString& endi
     return names;
 }
 
+/// Not by one of QDir's patterns, which fits no name when memory runs out while it is made.
+QStringList namesOfDir(const QString& folder, const QString& ending) {
+    QDir dir(Platform::pathOnPc(folder));
+    dir.setFilter(QDir::Files | QDir::NoDotAndDotDot);
+    QStringList names;
+    for (QDirIterator file(dir); file.hasNext();) {
+        file.next();
+        if (file.fileName().endsWith(ending, Qt::CaseInsensitive)) {
+            names.append(file.fileName());
+        }
+    }
+    return names;
+}
+
 } // namespace
 
 bool exists(const QString& path) {
@@ -84,14 +99,10 @@ bool enter(QString& folder, const QString& name) {
     return Platform::changeFolder(folder, name);
 }
 
-QStringList names(const QString& folder, const QString& pattern) {
-    const std::optional<QStringList> listed = plainNames(folder, pattern.mid(1));
-    // Unsorted, as QDir::NoSort means "as the QDir is told to sort by itself".
-    const QStringList names =
-        listed
-            ? *listed
-            : QDir(Platform::pathOnPc(folder)).entryList({pattern}, QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted);
-    Trace::tell([&] { return Trace::List{Paths::toNative(folder), pattern, names}; });
+QStringList names(const QString& folder, const QString& ending) {
+    const std::optional<QStringList> plain = plainNames(folder, ending);
+    const QStringList names = plain ? *plain : namesOfDir(folder, ending);
+    Trace::tell([&] { return Trace::List{Paths::toNative(folder), QLatin1Char('*') + ending, names}; });
     return names;
 }
 

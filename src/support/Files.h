@@ -21,9 +21,9 @@ bool folderExists(const QString& folder);
 /// path. False when there is none; `folder` is then untouched.
 bool enter(QString& folder, const QString& name);
 
-/// The names of the folder's files that fit a pattern like "*.acf", a star and an ending, without hidden ones, as QDir
-/// lists them; empty when it can't be listed.
-QStringList names(const QString& folder, const QString& pattern);
+/// The names of the folder's files that end in `ending` (".acf") in any letter case, without hidden ones, as QDir lists
+/// them; empty when it can't be listed.
+QStringList names(const QString& folder, const QString& ending);
 
 /// All bytes of a file; empty when it is missing, can't be opened or has more than `largest` bytes.
 QByteArray readWholeFile(const QString& path, qint64 largest = std::numeric_limits<qint64>::max());

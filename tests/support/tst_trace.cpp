@@ -94,7 +94,7 @@ TEST(Trace, TellsWhichFilesAreLookedForAndListedAndRead) {
     const TraceLog trace;
     Files::exists("C:\\Luruludri Test\\a.acf");
     Files::folderExists("C:\\Luruludri Test\\b");
-    Files::names("C:\\Luruludri Test", "*.acf");
+    Files::names("C:\\Luruludri Test", ".acf");
     Files::readWholeFile("C:\\Luruludri Test\\a.acf");
     const std::vector<QJsonObject> events = trace.events();
     ASSERT_EQ(events.size(), 4U);
