@@ -4,7 +4,7 @@
 #include "support/Files.h"
 #include "support/RegistryKey.h"
 
-#include <QDebug>
+#include <QtGlobal>
 
 #include <optional>
 
@@ -21,12 +21,13 @@ bool isOurs(const QString& command) {
 }
 
 /// Tells the command that is registered; false when it is the maker's own.
-bool check(const QString& name, const QString& command) {
+bool check(const char* name, const QString& command) {
+    // Not by QDebug, whose destructor ends the process when memory runs out.
     if (isOurs(command)) {
-        qCritical().noquote() << name + QLatin1String(" Incorrect Path: ") + command;
+        qCritical("%s Incorrect Path: %ls", name, qUtf16Printable(command));
         return false;
     }
-    qInfo().noquote() << name + QLatin1String(" Path: ") + command;
+    qInfo("%s Path: %ls", name, qUtf16Printable(command));
     return true;
 }
 
@@ -49,9 +50,9 @@ SteamVrAlternativeFinder::SteamVrAlternativeFinder(Logger* logger)
     : AbstractFinder(logger) {}
 
 bool SteamVrAlternativeFinder::find(GameLocation& location) {
-    check(QStringLiteral("VrUrlHandler"), readRegistryString(urlHandler)); // for the log alone
+    check("VrUrlHandler", readRegistryString(urlHandler)); // for the log alone
     const QString command = readRegistryString(monitor);
-    if (!check(QStringLiteral("VrMonitor"), command)) {
+    if (!check("VrMonitor", command)) {
         return false;
     }
     const std::optional<QString> folder = folderIn(command);
