@@ -2,6 +2,9 @@
 
 #include "support/CriticalSection.h"
 
+#include <new>
+#include <system_error>
+
 namespace {
 
 void release(CriticalSection* section) {
@@ -31,7 +34,15 @@ LockGuard::LockGuard(SpinFlag& flag)
 
 LockGuard::LockGuard(std::mutex& mutex)
     : m_lock(&mutex) {
-    mutex.lock();
+    // A mutex may get its memory at its first lock, and tell by an exception of its own that there is none.
+    try {
+        mutex.lock();
+    } catch (const std::system_error& error) {
+        if (error.code() != std::errc::not_enough_memory) {
+            throw;
+        }
+        throw std::bad_alloc();
+    }
 }
 
 LockGuard::~LockGuard() {
