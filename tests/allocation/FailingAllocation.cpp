@@ -28,6 +28,7 @@ bool SystemMemory::mayAllocate() noexcept {
 }
 
 FailingAllocation::FailingAllocation(int countdown) {
+    SystemMemory::prepare();
     failed = false;
     allocationsLeft = countdown;
 }
@@ -53,9 +54,9 @@ void* operator new(std::size_t size) {
 }
 
 void operator delete(void* memory) noexcept {
-    std::free(memory);
+    SystemMemory::release(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
+    SystemMemory::release(memory);
 }

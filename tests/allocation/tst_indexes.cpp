@@ -82,13 +82,6 @@ protected:
     TestPc pc;
 };
 
-/// The indexes that list folders by a pattern, where Qt 5.15 leaks its own iterators and expressions when they run out
-/// of memory.
-class ListingIndexesWithoutMemoryTest : public IndexesWithoutMemoryTest {
-private:
-    SystemMemory::UncheckedLeaks m_unchecked;
-};
-
 TEST_F(IndexesWithoutMemoryTest, WhatTheUninstallIndexHasIsFoundByNameAndByKey) {
     failEachAllocation<UninstallIndex>([](UninstallIndex& index, const UninstallEntry& entry) {
         return index.findByName(entry.displayName, MatchMode::equals).size() == 1 &&
@@ -111,19 +104,19 @@ TEST_F(IndexesWithoutMemoryTest, WhatTheStartMenuIndexHasIsFound) {
     });
 }
 
-TEST_F(ListingIndexesWithoutMemoryTest, WhatTheSteamLibraryIndexHasIsFound) {
+TEST_F(IndexesWithoutMemoryTest, WhatTheSteamLibraryIndexHasIsFound) {
     failEachAllocation<SteamLibraryIndex>([](SteamLibraryIndex& index, const SteamAppEntry& entry) {
         return index.findByAppId(entry.appId).size() == 1;
     });
 }
 
-TEST_F(ListingIndexesWithoutMemoryTest, WhatTheOculusLibraryIndexHasIsFound) {
+TEST_F(IndexesWithoutMemoryTest, WhatTheOculusLibraryIndexHasIsFound) {
     failEachAllocation<OculusLibraryIndex>([](OculusLibraryIndex& index, const OculusAppEntry& entry) {
         return index.findByAppId(entry.appId).size() == 1;
     });
 }
 
-TEST_F(ListingIndexesWithoutMemoryTest, WhatTheEpicManifestIndexHasIsFound) {
+TEST_F(IndexesWithoutMemoryTest, WhatTheEpicManifestIndexHasIsFound) {
     failEachAllocation<EpicManifestIndex>([](EpicManifestIndex& index, const EpicAppEntry& entry) {
         return index.findByName(entry.DisplayName, MatchMode::equals).size() == 1;
     });

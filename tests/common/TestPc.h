@@ -52,6 +52,9 @@ public:
     /// The folder that the user chose for the game with this key.
     void userChoice(const QString& key, const QString& folder);
 
+    /// Installs an app package with one application. False where the PC can have none; nothing is installed then.
+    bool package(const QString& family, const QString& fullName, const QString& applicationId);
+
     /// The name of the volume that is mounted as this drive ("\\\\?\\Volume{…}\\").
     QString volume(QChar drive) const;
 

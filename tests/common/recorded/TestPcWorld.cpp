@@ -190,6 +190,14 @@ void TestPc::userChoice(const QString& key, const QString& folder) {
     m_world->describe();
 }
 
+bool TestPc::package(const QString& family, const QString& fullName, const QString& applicationId) {
+    Recordings::Pc& pc = m_world->pc();
+    pc.packages = pc.packages.value_or(Recordings::AppPackages());
+    pc.packages->push_back({family, fullName, {applicationId}});
+    m_world->describe();
+    return true;
+}
+
 QString TestPc::volume(QChar drive) const {
     return World::volume(drive);
 }

@@ -265,6 +265,10 @@ void TestPc::userChoice(const QString& key, const QString& folder) {
     m_world->chooseFolder("UserProvidedLocations/" + key, folder);
 }
 
+bool TestPc::package(const QString& /*family*/, const QString& /*fullName*/, const QString& /*applicationId*/) {
+    return false; // as Windows installs only what is signed, and Wine nothing
+}
+
 QString TestPc::volume(QChar drive) const {
     std::array<wchar_t, Platform::maxPath> name{};
     const QString root = drive + QString(":\\");
