@@ -1,8 +1,6 @@
 #include "FindProgram.h"
 
 #include "common/QtPrinters.h"
-#include "find/pc/System.h"
-#include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +14,7 @@
 namespace {
 
 /// What the real plug-in says of the samples. Its log goes into the folder of `program`.
-FindRun runSamples(FindProgram& program, const QStringList& arguments) {
+FindRun runSamples(const FindProgram& program, const QStringList& arguments) {
     return program.runBare(QStringList{"--pc", LURULUDRI_SAMPLES "/pc", LURULUDRI_SAMPLES "/catalogue.json"} +
                            arguments);
 }
@@ -32,10 +30,7 @@ QMap<QString, QString> foldersOf(const FindRun& run) {
 }
 
 TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
+    const FindProgram program;
     const FindRun run = runSamples(program, {"--json"});
     EXPECT_EQ(run.exitStatus, 1) << run.errors.toStdString();
     const QMap<QString, QString> folders = foldersOf(run);
@@ -45,10 +40,7 @@ TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
 }
 
 TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
+    const FindProgram program;
     const FindRun run = runSamples(program, {"--json"});
     const QMap<QString, QString> folders = foldersOf(run);
     EXPECT_EQ(folders.value("Fjordflug VR"), "C:\\Program Files (x86)\\Steam\\steamapps\\common\\Fjordflug VR");
@@ -65,10 +57,7 @@ TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
 }
 
 TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
+    const FindProgram program;
     const FindRun run = runSamples(program, {"--json"});
     const QMap<QString, QString> folders = foldersOf(run);
     EXPECT_EQ(folders.value("Nebelpflug"), "D:\\Epic Games\\Nebelpflug");
@@ -80,10 +69,7 @@ TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
 }
 
 TEST(Samples, HaveAllRuntimes) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
+    const FindProgram program;
     const FindRun run = program.runBare({"--pc", LURULUDRI_SAMPLES "/pc", "--json", "runtimes"});
     EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
     const QJsonObject runtimes = QJsonDocument::fromJson(run.output.toUtf8()).object()["runtimes"].toObject();
@@ -95,10 +81,7 @@ TEST(Samples, HaveAllRuntimes) {
 }
 
 TEST(Samples, HaveAGameThatTheUserCanLocate) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
+    const FindProgram program;
     const QString folder = "D:\\Eigene Spiele\\Moosgarten";
     const QJsonObject description{{"userLocations", QJsonObject{{"moosgarten", folder}}}};
     const QString pc = QFileInfo(program.file("pc/pc.json", QJsonDocument(description).toJson())).path();
@@ -108,10 +91,7 @@ TEST(Samples, HaveAGameThatTheUserCanLocate) {
 }
 
 TEST(Samples, HaveAGameWithTwoExecutables) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
+    const FindProgram program;
     const FindRun run = runSamples(program, {"--json", "--game", "Lantern Harbour"});
     EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
     const QJsonObject root = QJsonDocument::fromJson(run.output.toUtf8()).object();
