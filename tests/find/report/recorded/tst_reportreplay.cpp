@@ -51,7 +51,7 @@ TEST_F(ReportTest, OfAReplayedPageIsTheSameButForTheNamesThatOnlySteamsManifests
     ASSERT_EQ(report(path("first.html"), sampleCatalogue).exitStatus, 0);
     const auto games = [this](const QString& name) {
         const QString page = contents(name);
-        return page.mid(page.indexOf("<table"), page.indexOf("How the lists were made") - page.indexOf("<table"));
+        return page.mid(page.indexOf("<table"), page.indexOf("<h2 id=\"lists\"") - page.indexOf("<table"));
     };
     const QString row = "<tr><th scope=\"row\"><bdi>%1</bdi></th><td data-title=\"Listed in\">Steam</td>"
                         "<td data-title=\"Where\" class=\"path\"><bdi>%2<wbr></bdi></td></tr>\n";
