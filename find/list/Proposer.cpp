@@ -14,10 +14,6 @@ namespace Find {
 
 namespace {
 
-bool isSeparator(QChar character) {
-    return character == QLatin1Char('\\') || character == QLatin1Char('/');
-}
-
 QString fileNameOf(const QString& path) {
     const auto end = std::find_if(path.rbegin(), path.rend(), isSeparator);
     return path.right(static_cast<int>(std::distance(path.rbegin(), end)));
@@ -66,8 +62,8 @@ Proposer::Search Proposer::search(const FinderEntry& question) {
     }
     for (const TraceEvent& event : m_trace.take()) {
         if (const auto* const exists = std::get_if<Trace::Exists>(&event)) {
-            if (fileNameOf(exists->path) == probeName()) {
-                search.folders.append(folderOf(exists->path));
+            if (const std::optional<QString> folder = folderOfProbe(exists->path)) {
+                search.folders.append(*folder);
             }
         } else if (const auto* const shortcut = std::get_if<Trace::Shortcut>(&event)) {
             search.target = shortcut->target;

@@ -17,17 +17,6 @@ namespace {
 const QLatin1String suffixes[] = {QLatin1String(".exe"), QLatin1String(".com"), QLatin1String(".bat"),
                                   QLatin1String(".cmd")};
 
-bool isSeparator(QChar character) {
-    return character == QLatin1Char('\\') || character == QLatin1Char('/');
-}
-
-/// The folder in which the probe was looked for; empty when something else was.
-QString folderOfProbe(const QString& path) {
-    const int end = path.size() - probeName().size();
-    const bool isProbe = end > 0 && path.endsWith(probeName()) && isSeparator(path.at(end - 1));
-    return isProbe ? path.left(end - 1).trimmed() : QString(); // as a finder that is asked for the game may trim it
-}
-
 class ExecutableWalk {
 public:
     ExecutableWalk(Recordings::Drives& drives, Progress& progress)
@@ -93,7 +82,7 @@ void InstallFolders::add(const TraceEvent& event) {
         return;
     }
     const QString path = exists->path;
-    const QString folder = folderOfProbe(path);
+    const QString folder = folderOfProbe(path).value_or(QString()).trimmed(); // as a finder of the game may trim it
     std::optional<Recordings::DrivePath> parsed = Recordings::DrivePath::parse(folder.isEmpty() ? path : folder);
     if (!folder.isEmpty() && !parsed && isSeparator(folder.at(0))) {
         m_networkFolders.append(folder);
