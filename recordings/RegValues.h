@@ -11,6 +11,7 @@ namespace Recordings {
 /// The types of values, by Windows' numbers.
 namespace RegType {
 constexpr quint32 string = 1;
+constexpr quint32 expandable = 2; ///< a string in which variables are to be replaced
 constexpr quint32 binary = 3;
 constexpr quint32 dword = 4;
 } // namespace RegType

@@ -1,6 +1,9 @@
 #include "find/explain/EventText.h"
 
+#include "find/explain/Words.h"
 #include "find/terminal/OneLine.h"
+#include "recordings/RegValues.h"
+#include "recordings/Utf16Text.h"
 
 #include <QByteArray>
 #include <QRegularExpression>
@@ -60,34 +63,26 @@ QString errorText(quint32 error) {
     }
 }
 
-QString utf16(const QByteArray& bytes) {
-    QString text(bytes.size() / 2, QChar(u'\0'));
-    std::memcpy(text.data(), bytes.constData(), static_cast<std::size_t>(text.size()) * sizeof(QChar));
-    const int end = text.indexOf(QChar(u'\0'));
-    return end < 0 ? text : text.left(end);
+QString textUntilZero(const QByteArray& bytes) {
+    const QString text = Recordings::fromUtf16(bytes);
+    return text.left(text.indexOf(QChar(u'\0')));
 }
 
 /// A value's data as the registry editor would show it.
 QString dataText(quint32 type, const QByteArray& bytes) {
-    constexpr quint32 text = 1;
-    constexpr quint32 textWithVariables = 2;
-    constexpr quint32 number = 4;
-    if (type == text) {
-        return quotedOnce(utf16(bytes));
+    namespace Type = Recordings::RegType;
+    if (type == Type::string) {
+        return quotedOnce(textUntilZero(bytes));
     }
-    if (type == textWithVariables) {
-        return quotedOnce(utf16(bytes)) + QStringLiteral(" (REG_EXPAND_SZ)");
+    if (type == Type::expandable) {
+        return quotedOnce(textUntilZero(bytes)) + QStringLiteral(" (REG_EXPAND_SZ)");
     }
-    if (type == number && bytes.size() == sizeof(quint32)) {
+    if (type == Type::dword && bytes.size() == sizeof(quint32)) {
         quint32 value = 0;
         std::memcpy(&value, bytes.constData(), sizeof value);
         return QString::number(value);
     }
     return QStringLiteral("%1 bytes of type %2").arg(QString::number(bytes.size()), QString::number(type));
-}
-
-QString counted(int count, const char* one, const char* many) {
-    return QStringLiteral("%1 %2").arg(QString::number(count), QLatin1String(count == 1 ? one : many));
 }
 
 QString textOrNone(const QString& text) {

@@ -80,9 +80,7 @@ QStringList describeIndex(const TraceSection& index, const QStringList& words) {
     if (isBrief) {
         lines.append(QStringLiteral("  … and %1 lines about others (--all shows them)").arg(leftOut));
     }
-    lines.append(QStringLiteral("The list %1 has %2.")
-                     .arg(name, index.entries == 1 ? QStringLiteral("1 entry")
-                                                   : QStringLiteral("%1 entries").arg(index.entries)));
+    lines.append(QStringLiteral("The list %1 has %2.").arg(name, counted(index.entries, "entry", "entries")));
     return lines;
 }
 

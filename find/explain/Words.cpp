@@ -41,6 +41,10 @@ QStringList searchWords(const Game& game) {
     return words;
 }
 
+QString counted(int count, const char* one, const char* many) {
+    return QStringLiteral("%1 %2").arg(QString::number(count), QLatin1String(count == 1 ? one : many));
+}
+
 bool mentions(const QString& text, const QStringList& words) {
     return std::any_of(words.begin(), words.end(),
                        [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });

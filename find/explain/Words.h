@@ -11,6 +11,9 @@ struct Game;
 /// finders search for, of three letters and more.
 QStringList searchWords(const Game& game);
 
+/// "1 entry", "2 entries".
+QString counted(int count, const char* one, const char* many);
+
 /// Whether the text has any of the words in it, letter case ignored.
 bool mentions(const QString& text, const QStringList& words);
 

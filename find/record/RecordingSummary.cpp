@@ -1,5 +1,6 @@
 #include "find/record/RecordingSummary.h"
 
+#include "find/explain/Words.h"
 #include "find/record/InstallFolders.h"
 #include "find/terminal/OneLine.h"
 
@@ -11,10 +12,6 @@
 namespace Find {
 
 namespace {
-
-QString counted(int count, const char* one, const char* many) {
-    return QString::number(count) + QLatin1Char(' ') + QLatin1String(count == 1 ? one : many);
-}
 
 QString describeDrives(const Recordings::Drives& drives) {
     int folders = 0;

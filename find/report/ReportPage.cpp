@@ -1,5 +1,6 @@
 #include "find/report/ReportPage.h"
 
+#include "find/explain/Words.h"
 #include "find/report/ReportData.h"
 #include "recordings/PcPage.h"
 
@@ -173,7 +174,7 @@ Mustache::data madeListData(const ReportedList& list) {
         lines.append(QStringLiteral("… and %1 more lines").arg(list.moreLines));
     }
     Mustache::data data("title", textData(list.title));
-    data["entries"] = list.entries == 1 ? "1 entry" : std::to_string(list.entries) + " entries";
+    data["entries"] = counted(list.entries, "entry", "entries").toStdString();
     data["text"] = lines.join(QLatin1Char('\n')).toStdString();
     return data;
 }
