@@ -43,28 +43,25 @@ QString textOf(const QJsonValue& value) {
     return list.mid(1, list.size() - 2);
 }
 
-QString textOf(const QStringList& texts) {
-    QStringList items;
-    for (const QString& text : texts) {
-        items.append(textOf(QJsonValue(text)));
-    }
-    return QStringLiteral("[%1]").arg(items.join(QLatin1String(", ")));
-}
-
-QString textOf(const std::vector<FinderEntry>& finders) {
-    QStringList items;
-    for (const FinderEntry& finder : finders) {
-        items.append(catalogueText(finder));
-    }
-    return QLatin1Char('[') + items.join(QLatin1String(", ")) + QLatin1Char(']');
-}
-
 QString textOf(const QString& text) {
     return textOf(valueOf(text));
 }
 
 QString textOf(int number) {
     return QString::number(number);
+}
+
+QString textOf(const FinderEntry& finder) {
+    return catalogueText(finder);
+}
+
+template <class Items>
+QString textOf(const Items& items) {
+    QStringList texts;
+    for (const auto& item : items) {
+        texts.append(textOf(item));
+    }
+    return QLatin1Char('[') + texts.join(QLatin1String(", ")) + QLatin1Char(']');
 }
 
 } // namespace
