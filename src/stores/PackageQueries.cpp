@@ -1,6 +1,7 @@
 #include "stores/PackageQueries.h"
 
 #include "platform/SystemFunctions.h"
+#include "support/FirstOffered.h"
 
 #include <algorithm>
 #include <cstring>
@@ -15,24 +16,14 @@ Function lookUp(const char* name) {
     return reinterpret_cast<Function>(Platform::kernelFunction(name));
 }
 
-PackageFunctions::GetPackagesByPackageFamily getPackagesByPackageFamily() {
-    static const auto kept = lookUp<PackageFunctions::GetPackagesByPackageFamily>("GetPackagesByPackageFamily");
-    return kept;
-}
+FirstOffered<const PackageFunctions> kept;
 
-PackageFunctions::OpenPackageInfoByFullName openPackageInfoByFullName() {
-    static const auto kept = lookUp<PackageFunctions::OpenPackageInfoByFullName>("OpenPackageInfoByFullName");
-    return kept;
-}
-
-PackageFunctions::ClosePackageInfo closePackageInfo() {
-    static const auto kept = lookUp<PackageFunctions::ClosePackageInfo>("ClosePackageInfo");
-    return kept;
-}
-
-PackageFunctions::GetPackageApplicationIds getPackageApplicationIds() {
-    static const auto kept = lookUp<PackageFunctions::GetPackageApplicationIds>("GetPackageApplicationIds");
-    return kept;
+std::unique_ptr<const PackageFunctions> lookUpAll() {
+    return std::make_unique<const PackageFunctions>(
+        PackageFunctions{lookUp<PackageFunctions::GetPackagesByPackageFamily>("GetPackagesByPackageFamily"),
+                         lookUp<PackageFunctions::OpenPackageInfoByFullName>("OpenPackageInfoByFullName"),
+                         lookUp<PackageFunctions::ClosePackageInfo>("ClosePackageInfo"),
+                         lookUp<PackageFunctions::GetPackageApplicationIds>("GetPackageApplicationIds")});
 }
 
 using OpenPackage =
@@ -64,7 +55,7 @@ std::vector<std::u16string> idsIn(const std::vector<uchar>& buffer, quint32 coun
 } // namespace
 
 PackageFunctions systemPackageFunctions() {
-    return {getPackagesByPackageFamily(), openPackageInfoByFullName(), closePackageInfo(), getPackageApplicationIds()};
+    return kept.getOrOffer(lookUpAll);
 }
 
 std::u16string packageFullNameOf(const std::u16string& family, const PackageFunctions& functions) {

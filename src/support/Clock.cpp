@@ -1,6 +1,9 @@
 #include "support/Clock.h"
 
 #include "platform/Clocks.h"
+#include "support/FirstOffered.h"
+
+#include <memory>
 
 namespace {
 
@@ -12,10 +15,14 @@ quint64 frequencyOf(const Clock::Functions& functions) {
     return functions.performanceFrequency(ticksPerSecond) ? static_cast<quint64>(ticksPerSecond) : 0;
 }
 
+FirstOffered<const Clock> kept;
+
 const Clock& systemClock() {
-    static const Clock kept(
-        {Platform::performanceFrequency, Platform::performanceCounter, Platform::kernelFunction, Platform::tickCount});
-    return kept;
+    return kept.getOrOffer([] {
+        return std::make_unique<const Clock>(Clock::Functions{Platform::performanceFrequency,
+                                                              Platform::performanceCounter, Platform::kernelFunction,
+                                                              Platform::tickCount});
+    });
 }
 
 } // namespace

@@ -6,6 +6,10 @@
 #include <memory>
 
 /// Keeps the first object that it is offered, for as long as it lives. Any thread may offer and get, without a lock.
+///
+/// What a process works out once is kept in one outside of any function. A static variable of a function would need
+/// nothing of the kind, but MinGW's runtime, which guards its making, takes two handles, a place for thread-local
+/// values and some memory for that, and gives them back to nobody when this library is unloaded.
 template <class T>
 class FirstOffered {
 public:
@@ -22,6 +26,14 @@ public:
         T* kept = nullptr;
         const bool isFirst = m_object.compare_exchange_strong(kept, object.get(), std::memory_order_acq_rel);
         return isFirst ? object.release() : kept;
+    }
+
+    /// The object that is kept. Where none is, offers the one that `make` returns as a unique pointer, which is not
+    /// null.
+    template <class Make>
+    T& getOrOffer(const Make& make) {
+        T* const kept = get();
+        return kept ? *kept : *offer(make());
     }
 
 private:

@@ -2,16 +2,20 @@
 
 #include "platform/Folders.h"
 #include "platform/Process.h"
+#include "support/FirstOffered.h"
 
 #include <QDir>
 
 #include <array>
+#include <memory>
 
 namespace {
 
+FirstOffered<const HostExecutable> kept;
+
 const HostExecutable& hostExecutable() {
-    static const HostExecutable kept = HostExecutable::from(Platform::moduleFileName);
-    return kept;
+    return kept.getOrOffer(
+        [] { return std::make_unique<const HostExecutable>(HostExecutable::from(Platform::moduleFileName)); });
 }
 
 } // namespace

@@ -71,11 +71,8 @@ private:
     std::unique_ptr<Platform::PlainFile> m_file;
 };
 
-/// The process's one: what the finders ask, they ask of one PC.
-Target& target() {
-    static Target target;
-    return target;
-}
+/// The process's one: what the finders ask, they ask of one PC. Not within a function: FirstOffered tells why.
+Target target;
 
 QIODevice* applicationDevice() {
     const QCoreApplication* const application = QCoreApplication::instance();
@@ -97,7 +94,7 @@ void begin() noexcept {
 }
 
 void begin(const Origin& origin) noexcept {
-    attempt([&origin] { target().follow(origin); });
+    attempt([&origin] { target.follow(origin); });
 }
 
 bool isOn() noexcept {
@@ -105,7 +102,7 @@ bool isOn() noexcept {
 }
 
 void write(const Event& event) {
-    target().write(toLine(event));
+    target.write(toLine(event));
 }
 
 void note(const char* format, ...) noexcept {

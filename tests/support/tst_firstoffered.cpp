@@ -56,6 +56,14 @@ TEST_F(FirstOfferedTest, TakesNothingForNoOffer) {
     EXPECT_EQ(kept.offer(nullptr), expected);
 }
 
+TEST_F(FirstOfferedTest, MakesOneOnlyWhereNoneIsKept) {
+    FirstOffered<Counted> kept;
+    Counted& first = kept.getOrOffer([this] { return made(); });
+    Counted& second = kept.getOrOffer([] { return std::unique_ptr<Counted>(); });
+    EXPECT_EQ(&first, &second);
+    EXPECT_EQ(kept.get(), &first);
+}
+
 TEST_F(FirstOfferedTest, SixteenThreadsThatOfferAtOnceGetTheSameOne) {
     {
         FirstOffered<Counted> kept;
