@@ -5,7 +5,11 @@
 
 #include "common/QtPrinters.h"
 #include "common/recorded/RecordingFolder.h"
+#include "core/Locations.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <gtest/gtest.h>
@@ -77,6 +81,26 @@ TEST(WithoutARecording, TheUsersChoiceIsInTheUsersSettings) {
     EXPECT_EQ(own.value("UserProvidedLocations/Wal").toString(), "/opt/wal");
     EXPECT_EQ(UserProvidedLocationFinder(&logger, "Wal", {}).userLocation(), "/opt/wal");
     own.clear();
+}
+
+TEST(WithoutARecording, AChoiceThatCannotBeWrittenIsNoReasonToFail) {
+    const QString folder = QFileInfo(QSettings(QSettings::UserScope, "Veltrane", "Quorvan").fileName()).path();
+    QDir(folder).removeRecursively();
+    ASSERT_TRUE(QFile(folder).open(QIODevice::WriteOnly)) << "where the folder of the settings would be";
+    Logger logger = Logger::create("Quorvan.Test.User");
+    UserProvidedLocationFinder finder(&logger, "Hai", {"hai.exe"});
+    finder.setUserLocation("/opt/hai");
+    finder.setUserLocation("");
+    GameLocation location;
+    EXPECT_FALSE(finder.find(location));
+    EXPECT_EQ(location, GameLocation());
+
+    ASSERT_TRUE(QFile::remove(folder));
+    finder.setUserLocation("/opt/hai");
+    QFile file(folder + "/Quorvan.conf");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "[UserProvidedLocations]\nHai=/opt/hai\n");
+    finder.setUserLocation("");
 }
 
 } // namespace
