@@ -21,6 +21,9 @@ std::size_t peakMemory(const std::function<void()>& work);
 /// What later questions take.
 void searches(const Figures& figures, int keys, int files);
 
+/// Does, between questions for the files "calls: NAME" and "calls: end", what bench/run counts the system calls of.
+void calls(const QString& plugin);
+
 /// The plug-in as a file: its size, its loading, `Create`.
 void plugin(const Figures& figures, const QString& path);
 

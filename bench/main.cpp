@@ -27,6 +27,10 @@ int main(int argc, char** argv) {
     BenchPc pc;
     InstalledGames::install(pc, keys, files);
     pc.use();
+    if (arguments.contains(QLatin1String("--calls"))) {
+        Benchmarks::calls(arguments.at(2));
+        return 0;
+    }
     const Figures figures(keys, arguments.contains(QLatin1String("--once")) ? 0 : seconds);
     Benchmarks::builds(figures, keys, files);
     Benchmarks::programs(figures, keys, files);
