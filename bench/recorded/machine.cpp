@@ -7,6 +7,7 @@
 
 extern "C" {
 void* __libc_malloc(std::size_t size);
+void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* memory, std::size_t size);
 void __libc_free(void* memory);
 }
@@ -29,6 +30,10 @@ void* counted(void* memory) noexcept {
 
 extern "C" void* malloc(std::size_t size) noexcept {
     return counted(__libc_malloc(size));
+}
+
+extern "C" void* calloc(std::size_t count, std::size_t size) noexcept {
+    return counted(__libc_calloc(count, size));
 }
 
 extern "C" void* realloc(void* memory, std::size_t size) noexcept {
