@@ -56,10 +56,10 @@ TEST_F(PcFiles, AreListedByTheirEndingsWithoutHiddenOnesAndFolders) {
     pc.hide(folder + "\\hid.acf");
     pc.makeSystem(folder + "\\sys.acf");
     const QStringList byQt = QDir(Platform::pathOnPc(folder)).entryList({"*.acf"}, QDir::Files, QDir::Unsorted);
-    EXPECT_EQ(Files::names(folder, "*.acf"), byQt);
+    EXPECT_EQ(Files::names(folder, ".acf"), byQt);
     EXPECT_THAT(byQt, IsSupersetOf({QString("b.acf"), QString("A.ACF"), QString("sys.acf")}));
     EXPECT_THAT(byQt, AllOf(Not(Contains("hid.acf")), Not(Contains("folder.acf")), Not(Contains("a.acf.bak"))));
-    EXPECT_EQ(Files::names(folder + "\\missing", "*.acf"), QStringList());
+    EXPECT_EQ(Files::names(folder + "\\missing", ".acf"), QStringList());
 }
 
 TEST_F(PcFiles, AreListedThroughLinksAndByNamesBeyondTheBasicPlane) {
@@ -69,7 +69,7 @@ TEST_F(PcFiles, AreListedThroughLinksAndByNamesBeyondTheBasicPlane) {
     pc.folder("C:\\Luruludri Test\\Target");
     pc.link(folder + "\\link.acf", "C:\\Luruludri Test\\Target");
     const QStringList byQt = QDir(Platform::pathOnPc(folder)).entryList({"*.acf"}, QDir::Files, QDir::Unsorted);
-    EXPECT_EQ(Files::names(folder, "*.acf"), byQt);
+    EXPECT_EQ(Files::names(folder, ".acf"), byQt);
     EXPECT_THAT(byQt, UnorderedElementsAre("plain.acf", QString::fromUtf8("\xF0\x9F\x8E\xAE.acf")));
 }
 
