@@ -4,6 +4,8 @@
 
 #include <QFileInfo>
 
+#include <new>
+
 namespace Find {
 
 Plugin::Plugin(const QString& file)
@@ -29,6 +31,18 @@ std::unique_ptr<IGameFinderFactory> Plugin::createFactory(QString& fault) {
         fault = QStringLiteral("%1: Create made no factory").arg(m_library.fileName());
     }
     return factory;
+}
+
+void withPlugin(const QString& file, QString& fault, const std::function<void(IGameFinderFactory&)>& ask) {
+    Plugin plugin(file);
+    try {
+        if (const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault)) {
+            ask(*factory);
+        }
+    } catch (const std::bad_alloc&) {
+        // Here and not further out: what the plug-in throws is destroyed by code of the plug-in.
+        fault = QStringLiteral("out of memory");
+    }
 }
 
 } // namespace Find

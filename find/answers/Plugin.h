@@ -4,6 +4,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <functional>
 #include <memory>
 
 class IGameFinderFactory;
@@ -26,5 +27,9 @@ private:
 
     QLibrary m_library;
 };
+
+/// Has `ask` ask a factory of the plug-in in this file, which is unloaded afterwards. Says in `fault` why it could not,
+/// or that memory ran out meanwhile.
+void withPlugin(const QString& file, QString& fault, const std::function<void(IGameFinderFactory&)>& ask);
 
 } // namespace Find

@@ -7,8 +7,6 @@
 #include "find/terminal/Progress.h"
 
 #include <iterator>
-#include <memory>
-#include <new>
 
 namespace Find {
 
@@ -80,18 +78,12 @@ void askAll(IGameFinderFactory& factory, const Catalogue& games, PluginTrace& tr
 Survey surveyPc(const QString& pluginFile, const Catalogue& games, QString& fault, const MoreQuestions& askMore) {
     Survey survey;
     PluginTrace trace;
-    Plugin plugin(pluginFile);
-    try {
-        if (const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault)) {
-            askAll(*factory, games, trace, survey);
-            if (askMore) {
-                askMore(*factory, trace, survey);
-            }
+    withPlugin(pluginFile, fault, [&](IGameFinderFactory& factory) {
+        askAll(factory, games, trace, survey);
+        if (askMore) {
+            askMore(factory, trace, survey);
         }
-    } catch (const std::bad_alloc&) {
-        // Here and not further out: what the plug-in throws is destroyed by code of the plug-in.
-        fault = QStringLiteral("out of memory");
-    }
+    });
     if (fault.isEmpty() && survey.events.empty()) {
         fault = QStringLiteral("the plug-in did not tell what it read");
     }
