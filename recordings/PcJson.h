@@ -4,8 +4,6 @@
 #include "recordings/Pc.h"
 #include "recordings/Problem.h"
 
-#include <QByteArray>
-
 #include <vector>
 
 namespace Recordings {

@@ -20,7 +20,7 @@ struct ShellLink {
 };
 
 /// Reads a shortcut as learn.microsoft.com/openspecs/windows_protocols/ms-shllink describes it. Empty when `bytes` are
-/// none or are damaged. A list of shell items, which also tells the target but only to a shell, is not read.
+/// none or are damaged.
 std::optional<ShellLink> parseShellLink(const QByteArray& bytes, int codePage = westernCodePage);
 
 /// Where `link` leads, as Qt writes it on Windows: "C:/Games/X/X.exe". `folder` is the one in which the shortcut lies.

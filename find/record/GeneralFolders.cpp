@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 
 namespace Find {
 

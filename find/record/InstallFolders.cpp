@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <vector>
 
 namespace Find {
 

@@ -8,7 +8,6 @@
 #include <QStringList>
 
 #include <map>
-#include <vector>
 
 namespace Find {
 

@@ -9,8 +9,6 @@
 #include "find/report/NeutralTexts.h"
 #include "find/report/SimilarNames.h"
 
-#include <algorithm>
-
 namespace Find {
 
 namespace {

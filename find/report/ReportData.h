@@ -5,7 +5,6 @@
 #include "find/record/RecordingSummary.h"
 #include "find/report/Installed.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 

@@ -6,8 +6,6 @@
 #include "core/Locations.h"
 #include "platform/Folders.h"
 
-#include <QDir>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

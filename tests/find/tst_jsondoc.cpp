@@ -5,12 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QJsonValue>
-
-#include <utility>
 
 namespace {
 
