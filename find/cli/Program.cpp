@@ -2,10 +2,10 @@
 
 #include "core/IGameFinderFactory.h"
 #include "find/answers/Answers.h"
+#include "find/answers/AnswersText.h"
 #include "find/answers/ChosenRecording.h"
 #include "find/answers/GivenFolder.h"
 #include "find/answers/Plugin.h"
-#include "find/answers/Report.h"
 #include "find/catalogue/Catalogue.h"
 #include "find/cli/ChoiceCommands.h"
 #include "find/cli/CommandForms.h"

@@ -1,4 +1,4 @@
-#include "find/answers/Report.h"
+#include "find/answers/AnswersText.h"
 
 #include "find/answers/Answers.h"
 #include "find/terminal/Table.h"

@@ -1,5 +1,5 @@
 #include "find/answers/Answers.h"
-#include "find/answers/Report.h"
+#include "find/answers/AnswersText.h"
 #include "find/terminal/OneLine.h"
 
 #include "common/QtPrinters.h"
