@@ -4,7 +4,6 @@
 #include "platform/windows/WideText.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <windows.h>
@@ -13,7 +12,8 @@
 
 class BenchPc::World {
 public:
-    QString lastFolder; ///< that was made
+    QString folder; ///< that was made last
+    QString place;  ///< how it is named where that takes no time
 };
 
 namespace {
@@ -27,6 +27,20 @@ HKEY handleOf(Platform::RootKey root) {
     default:
         return HKEY_CURRENT_USER;
     }
+}
+
+/// As the system below Wine names it, where there is one: Wine itself looks through a whole folder for each new name,
+/// lest it differ from another by letter case only.
+QString placeOf(const QString& folder) {
+    using UnixName = char*(CDECL*)(const wchar_t*);
+    const auto unixName = reinterpret_cast<UnixName>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
+    const QString native = QDir::toNativeSeparators(folder);
+    if (unixName == nullptr) {
+        return native;
+    }
+    return QDir::toNativeSeparators(QStringLiteral("\\\\?\\unix") +
+                                    QString::fromUtf8(unixName(Platform::wide(native))));
 }
 
 } // namespace
@@ -56,15 +70,19 @@ void BenchPc::key(Platform::RootKey root, const QString& path, quint32 view, con
 }
 
 void BenchPc::file(const QString& path, const QByteArray& contents) {
-    const QString folder = QFileInfo(path).path();
-    if (folder != m_world->lastFolder) {
-        QDir().mkpath(folder);
-        m_world->lastFolder = folder;
+    const QFileInfo file(path);
+    if (file.path() != m_world->folder) {
+        QDir().mkpath(file.path());
+        m_world->folder = file.path();
+        m_world->place = placeOf(file.path());
     }
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
+    const HANDLE handle = ::CreateFileW(Platform::wide(m_world->place + QLatin1Char('\\') + file.fileName()),
+                                        GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    DWORD written = 0;
+    if (::WriteFile(handle, contents.constData(), static_cast<DWORD>(contents.size()), &written, nullptr) == 0) {
         qFatal("cannot write %s", qUtf8Printable(path));
     }
+    ::CloseHandle(handle);
 }
 
 void BenchPc::userChoice(const QString& key, const QString& folder) {
