@@ -37,6 +37,7 @@ public:
     // Files and folders, with the folders on the way
     void file(const QString& path, const QByteArray& contents = {});
     void folder(const QString& path);
+    void files(const QString& folder, int count); ///< so many empty ones: "0.txt", "1.txt" …
     void shortcut(const QString& path, const QString& target);
     void link(const QString& path, const QString& folder); ///< a junction or link to a folder
     void removeFile(const QString& path);
@@ -57,6 +58,9 @@ public:
 
     /// The name of the volume that is mounted as this drive ("\\\\?\\Volume{…}\\").
     QString volume(QChar drive) const;
+
+    /// The most memory that this process has had so far, in bytes.
+    static qint64 peakMemory();
 
     // This library's log files
     static QString logFolder();

@@ -131,4 +131,23 @@ TEST_F(FolderFinderTest, APathOfAnyLengthIsLookedFor) {
     }
 }
 
+TEST_F(FolderFinderTest, NamesThatWindowsReadsInItsOwnWayCostNoOther) {
+    pc.file("D:\\Games\\X\\a.exe");
+    const QString path = "D:\\Games\\X\\";
+    for (const char* const name : {"CON", "NUL", "nul.exe", "COM1.txt", "AUX", "LPT9", "CON\\a.exe", "a.exe ", " ",
+                                   "a.exe:stream", "a.exe\\", "*", "a.ex?"}) {
+        EXPECT_TRUE(find("D:\\Games\\X", {name, "a.exe"})) << name;
+        EXPECT_THAT(location.executablePaths, ElementsAre(path + "a.exe")) << name;
+    }
+    for (const char* const name : {"a.exe.", ".", "..", "..."}) {
+        EXPECT_TRUE(find("D:\\Games\\X", {name, "a.exe"})) << name;
+        EXPECT_THAT(location.executablePaths, ElementsAre(path + name, path + "a.exe")) << "dots at the end are none";
+    }
+    for (const char* const folder : {"CON", "NUL", "\\\\.\\NUL", "\\\\.\\COM1", "D:\\Games\\CON", "D:\\Games\\X ",
+                                     "D:\\Games\\...", "D:\\Games\\X\\NUL", " "}) {
+        EXPECT_FALSE(find(folder, {"a.exe"})) << folder;
+    }
+    EXPECT_TRUE(find("D:\\Games\\X.", {"a.exe"}));
+}
+
 } // namespace

@@ -229,6 +229,9 @@ TEST_F(EpicManifestIndexTest, AManifestLargerThanAnyRealOneIsSkipped) {
     EXPECT_THAT(pc.messages(logName),
                 ElementsAre(folderLine(), "A:   App: Kiwi | Kiwi", "W:   Skipped invalid manifest: 2.item",
                             "W:   Skipped invalid manifest: 3.item"));
+    const qint64 peak = TestPc::peakMemory();
+    EXPECT_GT(peak, largest);
+    EXPECT_LT(peak, qint64{1024} * 1024 * 1024) << "less than the third has";
 }
 
 TEST_F(EpicManifestIndexTest, AFolderNamedLikeAManifestIsNone) {

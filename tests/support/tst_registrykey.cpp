@@ -90,6 +90,29 @@ TEST_F(RegistryKeyTest, ReadsLongTextWhole) {
     }
 }
 
+TEST_F(RegistryKeyTest, ReadsTextOf64KiBAndOf1MiB) {
+    for (const int bytes : {64 * 1024, 1024 * 1024}) {
+        const QString text = QString(bytes / 2 - 2, u'x') + u'y';
+        pc.value(testKey, "V", text);
+        EXPECT_EQ(read(), text) << bytes;
+        pc.value(testKey, "V", Platform::regSz, utf16(text + u'z'));
+        EXPECT_EQ(read(), text + u'z') << bytes << " without an end";
+        pc.value(testKey, "V", regBinary, QByteArray(bytes, 'x'));
+        EXPECT_EQ(read(), "(false)") << bytes;
+    }
+}
+
+TEST_F(RegistryKeyTest, HalvesOfSurrogatePairsStayAsTheyAre) {
+    const QString halves = QString("a") + QChar(0xD800) + "b" + QChar(0xDC00) + "c" + QChar(0xD83D);
+    pc.value(testKey, halves, halves);
+    EXPECT_EQ(read(halves), halves);
+    pc.value({RootKey::LocalMachine, path + '\\' + halves}, "V", "in a key");
+    QStringList names;
+    EXPECT_TRUE(RegistryKey::open(path, Hive::localMachine, View::view64).subKeyNames(names));
+    EXPECT_THAT(names, ElementsAre(halves));
+    EXPECT_EQ(readRegistryString(path + '\\' + halves, Hive::localMachine, View::view64, "V"), "in a key");
+}
+
 TEST_F(RegistryKeyTest, ReadsTextThatLacksItsEnd) {
     for (const int length : {1, 254, 255, 256, 300}) {
         const QString text(length, 'x');

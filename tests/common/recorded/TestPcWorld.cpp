@@ -15,6 +15,8 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
+#include <sys/resource.h>
+
 /// A recorded PC. The library reads a recording again only when another one is chosen, so that each change gives it
 /// another name.
 class TestPc::World {
@@ -142,6 +144,14 @@ void TestPc::folder(const QString& path) {
     m_world->rename();
 }
 
+void TestPc::files(const QString& folder, int count) {
+    QDir().mkpath(m_world->realPath(folder));
+    for (int i = 0; i < count; ++i) {
+        QFile(m_world->realPath(folder) + QString("/%1.txt").arg(i)).open(QIODevice::WriteOnly);
+    }
+    m_world->rename();
+}
+
 void TestPc::shortcut(const QString& path, const QString& target) {
     file(path, Recordings::renderShellLink(target));
 }
@@ -196,6 +206,12 @@ bool TestPc::package(const QString& family, const QString& fullName, const QStri
     pc.packages->push_back({family, fullName, {applicationId}});
     m_world->describe();
     return true;
+}
+
+qint64 TestPc::peakMemory() {
+    rusage usage{};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss * qint64{1024};
 }
 
 QString TestPc::volume(QChar drive) const {

@@ -12,6 +12,8 @@
 
 #include <windows.h>
 
+#include <psapi.h>
+
 #include <array>
 #include <vector>
 
@@ -65,7 +67,7 @@ bool runBelowWine(const QString& program, const QStringList& arguments) {
 }
 
 void waitUntil(const QString& path, bool exists) {
-    for (int i = 0; i < 500 && (::GetFileAttributesW(wide(path)) != INVALID_FILE_ATTRIBUTES) != exists; ++i) {
+    for (int i = 0; i < 3000 && (::GetFileAttributesW(wide(path)) != INVALID_FILE_ATTRIBUTES) != exists; ++i) {
         QThread::msleep(10);
     }
 }
@@ -93,7 +95,7 @@ public:
             ::RegDeleteKeyExW(rootHandle(key->root), wide(key->path), accessOf(*key) & ~REGSAM(KEY_ALL_ACCESS), 0);
         }
         for (const QString& link : m_links) {
-            if (!runBelowWine("rm", {belowWine(link)})) {
+            if (!runBelowWine("rm", {"-rf", belowWine(link)})) {
                 ::RemoveDirectoryW(wide(link));
             }
             waitUntil(link, false);
@@ -215,6 +217,23 @@ void TestPc::folder(const QString& path) {
     m_world->makeFolder(path);
 }
 
+void TestPc::files(const QString& folder, int count) {
+    m_world->makeFolder(folder); // which goes with all that is in it
+    // Wine reads the whole folder for each file that is new there.
+    const QString making =
+        QString("cd '%1' && seq -f %.0f.txt 0 %2 | xargs touch").arg(belowWine(folder)).arg(count - 1);
+    const QString last = folder + QString("\\%1.txt").arg(count - 1);
+    if (runBelowWine("sh", {"-c", making})) {
+        waitUntil(last, true);
+        m_world->rememberLink(folder);
+        return;
+    }
+    for (int i = 0; i < count; ++i) {
+        const QString path = folder + QString("\\%1.txt").arg(i);
+        ::CloseHandle(::CreateFileW(wide(path), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
+    }
+}
+
 void TestPc::shortcut(const QString& path, const QString& target) {
     m_world->makeFolder(QFileInfo(path).path());
     if (!QFile::link(target, path)) {
@@ -267,6 +286,12 @@ void TestPc::userChoice(const QString& key, const QString& folder) {
 
 bool TestPc::package(const QString& /*family*/, const QString& /*fullName*/, const QString& /*applicationId*/) {
     return false; // as Windows installs only what is signed, and Wine nothing
+}
+
+qint64 TestPc::peakMemory() {
+    PROCESS_MEMORY_COUNTERS counters{};
+    ::K32GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof counters);
+    return static_cast<qint64>(counters.PeakWorkingSetSize);
 }
 
 QString TestPc::volume(QChar drive) const {
