@@ -52,7 +52,7 @@ need_packages() {
 {
     native_packages=(cmake ninja-build g++ ccache qtbase5-dev qtbase5-private-dev libcli11-dev libkainjow-mustache-dev
         googletest)
-    test_packages=(clang python3 python3-selenium chromium chromium-driver)
+    test_packages=(clang python3 python3-selenium chromium chromium-driver zsh)
     fuzz_packages=(clang libclang-rt-14-dev)
     windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 dpkg-dev make perl python3 patch xz-utils qt5-qmake
         qtbase5-dev-tools ca-certificates nsis wixl)
