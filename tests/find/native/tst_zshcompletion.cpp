@@ -28,7 +28,7 @@ void expectCompletion(const QString& setUp, const QString& typed, const QString&
 }
 
 TEST(ZshCompletion, CompletesCommandsAndOptions) {
-    const QString folder = "fpath=(" LURULUDRI_DOCS "/shell \\$fpath); autoload -Uz compinit; compinit -u -D";
+    const QString folder = "fpath=(" LURULUDRI_DOCS "/shell $fpath); autoload -Uz compinit; compinit -u -D";
     const QString sourced = "autoload -Uz compinit; compinit -u -D; source " LURULUDRI_DOCS "/shell/_luruludri-find";
     for (const QString& setUp : {folder, sourced}) {
         expectCompletion(setUp, "luruludri-find report --k", "eep-names");
