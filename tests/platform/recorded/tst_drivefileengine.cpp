@@ -1,5 +1,5 @@
 #include "common/QtPrinters.h"
-#include "common/recorded/RecordingFolder.h"
+#include "platform/recorded/DrivesTest.h"
 #include "platform/recorded/Observer.h"
 
 #include <QDateTime>
@@ -14,18 +14,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class DriveFileEngineTest : public ::testing::Test {
-protected:
-    DriveFileEngineTest() {
-        pc.file("drives/C/Games/Käfer/Käfer.exe", "12345");
-        pc.file("drives/C/Games/readme.txt", "hello");
-        pc.folder("drives/C/Games/Empty");
-        pc.folder("drives/D");
-        pc.choose();
-    }
-
-    RecordingFolder pc;
-};
+using DriveFileEngineTest = DrivesTest;
 
 // Finding
 

@@ -1,5 +1,5 @@
 #include "common/QtPrinters.h"
-#include "common/recorded/RecordingFolder.h"
+#include "platform/recorded/DrivesTest.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -30,18 +30,7 @@ QStringList walk(const QString& path, QDirIterator::IteratorFlags flags = QDirIt
     return paths;
 }
 
-class DriveListingTest : public ::testing::Test {
-protected:
-    DriveListingTest() {
-        pc.file("drives/C/Games/Käfer/Käfer.exe", "12345");
-        pc.file("drives/C/Games/readme.txt", "hello");
-        pc.folder("drives/C/Games/Empty");
-        pc.folder("drives/D");
-        pc.choose();
-    }
-
-    RecordingFolder pc;
-};
+using DriveListingTest = DrivesTest;
 
 TEST_F(DriveListingTest, ListsInTheOrderOfNtfs) {
     for (const char* const name : {"b.txt", "C.txt", "_.txt", "a.txt", "Z.txt"}) {
