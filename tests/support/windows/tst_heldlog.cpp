@@ -7,12 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <windows.h>
-
 #include <gtest/gtest.h>
-
-#include <fcntl.h>
-#include <io.h>
 
 namespace {
 
@@ -37,27 +32,6 @@ TEST(HeldLog, GrowsOnWhileItsBackupsMove) {
     EXPECT_EQ(log.count("LOG CREATED"), 2);
     EXPECT_EQ(log.count("A: second\r\n"), 1);
     EXPECT_EQ(log.count("A: holder\r\n"), 1);
-}
-
-/// The number that the runtime gives to the next file that is opened.
-int nextDescriptor() {
-    const int descriptor = ::_open("NUL", _O_RDONLY);
-    ::_close(descriptor);
-    return descriptor;
-}
-
-// Two processes write to one log at once: each line comes behind the other's, as Windows itself looks for the end.
-TEST(HeldLog, TakesALineAtItsEndWhereverItsWriterBelievesThatToBe) {
-    const TestPc pc;
-    const int descriptor = nextDescriptor();
-    LogFile log("Test", 2, {});
-    const auto file = reinterpret_cast<HANDLE>(::_get_osfhandle(descriptor));
-    DWORD written = 0;
-    OVERLAPPED atBeginning{};
-    ASSERT_TRUE(::WriteFile(file, "late\r\n", 6, &written, &atBeginning));
-    EXPECT_EQ(written, 6U);
-    EXPECT_TRUE(pc.log("Test").endsWith("\r\nlate\r\n")) << pc.log("Test").toStdString();
-    EXPECT_EQ(pc.log("Test").count("LOG CREATED"), 1);
 }
 
 } // namespace
