@@ -71,7 +71,8 @@ void readRegistryJson(const JsonValue& json, const QString& file, Registry& regi
             if (const std::optional<RegValue> value = valueOf(member)) {
                 key.apply(*value);
             } else {
-                report(member, QStringLiteral("a string is expected, or a \"type\" and \"bytes\" in hexadecimal digits"));
+                report(member,
+                       QStringLiteral("a string is expected, or a \"type\" and \"bytes\" in hexadecimal digits"));
             }
         }
     }

@@ -31,8 +31,6 @@
 #include <QJsonObject>
 
 #include <algorithm>
-#include <memory>
-#include <new>
 #include <optional>
 
 namespace Find {
@@ -126,21 +124,17 @@ ExitStatus explainGame(IGameFinderFactory& factory, const Options& options, cons
     return afterPrinting(printReply(reply), status);
 }
 
-ExitStatus askWithin(Plugin& plugin, const Options& options, const Catalogue& games, const PluginTrace* trace) {
-    QString fault;
-    const std::unique_ptr<IGameFinderFactory> factory = plugin.createFactory(fault);
-    if (!factory) {
-        return fail(fault);
-    }
+ExitStatus askWithin(IGameFinderFactory& factory, const Options& options, const Catalogue& games,
+                     const PluginTrace* trace) {
     switch (options.command) {
     case Command::Locate:
-        return locateGame(*factory, options, games);
+        return locateGame(factory, options, games);
     case Command::Forget:
-        return forgetGame(*factory, options);
+        return forgetGame(factory, options);
     case Command::Explain:
-        return explainGame(*factory, options, games, *trace);
+        return explainGame(factory, options, games, *trace);
     default:
-        return answer(*factory, options, games);
+        return answer(factory, options, games);
     }
 }
 
@@ -149,13 +143,12 @@ ExitStatus askPlugin(const Options& options, const Catalogue& games) {
     if (options.command == Command::Explain) {
         trace.emplace();
     }
-    Plugin plugin(options.plugin);
-    try {
-        return askWithin(plugin, options, games, trace ? &*trace : nullptr);
-    } catch (const std::bad_alloc&) {
-        // Here and not further out: what the plug-in throws is destroyed by code of the plug-in.
-        return failForMemory();
-    }
+    ExitStatus status = failed;
+    QString fault;
+    withPlugin(options.plugin, fault, [&](IGameFinderFactory& factory) {
+        status = askWithin(factory, options, games, trace ? &*trace : nullptr);
+    });
+    return fault.isEmpty() ? status : fail(fault);
 }
 
 /// Why the user's choice cannot be changed; empty when it can.

@@ -12,7 +12,7 @@ ExitStatus runProgram(const QStringList& arguments);
 /// What a double click does (Dialogue.h), on the terminal and the Desktop.
 ExitStatus runDialogue();
 
-/// Tells the user that memory ran out, which is how `runProgram` and its caller end on std::bad_alloc.
+/// Tells the user that memory ran out, which is how the caller of `runProgram` ends on std::bad_alloc.
 ExitStatus failForMemory();
 
 } // namespace Find
