@@ -4,8 +4,6 @@
 
 #include <QSet>
 
-#include <algorithm>
-
 namespace Recordings {
 
 namespace {
@@ -78,16 +76,22 @@ File* Drives::add(const QString& foldedFolder, const QString& name) {
 }
 
 void Drives::list(const DrivePath& path, const QStringList& names, File::Kind kind) {
+    File& folder = make(path, File::Kind::Folder);
+    const QString foldedFolder = foldedPath(path);
     QSet<QString> listed; // by folded name
     std::vector<QString> inOrder;
     for (const QString& name : names) {
-        if (!listed.contains(foldName(name))) {
-            listed.insert(foldName(name));
-            inOrder.push_back(name);
-            make(pathIn(path, name), kind).name = name;
+        const QString folded = foldName(name);
+        if (listed.contains(folded)) {
+            continue;
         }
+        listed.insert(folded);
+        inOrder.push_back(name);
+        File* file = add(foldedFolder, name);
+        file = file != nullptr ? file : &m_files[foldedFolder + slash + folded];
+        file->name = name;
+        file->kind = kind == File::Kind::Folder ? kind : file->kind;
     }
-    File& folder = make(path, File::Kind::Folder);
     for (const QString& name : folder.names) {
         if (!listed.contains(foldName(name))) {
             inOrder.push_back(name);
@@ -111,25 +115,25 @@ QStringList Drives::letters() const {
     return letters;
 }
 
-void Drives::visit(const std::function<void(const DrivePath& path, const File& file)>& visit) const {
-    struct Pending {
-        DrivePath path;
-        QString folded;
-    };
-
-    std::vector<Pending> pending;
+void Drives::visit(const Visit& visit) const {
     const QStringList roots = letters();
-    std::for_each(roots.rbegin(), roots.rend(), [&](const QString& root) {
-        pending.push_back({rootOf(root.at(0)), foldedRoot(root.at(0))});
-    });
-    while (!pending.empty()) {
-        const Pending next = std::move(pending.back());
-        pending.pop_back();
-        const File& file = *m_files.constFind(next.folded);
-        visit(next.path, file);
-        for (auto name = file.names.rbegin(); name != file.names.rend(); ++name) {
-            pending.push_back({pathIn(next.path, *name), next.folded + slash + foldName(*name)});
-        }
+    for (const QString& root : roots) {
+        DrivePath path = rootOf(root.at(0));
+        QString folded = foldedRoot(root.at(0));
+        this->visit(path, folded, visit);
+    }
+}
+
+void Drives::visit(DrivePath& path, QString& folded, const Visit& visit) const {
+    const File& file = *m_files.constFind(folded);
+    visit(path, file);
+    const int end = folded.size();
+    for (const QString& name : file.names) {
+        path.names.append(name);
+        folded += slash + foldName(name);
+        this->visit(path, folded, visit);
+        folded.truncate(end);
+        path.names.removeLast();
     }
 }
 

@@ -57,11 +57,14 @@ public:
     QStringList letters() const;
 
     /// Calls `visit` with every file and folder and its path, each folder before what is in it.
-    void visit(const std::function<void(const DrivePath& path, const File& file)>& visit) const;
+    using Visit = std::function<void(const DrivePath& path, const File& file)>;
+    void visit(const Visit& visit) const;
 
     friend bool operator==(const Drives& a, const Drives& b) { return a.m_files == b.m_files; }
 
 private:
+    void visit(DrivePath& path, QString& folded, const Visit& visit) const;
+
     QHash<QString, File> m_files; ///< by folded path
 };
 

@@ -43,12 +43,14 @@ template <class Items, class MakeData>
 Mustache::data groupsData(const Items& items, MakeData makeData) {
     constexpr std::size_t rowsOfGroup = 50;
     Mustache::list groups;
+    groups.reserve(items.size() / rowsOfGroup + 1); // as growing copies all that is in it
     for (std::size_t first = 0; first < items.size(); first += rowsOfGroup) {
         Mustache::list rows;
+        rows.reserve(rowsOfGroup);
         for (std::size_t i = first; i < std::min(items.size(), first + rowsOfGroup); ++i) {
             rows.push_back(makeData(items[i]));
         }
-        groups.emplace_back()["rows"] = rows;
+        groups.emplace_back()["rows"] = std::move(rows);
     }
     return groups;
 }
@@ -115,6 +117,7 @@ const char* sectionOf(ExplanationLine::Kind kind) {
 /// What was seen in one go stands together.
 Mustache::data explanationData(const std::vector<ExplanationLine>& lines) {
     Mustache::list blocks;
+    blocks.reserve(lines.size());
     for (auto line = lines.begin(); line != lines.end();) {
         const ExplanationLine::Kind kind = line->kind;
         QStringList texts;
