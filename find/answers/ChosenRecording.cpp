@@ -57,6 +57,7 @@ Complaint PcFromInput::shown(Complaint complaint) const {
 
 std::vector<Complaint> describeProblems(const QString& path, const std::vector<Recordings::Problem>& problems) {
     std::vector<Complaint> complaints;
+    complaints.reserve(problems.size());
     for (const Recordings::Problem& problem : problems) {
         complaints.emplace_back(describeFile(path, problem.file), problem.line, 0, problem.message);
     }

@@ -50,7 +50,7 @@ Mustache::data groupsData(const Items& items, MakeData makeData) {
         for (std::size_t i = first; i < std::min(items.size(), first + rowsOfGroup); ++i) {
             rows.push_back(makeData(items[i]));
         }
-        groups.emplace_back()["rows"] = std::move(rows);
+        groups.emplace_back()["rows"] = rows;
     }
     return groups;
 }
