@@ -54,8 +54,7 @@ void SteamLibraryIndex::read(const QString& folder, std::list<SteamAppEntry>& en
         if (!manifest.startsWith(prefix)) {
             continue;
         }
-        const QString baseName = manifest.left(manifest.indexOf(QLatin1Char('.')));
-        const SteamAppEntry entry{baseName.mid(prefix.size()), commonFolder};
+        const SteamAppEntry entry{Paths::baseName(manifest, prefix.size()), commonFolder};
         add(entries, entry, entry.appId, entry.commonFolder, m_appIds.row(entry.appId, entry));
         logger.logAlways("  App ID: %ls", qUtf16Printable(entry.appId));
     }

@@ -44,8 +44,9 @@ void EpicManifestIndex::build(std::list<EpicAppEntry>& entries) {
     logger.logAlways("MetaDir Folder: %ls", qUtf16Printable(folder));
     const QStringList manifests = Files::names(folder, QStringLiteral(".item"));
     m_names.reserve(static_cast<std::size_t>(manifests.size()));
+    const QDir dir(folder);
     for (const QString& manifest : manifests) {
-        read(QDir(folder), manifest, entries, logger);
+        read(dir, manifest, entries, logger);
     }
     if (entries.empty()) {
         logger.logAlways("No apps");

@@ -3,9 +3,8 @@
 #include "stores/OculusLibraries.h"
 #include "support/Files.h"
 #include "support/Logger.h"
+#include "support/Paths.h"
 #include "support/Trace.h"
-
-#include <QFileInfo>
 
 OculusLibraryIndex::OculusLibraryIndex()
     : Index(Trace::IndexName::oculusLibraries) {}
@@ -34,7 +33,7 @@ void OculusLibraryIndex::read(const QString& folder, std::list<OculusAppEntry>& 
     const QStringList manifests = Files::names(folder, QStringLiteral(".json.mini"));
     m_appIds.reserve(static_cast<std::size_t>(manifests.size()));
     for (const QString& manifest : manifests) {
-        const OculusAppEntry entry{QFileInfo(manifest).baseName(), folder};
+        const OculusAppEntry entry{Paths::baseName(manifest), folder};
         add(entries, entry, entry.appId, entry.manifestsFolder, m_appIds.row(entry.appId, entry));
         logger.logAlways("  App ID: %ls", qUtf16Printable(entry.appId));
     }

@@ -26,6 +26,11 @@ inline QString cleaned(const QString& path) {
     return toNative(Platform::cleanPath(path));
 }
 
+/// What a file's name, which has a dot at or behind `from`, has between there and its first dot.
+inline QString baseName(const QString& fileName, int from = 0) {
+    return fileName.mid(from, fileName.indexOf(QLatin1Char('.')) - from);
+}
+
 // With forward slashes:
 
 /// The folder that `path` is in.

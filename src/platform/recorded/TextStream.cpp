@@ -1,6 +1,5 @@
 #include "platform/TextStream.h"
 
-#include "platform/TextStream.h"
 #include "recordings/DrivePath.h"
 #include "recordings/Utf8Reader.h"
 
