@@ -48,9 +48,9 @@ void GamesExplorerIndex::read(quint32 view, std::list<GamesExplorerEntry>& entri
     QStringList names;
     RegistryKey::open(rootKeyPath(), Hive::localMachine, view).subKeyNames(names);
     m_titles.reserve(static_cast<std::size_t>(names.size()));
-    for (const QString& name : qAsConst(names)) {
+    takeEach(std::move(names), [&](const QString& name) {
         const GamesExplorerEntry entry = readEntry(name, view);
         logger.logAlways("Title: %ls, %ls", qUtf16Printable(entry.title), qUtf16Printable(entry.appExePath));
         add(entries, entry, entry.title, entry.configApplicationPath, m_titles.row(entry.title, entry));
-    }
+    });
 }

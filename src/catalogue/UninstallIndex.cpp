@@ -57,7 +57,7 @@ void UninstallIndex::read(quint32 hive, quint32 view, std::list<UninstallEntry>&
     logger.logAlways("=== View: %d, Scope: %d ===", static_cast<int>(view), static_cast<int>(hive));
     m_names.reserve(static_cast<std::size_t>(names.size()));
     m_keyPaths.reserve(static_cast<std::size_t>(names.size()));
-    for (const QString& name : qAsConst(names)) {
+    takeEach(std::move(names), [&](const QString& name) {
         const UninstallEntry entry = readEntry(rootKeyPath() + QLatin1Char('\\') + name, hive, view);
         if (!entry.displayName.isEmpty() && tellsAPlace(entry)) {
             logger.logAlways("%ls, %ls, %ls", qUtf16Printable(entry.displayName),
@@ -65,5 +65,5 @@ void UninstallIndex::read(quint32 hive, quint32 view, std::list<UninstallEntry>&
             add(entries, entry, entry.displayName, entry.installLocation, m_names.row(entry.displayName, entry),
                 m_keyPaths.row(entry.keyPath, entry));
         }
-    }
+    });
 }

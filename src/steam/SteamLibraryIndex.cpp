@@ -47,15 +47,15 @@ void SteamLibraryIndex::build(std::list<SteamAppEntry>& entries) {
 void SteamLibraryIndex::read(const QString& folder, std::list<SteamAppEntry>& entries, Logger& logger) {
     const QLatin1String prefix("appmanifest_");
     logger.logAlways("Library Folder: %ls", qUtf16Printable(folder));
-    const QStringList manifests = Files::names(folder, QStringLiteral(".acf"));
+    QStringList manifests = Files::names(folder, QStringLiteral(".acf"));
     const QString commonFolder = folder + QLatin1String("/common"); // one text for all entries
     m_appIds.reserve(static_cast<std::size_t>(manifests.size()));
-    for (const QString& manifest : manifests) {
+    takeEach(std::move(manifests), [&](const QString& manifest) {
         if (!manifest.startsWith(prefix)) {
-            continue;
+            return;
         }
         const SteamAppEntry entry{Paths::baseName(manifest, prefix.size()), commonFolder};
         add(entries, entry, entry.appId, entry.commonFolder, m_appIds.row(entry.appId, entry));
         logger.logAlways("  App ID: %ls", qUtf16Printable(entry.appId));
-    }
+    });
 }

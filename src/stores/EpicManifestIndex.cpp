@@ -42,12 +42,10 @@ void EpicManifestIndex::build(std::list<EpicAppEntry>& entries) {
     Logger logger = Logger::create("Quorvan.Finders.EpicStore");
     const QString folder = manifestFolder();
     logger.logAlways("MetaDir Folder: %ls", qUtf16Printable(folder));
-    const QStringList manifests = Files::names(folder, QStringLiteral(".item"));
+    QStringList manifests = Files::names(folder, QStringLiteral(".item"));
     m_names.reserve(static_cast<std::size_t>(manifests.size()));
     const QDir dir(folder);
-    for (const QString& manifest : manifests) {
-        read(dir, manifest, entries, logger);
-    }
+    takeEach(std::move(manifests), [&](const QString& manifest) { read(dir, manifest, entries, logger); });
     if (entries.empty()) {
         logger.logAlways("No apps");
     }

@@ -30,11 +30,11 @@ void OculusLibraryIndex::build(std::list<OculusAppEntry>& entries) {
 
 void OculusLibraryIndex::read(const QString& folder, std::list<OculusAppEntry>& entries, Logger& logger) {
     logger.logAlways("Library Folder: %ls", qUtf16Printable(folder));
-    const QStringList manifests = Files::names(folder, QStringLiteral(".json.mini"));
+    QStringList manifests = Files::names(folder, QStringLiteral(".json.mini"));
     m_appIds.reserve(static_cast<std::size_t>(manifests.size()));
-    for (const QString& manifest : manifests) {
+    takeEach(std::move(manifests), [&](const QString& manifest) {
         const OculusAppEntry entry{Paths::baseName(manifest), folder};
         add(entries, entry, entry.appId, entry.manifestsFolder, m_appIds.row(entry.appId, entry));
         logger.logAlways("  App ID: %ls", qUtf16Printable(entry.appId));
-    }
+    });
 }

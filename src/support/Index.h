@@ -4,6 +4,7 @@
 #include "support/NameTable.h"
 #include "support/Trace.h"
 
+#include <QStringList>
 #include <QtGlobal>
 
 #include <cstddef>
@@ -44,6 +45,15 @@ protected:
     const Table& built(const Table& table) {
         entries();
         return table;
+    }
+
+    /// Calls `each` with each name, and lets go of it, so that a long listing is not held beside all that is made of
+    /// it.
+    template <class Each>
+    static void takeEach(QStringList&& names, const Each& each) {
+        while (!names.isEmpty()) {
+            each(names.takeFirst());
+        }
     }
 
     /// Adds an entry and the rows by which it is looked up: all of it or, when memory runs out, nothing. So what a
