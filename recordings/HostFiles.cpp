@@ -55,6 +55,11 @@ bool makeFolder(const QByteArray& path) {
     return !error && isFolder(path);
 }
 
+bool exists(const QByteArray& path) {
+    std::error_code error;
+    return fs::exists(pathOf(path), error);
+}
+
 bool isFile(const QByteArray& path) {
     std::error_code error;
     return fs::is_regular_file(pathOf(path), error);

@@ -18,6 +18,7 @@ bool write(const QByteArray& path, const QByteArray& contents);
 
 bool makeFolder(const QByteArray& path);
 
+bool exists(const QByteArray& path);
 bool isFile(const QByteArray& path);
 bool isFolder(const QByteArray& path);
 

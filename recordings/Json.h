@@ -42,7 +42,7 @@ struct JsonFault {
     QString message;
 };
 
-/// Empty when `json` is no JSON in UTF-8; `fault` then says why.
+/// Empty when `json` is not JSON in UTF-8; `fault` then says why.
 std::optional<JsonValue> parseJson(const QByteArray& json, JsonFault& fault);
 
 /// The text of `value`, which reads as what it is, whatever its strings are made of. An object within an array stands

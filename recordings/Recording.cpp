@@ -96,19 +96,23 @@ QString noRecording() {
     return QStringLiteral("no recorded PC here");
 }
 
-/// The text of the recorded PC in the file, which may be a page around it.
-std::optional<QByteArray> readText(const QByteArray& path, QString& fault) {
-    std::optional<QByteArray> bytes = HostFiles::read(path);
-    if (!bytes) {
-        fault = QStringLiteral("the file cannot be read");
+Recording readFile(const QByteArray& path) {
+    Recording recording;
+    const std::optional<QByteArray> contents = HostFiles::read(path);
+    if (contents) {
+        return parseRecording(*contents, displayed(path));
     }
-    return bytes && isPage(*bytes) ? pcInPage(*bytes, fault) : bytes;
+    recording.fault = QStringLiteral("the file cannot be read");
+    return recording;
 }
 
-void readFile(const QByteArray& path, Recording& recording) {
-    const std::optional<QByteArray> text = readText(path, recording.fault);
+} // namespace
+
+Recording parseRecording(const QByteArray& contents, const QString& name) {
+    Recording recording;
+    const std::optional<QByteArray> text = isPage(contents) ? pcInPage(contents, recording.fault) : contents;
     if (!text) {
-        return;
+        return recording;
     }
     JsonFault fault;
     const std::optional<JsonValue> json = parseJson(*text, fault);
@@ -118,20 +122,23 @@ void readFile(const QByteArray& path, Recording& recording) {
     } else if (!json || !isPcFile(*json)) {
         recording.fault = noRecording();
     } else {
-        recording.pc = readPcFile(*json, displayed(path), recording.fault, recording.problems);
+        recording.pc = readPcFile(*json, name, recording.fault, recording.problems);
     }
+    return recording;
 }
 
-} // namespace
-
 Recording readRecording(const QByteArray& path) {
-    Recording recording;
     if (HostFiles::isFile(path)) {
-        readFile(path, recording);
-    } else if (isRecordingFolder(path)) {
+        return readFile(path);
+    }
+    Recording recording;
+    if (isRecordingFolder(path)) {
         FolderReader(recording).read(path);
+    } else if (HostFiles::isFolder(path)) {
+        recording.fault = noRecording();
     } else {
-        recording.fault = HostFiles::isFolder(path) ? noRecording() : QStringLiteral("no such file or folder");
+        recording.fault = HostFiles::exists(path) ? QStringLiteral("a pipe or a device, not a file or a folder")
+                                                  : QStringLiteral("no such file or folder");
     }
     return recording;
 }

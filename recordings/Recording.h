@@ -22,6 +22,10 @@ struct Recording {
     std::vector<Problem> problems; ///< what in it can't be read, in the order of its files
 };
 
+/// Reads a recorded PC out of the contents of a file, the one file or a page that carries it. Its problems call the
+/// file `name`.
+Recording parseRecording(const QByteArray& contents, const QString& name);
+
 /// Reads the recorded PC at `path`, as HostFiles takes it: the one file, a page that carries it, or a folder with
 /// `registry`, `drives` or `pc.json` (docs/recorded-pc.md).
 Recording readRecording(const QByteArray& path);

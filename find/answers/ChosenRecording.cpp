@@ -12,10 +12,9 @@ namespace Find {
 
 namespace {
 
-const QLatin1String standardInput("standard input");
-
 QString describeFile(const QString& path, const QString& file) {
-    const QString relative = QDir(path).relativeFilePath(file);
+    const QString relative =
+        QDir(QFileInfo(path).absoluteFilePath()).relativeFilePath(QFileInfo(file).absoluteFilePath());
     if (relative == QLatin1String(".")) {
         return path;
     }
@@ -36,21 +35,31 @@ QString meantInstead(const QString& path, const QByteArray& folder) {
 
 } // namespace
 
-std::optional<QString> PcFromInput::file(Complaint& fault) {
+std::optional<QByteArray> readInput(QString& fault) {
     QFile input;
     const bool isRead = input.open(stdin, QIODevice::ReadOnly);
-    const QByteArray recording = input.readAll();
+    const QByteArray contents = input.readAll();
     if (!isRead || input.error() != QFileDevice::NoError) {
-        fault = {standardInput, 0, 0, QStringLiteral("cannot be read: ") + input.errorString()};
-    } else if (!m_file.open() || m_file.write(recording) != recording.size() || !m_file.flush()) {
-        fault = {m_file.fileName(), 0, 0, QStringLiteral("cannot be written: ") + m_file.errorString()};
+        fault = QStringLiteral("cannot be read: ") + input.errorString();
+        return std::nullopt;
     }
-    return fault.message.isEmpty() ? std::optional<QString>(m_file.fileName()) : std::nullopt;
+    return contents;
+}
+
+std::optional<QString> PcFromInput::file(Complaint& fault) {
+    QString message = QStringLiteral("there is no memory to hold it");
+    const std::optional<QByteArray> recording = readInput(message);
+    m_file = recording ? fileInMemory(*recording) : QString();
+    if (!m_file.isEmpty()) {
+        return m_file;
+    }
+    fault = {inputName, 0, 0, message};
+    return std::nullopt;
 }
 
 Complaint PcFromInput::shown(Complaint complaint) const {
-    if (complaint.file == m_file.fileName() && !complaint.file.isEmpty()) {
-        complaint.file = standardInput;
+    if (complaint.file == m_file && !m_file.isEmpty()) {
+        complaint.file = inputName;
     }
     return complaint;
 }

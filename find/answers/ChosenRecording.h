@@ -3,15 +3,22 @@
 #include "find/terminal/Complaint.h"
 #include "recordings/Recording.h"
 
+#include <QByteArray>
 #include <QString>
-#include <QTemporaryFile>
 
 #include <optional>
 #include <vector>
 
 namespace Find {
 
-/// A recorded PC that comes in on standard input. The plug-in reads a file, so it is one as long as this lives.
+/// What a user calls standard input.
+constexpr QLatin1String inputName("standard input");
+
+/// All of standard input. No value when it cannot be read; `fault` then says why.
+std::optional<QByteArray> readInput(QString& fault);
+
+/// A recorded PC that comes in on standard input. The plug-in reads a file, so it is one, in memory alone: what ends
+/// the program leaves nothing of it behind.
 class PcFromInput {
 public:
     /// The file's name, when all was read. No value otherwise; `fault` then says why.
@@ -21,7 +28,7 @@ public:
     Complaint shown(Complaint complaint) const;
 
 private:
-    QTemporaryFile m_file;
+    QString m_file;
 };
 
 /// Chooses the recorded PC at `path`, a file or a folder, for this process and reads it. Without a path the choice of

@@ -1,5 +1,7 @@
 #include "find/answers/GivenFolder.h"
 
+#include "find/pc/System.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -24,6 +26,14 @@ GivenFolder givenFolder(const QString& argument) {
     return {argument.left(quote), argument.mid(quote + 1).trimmed()};
 }
 
+QString withoutLastSeparators(const QString& folder) {
+    QString bare = folder;
+    while (bare.size() > 1 && QDir::fromNativeSeparators(bare).endsWith(QLatin1Char('/'))) {
+        bare.chop(1);
+    }
+    return bare.endsWith(QLatin1Char(':')) ? folder : bare; // of a drive it means another folder
+}
+
 QString faultOfFolder(const QString& folder) {
     const QFileInfo info(folder);
     if (!isFullPath(folder)) {
@@ -36,10 +46,9 @@ QString faultOfFolder(const QString& folder) {
     if (info.exists()) {
         return QStringLiteral("%1: is not a folder").arg(folder);
     }
-    const bool hasDrive = folder.size() > 1 && folder.at(1) == QLatin1Char(':');
-    const bool isDriveThere = !hasDrive || QFileInfo::exists(folder.left(2) + QLatin1Char('/'));
-    return isDriveThere ? QStringLiteral("%1: there is no such folder").arg(folder)
-                        : QStringLiteral("%1: there is no drive %2").arg(folder, folder.left(2).toUpper());
+    const QString drive = missingDrive(folder);
+    return drive.isEmpty() ? QStringLiteral("%1: there is no such folder").arg(folder)
+                           : QStringLiteral("%1: there is no drive %2").arg(folder, drive);
 }
 
 } // namespace Find

@@ -14,6 +14,9 @@ struct GivenFolder {
 /// text, and goes on to the next quote: no name has one.
 GivenFolder givenFolder(const QString& argument);
 
+/// Without the separators at its end; a drive's root keeps its own.
+QString withoutLastSeparators(const QString& folder);
+
 /// Why the user's game can't be in this folder; empty when it can.
 QString faultOfFolder(const QString& folder);
 

@@ -1,12 +1,14 @@
 #include "find/catalogue/Catalogue.h"
 
 #include "find/catalogue/CatalogueReader.h"
+#include "find/pc/System.h"
 #include "recordings/Json.h"
 
 #include <QFile>
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 namespace Find {
 
@@ -48,32 +50,25 @@ std::optional<Catalogue> readCatalogue(const QString& fileName, CatalogueFaults&
     const bool isOpen = isInput ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     const QByteArray json = isOpen ? file.readAll() : QByteArray();
     if (file.error() != QFileDevice::NoError) {
-        faults = wholeFault(QStringLiteral("cannot be read: ") + file.errorString());
+        const QString drive = missingDrive(fileName);
+        const QString cause = drive.isEmpty() ? file.errorString() : QStringLiteral("there is no drive ") + drive;
+        faults = wholeFault(QStringLiteral("cannot be read: ") + cause);
         return std::nullopt;
     }
     return parseCatalogue(json, faults);
 }
 
-std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringList& names, QString& unknown) {
+std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringList& names, QStringList& unknown) {
     if (names.isEmpty()) {
         return catalogue;
     }
-    QStringList missing = names;
+    const QStringList known = namesOf(catalogue);
+    std::copy_if(names.begin(), names.end(), std::back_inserter(unknown),
+                 [&known](const QString& name) { return !known.contains(name, Qt::CaseInsensitive); });
     Catalogue selected;
-    for (const Game& game : catalogue) {
-        if (names.contains(game.name, Qt::CaseInsensitive)) {
-            selected.push_back(game);
-        }
-        missing.erase(
-            std::remove_if(missing.begin(), missing.end(),
-                           [&](const QString& name) { return name.compare(game.name, Qt::CaseInsensitive) == 0; }),
-            missing.end());
-    }
-    if (!missing.isEmpty()) {
-        unknown = missing.constFirst();
-        return std::nullopt;
-    }
-    return selected;
+    std::copy_if(catalogue.begin(), catalogue.end(), std::back_inserter(selected),
+                 [&names](const Game& game) { return names.contains(game.name, Qt::CaseInsensitive); });
+    return unknown.isEmpty() ? std::make_optional(selected) : std::nullopt;
 }
 
 QStringList namesOf(const Catalogue& catalogue) {

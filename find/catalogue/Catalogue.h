@@ -42,15 +42,15 @@ using CatalogueFaults = std::vector<CatalogueFault>;
 constexpr std::size_t mostFinders = 11;
 
 /// The catalogue that a JSON text describes (docs/catalogue.md). No value when it has faults; `faults` are then all of
-/// them in their order, or the first when the text is no JSON.
+/// them in their order, or the first when the text is not JSON.
 std::optional<Catalogue> parseCatalogue(const QByteArray& json, CatalogueFaults& faults);
 
 /// The same for a file; "-" is standard input.
 std::optional<Catalogue> readCatalogue(const QString& file, CatalogueFaults& faults);
 
 /// The games of these names, each once and in the catalogue's order, letter case ignored; all when there are no names.
-/// No value when a name is not in the catalogue; `unknown` is then that name.
-std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringList& names, QString& unknown);
+/// No value when names are not in the catalogue; `unknown` are then those.
+std::optional<Catalogue> selectGames(const Catalogue& catalogue, const QStringList& names, QStringList& unknown);
 
 /// Visits each finder, those within a multi finder behind it.
 template <class Visit>

@@ -24,7 +24,8 @@ void complainOfUnknownKey(const Options& options, const Catalogue& games) {
 /// A key of the usual catalogue that may have been meant.
 QString meantByKey(const QString& key, const Options& options) {
     CatalogueFaults faults; // which are nobody's business here
-    return didYouMean(key, keysOf(readCatalogue(options.catalogue, faults).value_or(Catalogue())));
+    const Catalogue games = readCatalogue(options.catalogue, faults).value_or(Catalogue());
+    return hasKey(games, key) ? QString() : didYouMean(key, keysOf(games));
 }
 
 /// The finders that are asked no more, as the catalogue has them.

@@ -15,9 +15,8 @@ const Switch keepNames{"--keep-names", nullptr, "Leave the user's and the PC's n
 const Switch pc{"--pc", "PC",
                 "Answer from this recorded PC, a file or a folder,\nand name what is wrong with it; - reads it from\n"
                 "standard input.",
-                &Options::pc, true};
-const Switch plugin{"--plugin", "FILE", "Load this plug-in instead of the one beside\nthe program.", &Options::plugin,
-                    true};
+                &Options::pc};
+const Switch plugin{"--plugin", "FILE", "Load this plug-in instead of the one beside\nthe program.", &Options::plugin};
 
 const Operand catalogue{"CATALOGUE",
                         "The file that lists the games (docs/catalogue.md);\nthe one beside the program unless given; "

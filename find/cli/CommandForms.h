@@ -27,7 +27,6 @@ struct Switch {
     const char* value; ///< what its value is called; null when it has none
     const char* about;
     Target target;
-    bool isForAll = false; ///< may stand before any command, also before one for which it means nothing
 };
 
 /// One of the program's commands with all that its user can write and is told of it: whoever adds a command adds a row

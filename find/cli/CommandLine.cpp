@@ -1,5 +1,6 @@
 #include "find/cli/CommandLine.h"
 
+#include "find/answers/ChosenRecording.h"
 #include "find/answers/GivenFolder.h"
 #include "find/cli/CommandTree.h"
 #include "find/terminal/DidYouMean.h"
@@ -44,7 +45,7 @@ QString unknownOption(const QString& given, const CommandForm& form) {
 QString surplus(const QString& word, const CommandTree& tree) {
     const std::string first = tree.app().get_subcommands().empty() ? tree.app()["CATALOGUE"]->results().front() : "";
     const QString command = QString::fromStdString(first);
-    const QString meant = didYouMean(command, commandNames());
+    const QString meant = didYouMean(command, commandNames() + QStringList{QStringLiteral("--help")});
     if (!meant.isEmpty() && !QFileInfo::exists(command)) {
         return QStringLiteral("unknown command \"%1\"").arg(command) + meant;
     }
@@ -59,8 +60,10 @@ QString describeExtra(const CommandTree& tree) {
     return extra.startsWith(QLatin1Char('-')) ? unknownOption(extra, tree.form()) : surplus(extra, tree);
 }
 
-CommandLine refusal(const QString& fault) {
-    return {CommandLine::Action::Refuse, {}, fault};
+CommandLine refusal(const CommandTree& tree, const QString& fault) {
+    const bool hasCommand = !tree.app().get_subcommands().empty();
+    const QString command = hasCommand ? QLatin1Char(' ') + QLatin1String(tree.form().name) : QString();
+    return {CommandLine::Action::Refuse, {}, fault, QStringLiteral("luruludri-find%1 --help").arg(command)};
 }
 
 /// "KEY is required" and "--game: 1 required NAME missing" in the words of the other faults.
@@ -96,26 +99,36 @@ CommandLine understood(const CommandTree& tree) {
     if (!separateFolder(tree, options)) {
         fault = QStringLiteral("unexpected argument \"%1\"").arg(options.catalogue);
     }
+    if (options.command == Command::Locate) {
+        options.folder = withoutLastSeparators(options.folder);
+    } else if (options.folder == standardInput()) {
+        fault = QStringLiteral("%1: a file or a folder is made, nothing is written to standard output")
+                    .arg(QLatin1String(tree.form().name));
+    }
     if (options.pc == standardInput() && options.catalogue == standardInput()) {
         fault = QStringLiteral("standard input cannot be both the recorded PC and the catalogue");
     }
-    return fault.isEmpty() ? CommandLine{CommandLine::Action::Run, options, {}} : refusal(fault);
+    return fault.isEmpty() ? CommandLine{CommandLine::Action::Run, options, {}, {}} : refusal(tree, fault);
 }
 
 } // namespace
+
+QString shownName(const QString& file) {
+    return file == standardInput() ? QString(inputName) : file;
+}
 
 CommandLine parseCommandLine(const QStringList& arguments) {
     CommandTree tree;
     try {
         tree.app().parse(reversed(arguments));
     } catch (const CLI::CallForHelp&) {
-        return {CommandLine::Action::PrintText, {}, QString::fromStdString(tree.app().help())};
+        return {CommandLine::Action::PrintText, {}, QString::fromStdString(tree.app().help()), {}};
     } catch (const CLI::CallForVersion& version) {
-        return {CommandLine::Action::PrintText, {}, QString::fromUtf8(version.what()) + QLatin1Char('\n')};
+        return {CommandLine::Action::PrintText, {}, QString::fromUtf8(version.what()) + QLatin1Char('\n'), {}};
     } catch (const CLI::ExtrasError&) {
-        return refusal(describeExtra(tree));
+        return refusal(tree, describeExtra(tree));
     } catch (const CLI::ParseError& error) {
-        return refusal(describeMissing(error, tree.form()));
+        return refusal(tree, describeMissing(error, tree.form()));
     }
     return understood(tree);
 }

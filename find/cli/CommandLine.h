@@ -45,6 +45,9 @@ inline QString standardInput() {
     return QStringLiteral("-");
 }
 
+/// What a user calls the file that was given.
+QString shownName(const QString& file);
+
 /// The arguments, understood: either something to do or a text that says why not.
 struct CommandLine {
     enum class Action { Run, PrintText, Refuse };
@@ -52,6 +55,7 @@ struct CommandLine {
     Action action = Action::Refuse;
     Options options; ///< means something with Run only
     QString text;    ///< the help or the version with PrintText, the fault with Refuse
+    QString helper;  ///< the command line that tells more, with Refuse
 };
 
 /// Needs the application object. The first argument is the program's own name.

@@ -22,6 +22,13 @@ public:
         return CLI::Formatter::make_description(app) + "\n";
     }
 
+    /// Of the program itself there are two: a catalogue stands behind a command.
+    std::string make_usage(const CLI::App* app, std::string name) const override {
+        return app->get_parent() != nullptr
+                   ? CLI::Formatter::make_usage(app, name)
+                   : "\nUsage: " + name + " [OPTIONS] [CATALOGUE]\n       " + name + " [OPTIONS] COMMAND ...\n";
+    }
+
     std::string make_help(const CLI::App* app, std::string name, CLI::AppFormatMode mode) const override {
         return CLI::detail::find_and_replace(CLI::Formatter::make_help(app, name, mode), "\n\n\n", "\n\n");
     }
@@ -97,7 +104,7 @@ Options usualOptions() {
 } // namespace
 
 CommandTree::CommandTree()
-    : m_app("Loads the plug-in Luruludri as a host does and asks it where games and VR runtimes are.",
+    : m_app("Loads the plug-in Luruludri as a host does and asks it where games and VR\nruntimes are.",
             "luruludri-find") {
     m_app.allow_windows_style_options(false); // "/home" is a folder
     m_app.formatter(std::make_shared<HelpFormatter>());
@@ -176,7 +183,7 @@ Options CommandTree::options(QString& fault) const {
             continue;
         }
         fault = fault.isEmpty() ? faultIn(values, one->name, hasValue(*one)) : fault;
-        if (fault.isEmpty() && !one->isForAll && !hasSwitch(*level.form, *one)) {
+        if (fault.isEmpty() && !hasSwitch(*level.form, *one)) {
             fault =
                 QStringLiteral("%1 does not take %2").arg(QLatin1String(level.form->name), QLatin1String(one->name));
         }

@@ -37,18 +37,17 @@ namespace Find {
 
 namespace {
 
-QString shownName(const QString& file) {
-    return file == standardInput() ? QStringLiteral("standard input") : file;
-}
-
 /// What may have been meant by the word that was taken for the name of a catalogue.
 QString meantByCatalogue(const Options& options) {
     const QString& word = options.catalogue;
-    if (options.command == Command::Explain) {
-        return QStringLiteral("; did you mean explain \"%1 %2\"?").arg(options.name, word);
-    }
     if (QStringList{QStringLiteral("/?"), QStringLiteral("/h"), QStringLiteral("/help")}.contains(word.toLower())) {
         return QStringLiteral("; did you mean \"--help\"?");
+    }
+    if (word.contains(QLatin1Char('/')) || word.contains(QDir::separator()) || word.endsWith(QLatin1String(".json"))) {
+        return {}; // nothing else
+    }
+    if (options.command == Command::Explain) {
+        return QStringLiteral("; did you mean explain \"%1 %2\"?").arg(options.name, word);
     }
     const QStringList words{QStringLiteral("--help"), QStringLiteral("--version")};
     return options.command == Command::FindGames ? didYouMean(word, commandNames() + words) : QString();
@@ -85,15 +84,17 @@ std::optional<Chosen> loadGames(const Options& options) {
         complainOfCatalogue(options, faults);
         return std::nullopt;
     }
-    QString unknown;
+    const QStringList known = namesOf(*catalogue);
+    QStringList unknown;
     const std::optional<Catalogue> games = selectGames(*catalogue, options.games, unknown);
-    if (!games && options.command != Command::Explain) {
-        Console::complain(
-            {shownName(options.catalogue), 0, 0,
-             QStringLiteral("no game is named \"%1\"").arg(unknown) + didYouMean(unknown, namesOf(*catalogue))});
-        return std::nullopt;
+    if (games || options.command == Command::Explain) {
+        return Chosen{games.value_or(Catalogue()), known};
     }
-    return Chosen{games.value_or(Catalogue()), namesOf(*catalogue)};
+    for (const QString& name : qAsConst(unknown)) {
+        Console::complain({shownName(options.catalogue), 0, 0,
+                           QStringLiteral("no game is named \"%1\"").arg(name) + didYouMean(name, known)});
+    }
+    return std::nullopt;
 }
 
 ExitStatus answer(IGameFinderFactory& factory, const Options& options, const Catalogue& games) {
@@ -158,8 +159,14 @@ QString refusalToChoose(const Options& options, const std::optional<Recordings::
         return options.command == Command::Locate ? faultOfFolder(options.folder) : QString();
     }
     const QString pc = options.pc.value_or(qEnvironmentVariable(Recordings::environmentVariable));
-    const QString file = QFileInfo(pc).isDir() ? QDir(pc).filePath(QStringLiteral("pc.json")) : pc;
-    return QStringLiteral("a recorded PC is never written to; to try a folder, change \"userLocations\" in ") + file;
+    const QString change =
+        QStringLiteral("a recorded PC is never written to; to try a folder, change \"userLocations\" in ");
+    if (QFileInfo(pc).isDir()) {
+        return change + QDir(pc).filePath(QStringLiteral("pc.json"));
+    }
+    return QFileInfo(pc).suffix() == QLatin1String("json")
+               ? change + pc
+               : change + QLatin1String("the folder that \"unpack\" makes of ") + pc;
 }
 
 ExitStatus act(const Options& options, const Chosen& chosen, const Recordings::Pc* pc, const QStringList& problems) {
@@ -185,7 +192,7 @@ ExitStatus run(const Options& options) {
     }
     Complaint fault{QString()};
     PcFromInput input;
-    const std::optional<QString> path = options.pc == standardInput() ? input.file(fault) : options.pc;
+    const std::optional<QString> path = options.pc == standardInput() && !isPcItself() ? input.file(fault) : options.pc;
     const std::optional<Recordings::Recording> pc =
         fault.message.isEmpty() ? chooseRecordedPc(path, fault) : std::optional<Recordings::Recording>();
     if (fault.message.isEmpty()) {
@@ -197,7 +204,7 @@ ExitStatus run(const Options& options) {
     const QString name = path.value_or(qEnvironmentVariable(Recordings::environmentVariable));
     if (!pc && !isPcItself() && options.isOwnPlugin) {
         Console::complain(
-            QStringLiteral("no recorded PC is chosen (--pc), so this system is asked, which is no Windows"));
+            QStringLiteral("no recorded PC is chosen (--pc), so this system is asked, which is not Windows"));
     }
     QStringList problems;
     for (const Complaint& problem : describeProblems(name, pc ? pc->problems : std::vector<Recordings::Problem>())) {
@@ -211,7 +218,8 @@ ExitStatus run(const Options& options) {
 ExitStatus printCompletion(const QString& shell) {
     const QString completion = completionFor(shell.toLower());
     return completion.isEmpty() ? fail(QStringLiteral("completion: there is none for \"%1\", only for %2")
-                                           .arg(shell, shells().join(QLatin1String(", "))))
+                                           .arg(shell, shells().join(QLatin1String(", "))) +
+                                       didYouMean(shell, shells()))
                                 : print(completion, allFound);
 }
 
@@ -238,7 +246,7 @@ ExitStatus follow(const CommandLine& commandLine, bool isJson) {
         break;
     }
     Console::complain(commandLine.text);
-    return isJson ? failed : fail(QStringLiteral("try luruludri-find --help"));
+    return isJson ? failed : fail(QLatin1String("try ") + commandLine.helper);
 }
 
 DialogueParts::Made makeReportOnDesktop() {

@@ -12,16 +12,26 @@
 
 namespace Find {
 
-ExitStatus unpackPc(const Options& options) {
-    Complaint complaint{QString()};
-    PcFromInput input;
-    const std::optional<QString> file = options.file == standardInput() ? input.file(complaint) : options.file;
-    if (!file) {
-        return fail(complaint);
+namespace {
+
+Recordings::Recording readFrom(const QString& file) {
+    if (file != standardInput()) {
+        return Recordings::readRecording(QFileInfo(file).absoluteFilePath().toUtf8());
     }
-    const Recordings::Recording recording = Recordings::readRecording(QFileInfo(*file).absoluteFilePath().toUtf8());
+    Recordings::Recording none;
+    if (const std::optional<QByteArray> input = readInput(none.fault)) {
+        return Recordings::parseRecording(*input, inputName);
+    }
+    return none;
+}
+
+} // namespace
+
+ExitStatus unpackPc(const Options& options) {
+    const Recordings::Recording recording = readFrom(options.file);
+    const QString file = shownName(options.file);
     if (!recording.fault.isEmpty()) {
-        return fail(input.shown({*file, recording.faultLine, 0, recording.fault}));
+        return fail({file, recording.faultLine, 0, recording.fault});
     }
     QString fault;
     OutputFolder folder(options.folder, fault);
@@ -35,8 +45,8 @@ ExitStatus unpackPc(const Options& options) {
             QStringLiteral("%1: the file cannot be written: %2").arg(QString::fromUtf8(unwritten), causeOf(errno)));
     }
     folder.keep();
-    for (const Complaint& problem : describeProblems(*file, recording.problems)) {
-        Console::complain(input.shown(problem));
+    for (const Complaint& problem : describeProblems(file, recording.problems)) {
+        Console::complain(problem);
     }
     for (const QString& name : qAsConst(leftOut)) {
         Console::complain(QLatin1String("no registry file can have this name: ") + name);

@@ -102,7 +102,7 @@ QString summarize(const Recordings::Pc& pc, const std::vector<Recordings::Privat
         text += line(amount.title, amount.text);
     }
     return text + line(QStringLiteral("names"), describeNames(names, areNamesKept)) +
-           QStringLiteral("Replay it on Linux with: ./run --pc %1\n").arg(fileForReplay(file));
+           QStringLiteral("Replay it on Linux with: luruludri-find --pc %1\n").arg(fileForReplay(file));
 }
 
 QStringList describeLosses(const QStringList& leftOut, const std::vector<Recordings::PrivateName>& names) {

@@ -232,7 +232,6 @@ void addTables(const ReportData& report, Mustache::data& page) {
         listData(finderNamesOf(report), [](const QString& name) { return Mustache::data("name", textData(name)); });
     page["runtimes"] = listData(report.runtimes, runtimeData);
     page["otherGroups"] = groupsData(report.others, otherData);
-    page["hasOthers"] = !report.others.empty();
     page["faults"] = textsData(report.faults);
     page["lists"] = listData(report.lists, madeListData);
     page["contents"] = listData(report.contents, amountData);

@@ -87,7 +87,7 @@ class List {
         }
         this.showGroups();
         this.count.textContent = shown === this.entries.length ? '' : `${shown} of ${this.entries.length} shown`;
-        this.none.hidden = shown > 0;
+        this.none.hidden = shown > 0 || this.entries.length === 0;
     }
 
     /**

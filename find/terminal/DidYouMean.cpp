@@ -73,7 +73,7 @@ QStringList wordsNear(const QString& word, const QStringList& known) {
 }
 
 QString didYouMean(const QString& word, const QStringList& known) {
-    const QStringList near = wordsNear(word, known);
+    const QStringList near = known.contains(word) ? QStringList() : wordsNear(word, known);
     return near.isEmpty() ? QString()
                           : QStringLiteral("; did you mean \"%1\"?").arg(near.join(QLatin1String("\" or \"")));
 }

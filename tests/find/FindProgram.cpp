@@ -77,6 +77,7 @@ void FindProgram::runUntilItSearches(const QStringList& arguments,
                                      const std::function<void(QProcess& process)>& end) const {
     QProcess process;
     process.setProcessEnvironment(m_environment);
+    process.setStandardInputFile(m_inputFile.isEmpty() ? QProcess::nullDevice() : m_inputFile);
     process.start(QStringLiteral(LURULUDRI_FIND),
                   QStringList{QStringLiteral("--plugin"), QStringLiteral(LURULUDRI_FAKE_PLUGIN)} + arguments);
     EXPECT_TRUE(process.waitForStarted(longestRunMs)) << process.errorString().toStdString();

@@ -254,13 +254,13 @@ TEST(Catalogue, DeepNestingIsAFaultAndNoCrash) {
 }
 
 TEST(SelectGames, WithoutNamesAllAreSelected) {
-    QString unknown;
+    QStringList unknown;
     const Catalogue catalogue = {{"a", {}}, {"b", {}}};
     EXPECT_EQ(selectGames(catalogue, {}, unknown)->size(), 2u);
 }
 
 TEST(SelectGames, NamesAreMatchedWholeAndIgnoringCaseInTheCataloguesOrder) {
-    QString unknown;
+    QStringList unknown;
     const Catalogue catalogue = {{"Käfer", {}}, {"Käferrennen", {}}, {"Wal", {}}};
     const QStringList names = {"WAL", "KÄFER", "wal"};
     const std::optional<Catalogue> games = selectGames(catalogue, names, unknown);
@@ -270,12 +270,12 @@ TEST(SelectGames, NamesAreMatchedWholeAndIgnoringCaseInTheCataloguesOrder) {
     EXPECT_EQ((*games)[1].name, "Wal");
 }
 
-TEST(SelectGames, TheFirstUnknownNameIsTold) {
-    QString unknown;
+TEST(SelectGames, AllUnknownNamesAreTold) {
+    QStringList unknown;
     const Catalogue catalogue = {{"Wal", {}}};
     const QStringList names = {"Wal", "Wa", "x"};
     EXPECT_FALSE(selectGames(catalogue, names, unknown).has_value());
-    EXPECT_EQ(unknown, "Wa");
+    EXPECT_EQ(unknown, (QStringList{"Wa", "x"}));
 }
 
 } // namespace

@@ -26,6 +26,11 @@ TEST(DescribeProblems, NameTheFileAsTheFolderWasGiven) {
     EXPECT_EQ(describe("Käfer", absolute("Käfer/王.reg"), 3), "Käfer/王.reg:3: broken");
 }
 
+TEST(DescribeProblems, ARelativeFileWithinTheFolderIsNotWithinItTwice) {
+    EXPECT_EQ(describe("some/pc", "some/pc/pc.json", 3), "some/pc/pc.json:3: broken");
+    EXPECT_EQ(describe("pc.json", "pc.json", 3), "pc.json:3: broken");
+}
+
 TEST(DescribeProblems, AnAbsoluteFolderGivesAbsoluteFiles) {
     const QString folder = QDir::tempPath() + "/pc";
     const QString file = folder + "/pc.json";

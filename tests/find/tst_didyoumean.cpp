@@ -36,6 +36,8 @@ TEST(DidYouMean, NothingIsMeantWhereNothingIsNear) {
     EXPECT_EQ(wordsNear("", {"a", "b"}), QStringList());
     EXPECT_EQ(wordsNear("x", {"a", "y"}), QStringList());
     EXPECT_EQ(didYouMean("zwölf", {"Wal"}), "");
+    EXPECT_EQ(didYouMean("Wal", {"Wale", "Wal"}), "") << "nobody means what was written";
+    EXPECT_EQ(didYouMean("WAL", {"Wal"}), "; did you mean \"Wal\"?");
 }
 
 TEST(DidYouMean, TheQuestionNamesThem) {

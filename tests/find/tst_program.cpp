@@ -29,11 +29,12 @@ void expectComplaint(const FindRun& run, const QString& end) {
     EXPECT_EQ(run.errors.count("\n"), 1);
 }
 
-/// The same for arguments that are wrong, where a second line points to the help.
-void expectRefusal(const FindRun& run, const QString& complaint) {
+/// The same for arguments that are wrong, where a second line points to the help, of the command if there is one.
+void expectRefusal(const FindRun& run, const QString& complaint, const QString& command = {}) {
     EXPECT_EQ(run.exitStatus, 2);
     EXPECT_EQ(run.output, "");
-    EXPECT_EQ(run.errors, "luruludri-find: " + complaint + "\nluruludri-find: try luruludri-find --help\n");
+    EXPECT_EQ(run.errors, "luruludri-find: " + complaint + "\nluruludri-find: try luruludri-find " +
+                              (command.isEmpty() ? "" : command + ' ') + "--help\n");
 }
 
 bool worldKnowsRecordings() {
@@ -228,8 +229,17 @@ TEST(Program, SaysWhenNoPcIsAsked) {
     for (const QStringList& arguments : {QStringList{catalogue}, QStringList{"list"}, QStringList{"runtimes"},
                                          QStringList{"record", program.folder() + "/x", catalogue}}) {
         EXPECT_EQ(program.runBare(arguments).errors,
-                  "luruludri-find: no recorded PC is chosen (--pc), so this system is asked, which is no Windows\n");
+                  "luruludri-find: no recorded PC is chosen (--pc), so this system is asked, which is not Windows\n");
     }
+}
+
+TEST(Program, APipeInThePlaceOfARecordingIsTold) {
+    if (!worldKnowsRecordings()) {
+        GTEST_SKIP() << "no recordings here";
+    }
+    const FindProgram program;
+    expectComplaint(program.run({"--pc", "/dev/null"}),
+                    "luruludri-find: /dev/null: a pipe or a device, not a file or a folder");
 }
 
 TEST(Program, AFaultOfARecordingIsPlacedInJson) {
@@ -284,19 +294,20 @@ TEST(Program, WrongArgumentsAreRefused) {
 
 TEST(Program, WrongCommandsAreRefused) {
     const FindProgram program;
-    expectRefusal(program.run({"locate"}), "locate: KEY is missing");
-    expectRefusal(program.run({"locate", "Käfer"}), "locate: FOLDER is missing");
-    expectRefusal(program.run({"locate", " ", "D:\\X"}), "KEY is empty");
-    expectRefusal(program.run({"locate", "Käfer", ""}), "FOLDER is empty");
-    expectRefusal(program.run({"locate", "Käfer", "D:\\X", ""}), "CATALOGUE is empty");
-    expectRefusal(program.run({"locate", "Käfer", "D:\\X", "games.json", "zwölf"}), "unexpected argument \"zwölf\"");
-    expectRefusal(program.run({"forget"}), "forget: KEY is missing");
-    expectRefusal(program.run({"forget", "Käfer", "zwölf"}), "unexpected argument \"zwölf\"");
-    expectRefusal(program.run({"runtimes", "zwölf"}), "unexpected argument \"zwölf\"");
-    expectRefusal(program.run({"--game", "Käfer", "runtimes"}), "runtimes does not take --game");
-    expectRefusal(program.run({"runtimes", "--game", "Käfer"}), "runtimes does not take --game");
-    expectRefusal(program.run({"games.json", "runtimes"}), "unexpected argument \"games.json\"");
-    expectRefusal(program.run({"--plugin=", "runtimes"}), "--plugin is empty");
+    expectRefusal(program.run({"locate"}), "locate: KEY is missing", "locate");
+    expectRefusal(program.run({"locate", "Käfer"}), "locate: FOLDER is missing", "locate");
+    expectRefusal(program.run({"locate", " ", "D:\\X"}), "KEY is empty", "locate");
+    expectRefusal(program.run({"locate", "Käfer", ""}), "FOLDER is empty", "locate");
+    expectRefusal(program.run({"locate", "Käfer", "D:\\X", ""}), "CATALOGUE is empty", "locate");
+    expectRefusal(program.run({"locate", "Käfer", "D:\\X", "games.json", "zwölf"}), "unexpected argument \"zwölf\"",
+                  "locate");
+    expectRefusal(program.run({"forget"}), "forget: KEY is missing", "forget");
+    expectRefusal(program.run({"forget", "Käfer", "zwölf"}), "unexpected argument \"zwölf\"", "forget");
+    expectRefusal(program.run({"runtimes", "zwölf"}), "unexpected argument \"zwölf\"", "runtimes");
+    expectRefusal(program.run({"--game", "Käfer", "runtimes"}), "runtimes does not take --game", "runtimes");
+    expectRefusal(program.run({"runtimes", "--game", "Käfer"}), "runtimes does not take --game", "runtimes");
+    expectRefusal(program.run({"games.json", "runtimes"}), "unexpected argument \"games.json\"", "runtimes");
+    expectRefusal(program.run({"--plugin=", "runtimes"}), "--plugin is empty", "runtimes");
     expectRefusal(program.run({"--pc", "-", "-"}), "standard input cannot be both the recorded PC and the catalogue");
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
@@ -306,6 +317,11 @@ TEST(Program, ACatalogueThatCannotBeReadIsToldWithItsName) {
     const FindRun missing = program.run({program.folder() + "/Käfer.json"});
     EXPECT_EQ(missing.exitStatus, 2);
     EXPECT_TRUE(missing.errors.contains("Käfer.json: cannot be read: ")) << missing.errors.toStdString();
+
+    EXPECT_FALSE(program.run({"explain", "Käfer", program.folder() + "/Käfer.json"}).errors.contains("did you mean"));
+    if (Find::isPcItself()) {
+        expectComplaint(program.run({"Q:\\Käfer.json"}), "Q:\\Käfer.json: cannot be read: there is no drive Q:");
+    }
 
     const FindRun folder = program.run({program.folder()});
     EXPECT_EQ(folder.exitStatus, 2);

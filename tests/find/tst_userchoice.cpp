@@ -202,6 +202,46 @@ TEST(UserChoice, OfARecordedPcIsChangedInTheRecording) {
     EXPECT_TRUE(program.fakeLog().isEmpty()) << "the plug-in is not asked";
 }
 
+TEST(UserChoice, OfARecordingInOneFileIsChangedInItOrInWhatUnpackMakesOfAPage) {
+    if (Find::isPcItself()) {
+        GTEST_SKIP() << "this build knows no recordings";
+    }
+    const FindProgram program;
+    const QByteArray json = R"({"format": "luruludri-pc", "version": 1})";
+    const QString file = program.file("pc.json", json);
+    EXPECT_EQ(program.run({"--pc", file, "forget", "Käfer"}).errors,
+              "luruludri-find: a recorded PC is never written to; to try a folder, change \"userLocations\" in " +
+                  file + "\n");
+    const QString page = program.file(
+        "pc.html", "<!DOCTYPE html>\n<script type=\"application/json\" id=\"recording\">" + json + "</script>\n");
+    EXPECT_EQ(program.run({"--pc", page, "forget", "Käfer"}).errors,
+              "luruludri-find: a recorded PC is never written to; to try a folder, change \"userLocations\" in the "
+              "folder that \"unpack\" makes of " +
+                  page + "\n");
+}
+
+TEST(UserChoice, AFolderIsRememberedWithoutTheSeparatorsAtItsEnd) {
+    EXPECT_EQ(Find::withoutLastSeparators("/Spiele/Wal/"), "/Spiele/Wal");
+    EXPECT_EQ(Find::withoutLastSeparators("/Spiele/Wal//"), "/Spiele/Wal");
+    EXPECT_EQ(Find::withoutLastSeparators("/Spiele/Wal"), "/Spiele/Wal");
+    EXPECT_EQ(Find::withoutLastSeparators("/"), "/");
+    EXPECT_EQ(Find::withoutLastSeparators("C:/"), "C:/") << "the root, as \"C:\" is the drive's current folder";
+    if (Find::isPcItself()) {
+        EXPECT_EQ(Find::withoutLastSeparators("C:\\Spiele\\Wal\\"), "C:\\Spiele\\Wal");
+    }
+    const FindProgram program;
+    program.run({"locate", "installed", program.folder() + '/', program.file("g.json", games)});
+    EXPECT_TRUE(program.fakeLog().contains("setUserLocation(" + program.folder() + ")"));
+}
+
+TEST(UserChoice, ForgettingWhatNobodyRememberedNamesTheKeyThatMayHaveBeenMeant) {
+    const FindProgram program;
+    const FindRun known = program.runBare({"forget", "moosgarten"}); // of the catalogue beside the program
+    EXPECT_EQ(known.output, "moosgarten: no folder was remembered\n");
+    EXPECT_EQ(program.runBare({"forget", "mosgarten"}).output,
+              "mosgarten: no folder was remembered; did you mean \"moosgarten\"?\n");
+}
+
 TEST(UserChoice, TheRealPluginRemembersFindsAndForgets) {
     FindProgram program;
     program.file("Spiele/Wal/bin/wal.exe", "");

@@ -1,6 +1,7 @@
 #include "find/pc/System.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <windows.h>
 
@@ -13,6 +14,15 @@ namespace Find {
 
 bool setEnvironmentVariable(const char* name, const QString& value) {
     return _wputenv_s(QString::fromLatin1(name).toStdWString().c_str(), value.toStdWString().c_str()) == 0;
+}
+
+QString fileInMemory(const QByteArray& /*contents*/) {
+    return {}; // nobody needs it where no recorded PC answers
+}
+
+QString missingDrive(const QString& path) {
+    const bool hasDrive = path.size() > 1 && path.at(1) == QLatin1Char(':');
+    return hasDrive && !QFileInfo::exists(path.left(2) + QLatin1Char('/')) ? path.left(2).toUpper() : QString();
 }
 
 bool openFile(const QString& file) {

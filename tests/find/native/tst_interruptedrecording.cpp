@@ -62,6 +62,14 @@ TEST_F(InterruptedRecordingTest, LeavesNothing) {
     }
 }
 
+TEST_F(InterruptedRecordingTest, LeavesNothingOfARecordingThatCameInOnStandardInput) {
+    program.setFakeMode("endless");
+    program.setInput(R"({"format": "luruludri-pc", "version": 1})");
+    program.runUntilItSearches({"--pc", "-", program.file("one.json", oneGame)},
+                               [](QProcess& process) { process.kill(); });
+    EXPECT_EQ(filesIn(temporary), QStringList{"x"});
+}
+
 TEST_F(InterruptedRecordingTest, OfWhichNobodyReadsTheSummaryIsWhole) {
     EXPECT_EQ(filesAfter("exec 3> >(exit); wait $!; " + record + " >&3"), (QStringList{"pc.json", "x"}));
     EXPECT_EQ(program.runBare({"--pc", folder + "/pc.json", "runtimes"}).exitStatus, 0);

@@ -36,15 +36,18 @@ protected:
 };
 
 TEST_P(RecordCommand, WrongUseIsRefused) {
-    const QString refusal = "luruludri-find: %1\nluruludri-find: try luruludri-find --help\n";
+    const QString refusal = "luruludri-find: %1\nluruludri-find: try luruludri-find %2 --help\n";
     const FindRun surplus = run({"a", "b", "c"});
     EXPECT_EQ(surplus.exitStatus, 2);
-    EXPECT_EQ(surplus.errors, refusal.arg("unexpected argument \"c\""));
+    EXPECT_EQ(surplus.errors, refusal.arg("unexpected argument \"c\"", command));
     const FindRun withJson = run({"a", "--json"});
     EXPECT_EQ(withJson.exitStatus, 2);
     EXPECT_TRUE(withJson.output.contains(command + " does not take --json")) << withJson.output.toStdString();
-    EXPECT_EQ(run({"a", "--game", "x"}).errors, refusal.arg(command + " does not take --game"));
-    EXPECT_EQ(program.run({"runtimes", "--keep-names"}).errors, refusal.arg("runtimes does not take --keep-names"));
+    EXPECT_EQ(run({"a", "--game", "x"}).errors, refusal.arg(command + " does not take --game", command));
+    EXPECT_EQ(program.run({"runtimes", "--keep-names"}).errors,
+              refusal.arg("runtimes does not take --keep-names", "runtimes"));
+    EXPECT_EQ(run({"-"}).errors,
+              refusal.arg(command + ": a file or a folder is made, nothing is written to standard output", command));
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
 

@@ -15,7 +15,7 @@ TEST(Unpack, MakesAFolderThatIsTheSamePc) {
     const FindProgram program;
     const QString file = program.file("käfer.json", Recordings::renderPcFile(OddPc::make(true)));
     const QString folder = program.folder() + "/pc";
-    const FindRun run = program.run({"unpack", file, folder});
+    const FindRun run = program.runBare({"unpack", file, folder});
     EXPECT_EQ(run.errors, "");
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_TRUE(Recordings::readRecording(folder.toUtf8()).pc == OddPc::make(true));
@@ -25,10 +25,10 @@ TEST(Unpack, ReadsStandardInput) {
     FindProgram program;
     program.setInput(Recordings::renderPcFile(OddPc::make(true)));
     const QString folder = program.folder() + "/pc";
-    EXPECT_EQ(program.run({"unpack", "-", folder}).errors, "");
+    EXPECT_EQ(program.runBare({"unpack", "-", folder}).errors, "");
     EXPECT_TRUE(Recordings::readRecording(folder.toUtf8()).pc == OddPc::make(true));
     program.setInput("{\n");
-    EXPECT_EQ(program.run({"unpack", "-", folder + "2"}).errors,
+    EXPECT_EQ(program.runBare({"unpack", "-", folder + "2"}).errors,
               "luruludri-find: standard input:2: a name in quotes is expected\n");
 }
 
@@ -37,23 +37,24 @@ TEST(Unpack, TellsWhatAFolderCannotHave) {
     Recordings::Pc pc;
     pc.registry.make(Recordings::RegKey::Root::Users, {"a\nb"}, Recordings::RegistryView::Bits64);
     const FindRun run =
-        program.run({"unpack", program.file("pc.json", Recordings::renderPcFile(pc)), program.folder() + "/pc"});
+        program.runBare({"unpack", program.file("pc.json", Recordings::renderPcFile(pc)), program.folder() + "/pc"});
     EXPECT_EQ(run.exitStatus, 2);
     EXPECT_TRUE(run.errors.contains("no registry file can have this name: HKEY_USERS\\a")) << run.errors.toStdString();
 }
 
 TEST(Unpack, WrongUseIsRefused) {
     const FindProgram program;
-    const QString refusal = "luruludri-find: %1\nluruludri-find: try luruludri-find --help\n";
-    EXPECT_EQ(program.run({"unpack"}).errors, refusal.arg("unpack: FILE is missing"));
-    EXPECT_EQ(program.run({"unpack", "a"}).errors, refusal.arg("unpack: FOLDER is missing"));
+    const QString refusal = "luruludri-find: %1\nluruludri-find: try luruludri-find unpack --help\n";
+    EXPECT_EQ(program.runBare({"unpack"}).errors, refusal.arg("unpack: FILE is missing"));
+    EXPECT_EQ(program.runBare({"unpack", "a"}).errors, refusal.arg("unpack: FOLDER is missing"));
+    EXPECT_EQ(program.runBare({"--pc", "a", "unpack", "a", "b"}).errors, refusal.arg("unpack does not take --pc"));
     const QString games = program.file("games.json", R"({"games": []})");
-    const FindRun run = program.run({"unpack", games, program.folder() + "/pc"});
+    const FindRun run = program.runBare({"unpack", games, program.folder() + "/pc"});
     EXPECT_EQ(run.errors, "luruludri-find: " + games + ": no recorded PC here\n");
     EXPECT_EQ(run.exitStatus, 2);
     EXPECT_FALSE(QFileInfo::exists(program.folder() + "/pc"));
     const QString file = program.file("pc.json", Recordings::renderPcFile({}));
-    EXPECT_EQ(program.run({"unpack", file, program.folder()}).errors,
+    EXPECT_EQ(program.runBare({"unpack", file, program.folder()}).errors,
               "luruludri-find: " + program.folder() + ": the folder is not empty\n");
 }
 

@@ -112,13 +112,14 @@ TEST_F(RecordTest, TellsWhatItTookAndHowToReplayIt) {
     const FullPc pc(program);
     const FindRun run = record(pc.folder(), "pc", pc.catalogue(), {"--keep-names"});
     EXPECT_EQ(run.output, "Recorded into " + path("pc.json") + ":\n" + FullPc::summary + "  names           kept\n" +
-                              "Replay it on Linux with: ./run --pc " + path("pc.json") + '\n');
+                              "Replay it on Linux with: luruludri-find --pc " + path("pc.json") + '\n');
 }
 
 TEST_F(RecordTest, TellsAFolderWithBlanksAsAShellWantsIt) {
     const FullPc pc(program);
     const FindRun run = record(pc.folder(), "Anna's PC", pc.catalogue());
-    EXPECT_TRUE(run.output.endsWith("./run --pc '" + path("Anna'\\''s PC.json") + "'\n")) << run.output.toStdString();
+    EXPECT_TRUE(run.output.endsWith(": luruludri-find --pc '" + path("Anna'\\''s PC.json") + "'\n"))
+        << run.output.toStdString();
 }
 
 TEST_F(RecordTest, ANameThatIsAWordOfPlacesStaysElsewhereAndIsTold) {
