@@ -8,11 +8,6 @@ void checkAgain(const Recordings::ShellLink& link) {
         const auto again = Recordings::parseShellLink(Recordings::renderShellLink(link.localPath));
         Fuzz::require(again && again->localPath == link.localPath, "a local path reads as written");
     }
-    const QByteArray ofItems = Recordings::renderShellLinkOfItems(link.itemPath);
-    if (!ofItems.isEmpty()) {
-        const auto again = Recordings::parseShellLink(ofItems);
-        Fuzz::require(again && again->itemPath == link.itemPath, "a path of shell items reads as written");
-    }
 }
 
 } // namespace

@@ -1,11 +1,8 @@
 #include "recordings/ShellItems.h"
 
-#include "recordings/AnsiText.h"
 #include "recordings/DrivePath.h"
-#include "recordings/Utf16Text.h"
 
 #include <QStringList>
-#include <QtEndian>
 
 #include <vector>
 
@@ -29,7 +26,6 @@ const char myComputer[] = "\xE0\x4F\xD0\x20\xEA\x3A\x69\x10\xA2\xD8\x08\x00\x2B\
 constexpr int idSize = 16;
 
 constexpr qint64 driveNameOffset = 3;
-constexpr int driveItemSize = 25;
 
 // A file's item: its size, dates and attributes, its short name, and a block with its name in UTF-16, whose offset is
 // the item's last number. Before Windows XP it had no block, and the long name stood in place of the short one.
@@ -37,10 +33,6 @@ constexpr qint64 shortNameOffset = 14;
 constexpr quint32 nameBlock = 0xBEEF0004;
 constexpr qint64 blockTypeOffset = 4;
 constexpr qint64 blockNameOffset = 16; // where the block says where its name is
-constexpr qint64 blockHeaderSize = 20; // of version 3; later ones tell more
-constexpr quint16 blockVersion = 3;
-
-constexpr char myComputerOrder = 0x50; // among the items of the desktop
 
 int typeOf(const ByteView& item) {
     return item.number16(typeOffset - 1).value_or(0) >> 8U;
@@ -94,34 +86,6 @@ QString nameOf(const ByteView& item, bool isLast) {
     return DrivePath::canName(name) ? name : QString();
 }
 
-// Writing
-
-QByteArray number16(int number) {
-    QByteArray bytes(2, Qt::Uninitialized);
-    qToLittleEndian(static_cast<quint16>(number), bytes.data());
-    return bytes;
-}
-
-QByteArray itemOf(const QByteArray& contents) {
-    return number16(contents.size() + 2) + contents;
-}
-
-QByteArray fileItem(const QString& name, bool isFolder) {
-    QByteArray contents;
-    contents += static_cast<char>(fileClass | (isFolder ? isFolderFlag : isFileFlag));
-    contents += QByteArray(9, '\0'); // no size, no date
-    contents += number16(isFolder ? 0x10 : 0x20) + toAnsi(name) + '\0';
-    if (contents.size() % 2 != 0) {
-        contents += '\0';
-    }
-    const QByteArray wide = toUtf16(name + QChar(u'\0'));
-    const int size = static_cast<int>(blockHeaderSize) + wide.size() + 2;
-    const int offset = contents.size() + 2;
-    contents += number16(size) + number16(blockVersion) + number16(nameBlock & 0xFFFF) + number16(nameBlock >> 16U);
-    contents += QByteArray(8, '\0') + number16(blockHeaderSize) + number16(0) + wide + number16(offset);
-    return itemOf(contents);
-}
-
 } // namespace
 
 QString pathOfShellItems(const ByteView& items) {
@@ -137,25 +101,6 @@ QString pathOfShellItems(const ByteView& items) {
         return {};
     }
     return names.size() == 1 ? names.first() + QLatin1Char('\\') : names.join(QLatin1Char('\\'));
-}
-
-QByteArray renderShellItems(const QString& path) {
-    const std::optional<DrivePath> parsed = DrivePath::parse(path);
-    if (!parsed || !parsed->isValid) {
-        return {};
-    }
-    QByteArray root;
-    root += static_cast<char>(rootType);
-    root += myComputerOrder;
-    const QByteArray drive = QByteArray(1, static_cast<char>(driveClass | 0x0F)) +
-                             static_cast<char>(parsed->letter.unicode()) + QByteArray(":\\");
-    QByteArray items =
-        itemOf(root + QByteArray(myComputer, idSize)) + itemOf(drive.leftJustified(driveItemSize - 2, '\0'));
-    for (int i = 0; i < parsed->names.size(); ++i) {
-        items += fileItem(parsed->names.at(i), i + 1 < parsed->names.size());
-    }
-    items += number16(0);
-    return items.size() <= 0xFFFF ? items : QByteArray();
 }
 
 } // namespace Recordings

@@ -31,7 +31,4 @@ QString targetOf(const ShellLink& link, const QProcessEnvironment& environment, 
 /// the path in ANSI and in Unicode. Tells nothing else: no dates, no names of the machine and its volumes.
 QByteArray renderShellLink(const QString& target);
 
-/// The same with a list of shell items in place of the link information. Empty when the target is not on a drive.
-QByteArray renderShellLinkOfItems(const QString& target);
-
 } // namespace Recordings

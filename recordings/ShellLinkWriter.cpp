@@ -1,6 +1,5 @@
 #include "recordings/ShellLink.h"
 
-#include "recordings/ShellItems.h"
 #include "recordings/Utf16Text.h"
 
 #include <QDataStream>
@@ -10,7 +9,6 @@ namespace Recordings {
 namespace {
 
 constexpr quint32 headerSize = 0x4C;
-constexpr quint32 hasItemList = 0x01;
 constexpr quint32 hasLinkInfo = 0x02;
 constexpr quint32 isUnicode = 0x80;
 constexpr quint32 linkInfoHeaderSize = 0x24; // with the offsets of the Unicode texts
@@ -19,11 +17,11 @@ constexpr quint32 volumeIdSize = 0x11;
 constexpr quint32 driveFixed = 3;
 constexpr quint32 linkInfoOffset = 0;
 
-void writeHeader(QDataStream& stream, quint32 part) {
+void writeHeader(QDataStream& stream) {
     stream << headerSize;
     const char classId[] = "\x01\x14\x02\x00\x00\x00\x00\x00\xC0\x00\x00\x00\x00\x00\x00\x46";
     stream.writeRawData(classId, 16);
-    stream << (part | isUnicode);
+    stream << (hasLinkInfo | isUnicode);
     const QByteArray restOfHeader(static_cast<int>(headerSize) - 24, '\0');
     stream.writeRawData(restOfHeader.constData(), restOfHeader.size());
 }
@@ -44,7 +42,7 @@ QByteArray renderShellLink(const QString& target) {
     QByteArray link;
     QDataStream stream(&link, QIODevice::WriteOnly);
     stream.setByteOrder(QDataStream::LittleEndian);
-    writeHeader(stream, hasLinkInfo);
+    writeHeader(stream);
     stream << linkInfoSize << linkInfoHeaderSize << volumeIdAndLocalBasePath << volumeId << ansiPath << linkInfoOffset
            << ansiSuffix << unicodePath << unicodeSuffix;
     stream << volumeIdSize << driveFixed << quint32(0) << quint32(0x10) << quint8(0); // no serial number, no label
@@ -53,20 +51,6 @@ QByteArray renderShellLink(const QString& target) {
     stream.writeRawData(unicode.constData(), unicode.size());
     stream << quint16(0);
     stream << quint32(0); // no extra data
-    return link;
-}
-
-QByteArray renderShellLinkOfItems(const QString& target) {
-    const QByteArray items = renderShellItems(target);
-    QByteArray link;
-    QDataStream stream(&link, QIODevice::WriteOnly);
-    stream.setByteOrder(QDataStream::LittleEndian);
-    if (!items.isEmpty()) {
-        writeHeader(stream, hasItemList);
-        stream << static_cast<quint16>(items.size());
-        stream.writeRawData(items.constData(), items.size());
-        stream << quint32(0); // no extra data
-    }
     return link;
 }
 

@@ -87,18 +87,6 @@ TEST(Formats, Shortcut) {
     EXPECT_EQ(renderShellLink("C:\\x").size(), 0x4C + 0x24 + 0x11 + 5 + 1 + 10 + 2 + 4) << "nothing but the target";
 }
 
-TEST(Formats, ShortcutOfShellItems) {
-    for (const QString target : {"C:\\x.exe", "d:\\Spiele\\Käferrennen\\käfer.exe", "E:\\競走クラブ\\🎮\\Keiso.exe",
-                                 "C:\\even\\odd12\\a", "C:\\"}) {
-        const std::optional<ShellLink> link = parseShellLink(renderShellLinkOfItems(target));
-        ASSERT_TRUE(link);
-        EXPECT_EQ(link->itemPath, target);
-        EXPECT_EQ(link->localPath, "");
-        EXPECT_EQ(targetOf(*link, {}, "C:/Menu"), QString(target).replace('\\', '/'));
-    }
-    EXPECT_EQ(renderShellLinkOfItems("\\\\server\\share\\x.exe"), "") << "on no drive";
-}
-
 TEST(Formats, Description) {
     Pc pc = OddPc::make(false);
     JsonFault fault;

@@ -1,4 +1,3 @@
-#include "recordings/ShellItems.h"
 #include "recordings/ShellLink.h"
 
 #include "common/QtPrinters.h"
@@ -8,13 +7,7 @@
 
 #include <QFile>
 
-#include <windows.h>
-
-#include <shlobj.h>
-
-#include <array>
-
-// Held against what the system's own shell writes and reads.
+// Held against what the system's own shell writes.
 
 namespace {
 
@@ -36,18 +29,6 @@ TEST(ShellItems, AreReadAsTheShellWritesThem) {
         ASSERT_TRUE(link);
         EXPECT_EQ(link->itemPath, target);
         pc.removeFile("C:\\Menu\\x.lnk");
-    }
-}
-
-/// Not by a shortcut's file: there Wine reads the link information only.
-TEST(ShellItems, AreWrittenAsTheShellReadsThem) {
-    TestPc pc;
-    for (const QString target : targets) {
-        pc.file(target);
-        const QByteArray items = Recordings::renderShellItems(target);
-        std::array<wchar_t, MAX_PATH> path{};
-        EXPECT_TRUE(::SHGetPathFromIDListW(reinterpret_cast<PCIDLIST_ABSOLUTE>(items.constData()), path.data()));
-        EXPECT_EQ(QString::fromWCharArray(path.data()), target);
     }
 }
 
