@@ -1,7 +1,5 @@
 #include "trace/Events.h"
 
-#include "trace/JsonLine.h"
-
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -157,37 +155,63 @@ void list(IndexEnd& event, Fields& fields) {
     fields("entries", event.entries);
 }
 
+QByteArray quoted(const QString& text) {
+    QString escaped(QLatin1Char('"'));
+    for (const QChar character : text) {
+        if (character == QLatin1Char('"') || character == QLatin1Char('\\')) {
+            escaped += QLatin1Char('\\');
+        }
+        if (character < QLatin1Char(' ')) {
+            escaped += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
+        } else {
+            escaped += character;
+        }
+    }
+    return (escaped + QLatin1Char('"')).toUtf8();
+}
+
+/// Keeps the fields in their order, and loses none when memory runs out half-way, as QJsonObject does.
 class Writer {
 public:
     explicit Writer(const EventName& name) {
-        m_line.add("event", QString::fromLatin1(name.event));
+        (*this)("event", QString::fromLatin1(name.event));
         if (name.what != nullptr) {
-            m_line.add("what", QString::fromLatin1(name.what));
+            (*this)("what", QString::fromLatin1(name.what));
         }
     }
 
-    void operator()(const char* name, const QString& text) { m_line.add(name, text); }
+    void operator()(const char* name, const QString& text) { add(name, quoted(text)); }
 
-    void operator()(const char* name, const QStringList& texts) { m_line.add(name, texts); }
+    void operator()(const char* name, const QStringList& texts) {
+        QByteArray list;
+        for (const QString& text : texts) {
+            list += (list.isEmpty() ? "" : ",") + quoted(text);
+        }
+        add(name, '[' + list + ']');
+    }
 
-    void operator()(const char* name, bool flag) { m_line.add(name, flag); }
+    void operator()(const char* name, bool flag) { add(name, flag ? "true" : "false"); }
 
-    void operator()(const char* name, int number) { m_line.add(name, qint64{number}); }
+    void operator()(const char* name, int number) { add(name, QByteArray::number(number)); }
 
-    void operator()(const char* name, quint32 number) { m_line.add(name, qint64{number}); }
+    void operator()(const char* name, quint32 number) { add(name, QByteArray::number(number)); }
 
-    void operator()(const char* name, const QByteArray& bytes) { m_line.add(name, QString::fromLatin1(bytes.toHex())); }
+    void operator()(const char* name, const QByteArray& bytes) { (*this)(name, QString::fromLatin1(bytes.toHex())); }
 
     void operator()(const char* name, const std::optional<QString>& text) {
         if (text) {
-            m_line.add(name, *text);
+            (*this)(name, *text);
         }
     }
 
-    QByteArray line() const { return m_line.end(); }
+    QByteArray line() const { return m_line + "}\n"; }
 
 private:
-    JsonLine m_line;
+    void add(const char* name, const QByteArray& value) {
+        m_line += (m_line.isEmpty() ? "{\"" : ",\"") + QByteArray(name) + "\":" + value;
+    }
+
+    QByteArray m_line;
 };
 
 /// 0 for a number that the type can't hold.
@@ -201,8 +225,8 @@ Number numberIn(const QJsonValue& value) {
 
 class Reader {
 public:
-    explicit Reader(const QJsonObject& json)
-        : m_json(json) {}
+    explicit Reader(const QByteArray& line)
+        : m_json(QJsonDocument::fromJson(line).object()) {}
 
     bool isNamed(const EventName& name) const {
         return at("event").toString() == QLatin1String(name.event) &&
@@ -237,18 +261,15 @@ public:
 private:
     QJsonValue at(const char* name) const { return m_json.value(QLatin1String(name)); }
 
-    const QJsonObject& m_json;
+    QJsonObject m_json;
 };
 
 template <class OneEvent>
 bool readAs(const Reader& reader, std::optional<Event>& event) {
-    OneEvent one{};
-    if (!reader.isNamed(OneEvent::inTrace)) {
-        return false;
+    if (reader.isNamed(OneEvent::inTrace)) {
+        list(std::get<OneEvent>(event.emplace(OneEvent())), reader);
     }
-    list(one, reader);
-    event = std::move(one);
-    return true;
+    return event.has_value();
 }
 
 template <class... Events>
@@ -271,8 +292,7 @@ QByteArray toLine(const Event& event) {
 }
 
 std::optional<Event> fromLine(const QByteArray& line) {
-    const QJsonObject json = QJsonDocument::fromJson(line).object();
-    return readAny(Reader(json), static_cast<const Event*>(nullptr));
+    return readAny(Reader(line), static_cast<const Event*>(nullptr));
 }
 
 } // namespace Trace
