@@ -1,12 +1,12 @@
 #include "platform/recorded/DriveFileEngine.h"
 
-#include "platform/recorded/DriveFolderIterator.h"
 #include "platform/recorded/Observer.h"
 #include "platform/recorded/PcPaths.h"
 #include "recordings/ShellLink.h"
 #include "recordings/WindowsPath.h"
 
 #include <QDateTime>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -24,6 +24,40 @@ bool isExecutable(const QString& path) {
         return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive);
     });
 }
+
+/// Hands the names in one folder to QDir and QDirIterator, which filter them.
+class FolderIterator : public QAbstractFileEngineIterator {
+public:
+    /// `isRoot`: the folder has no "." and "..", which every other one has before its names.
+    FolderIterator(QDir::Filters filters, const QStringList& nameFilters, const QString& folder, bool isRoot,
+                   std::vector<QString> names)
+        : QAbstractFileEngineIterator(filters, nameFilters)
+        , m_folder(folder.endsWith(slash) ? folder : folder + slash)
+        , m_names(std::move(names)) {
+        if (!isRoot) {
+            m_names.insert(m_names.begin(), {QStringLiteral("."), QStringLiteral("..")});
+        }
+    }
+
+    QString next() override {
+        if (!hasNext()) {
+            return {};
+        }
+        ++m_position;
+        return m_folder + currentFileName();
+    }
+
+    bool hasNext() const override { return m_position < m_names.size(); }
+
+    QString currentFileName() const override { return m_position == 0 ? QString() : m_names[m_position - 1]; }
+
+    QFileInfo currentFileInfo() const override { return QFileInfo(m_folder + currentFileName()); }
+
+private:
+    QString m_folder; ///< as the caller wrote it, with slashes
+    std::vector<QString> m_names;
+    std::size_t m_position = 0; ///< behind the current name; 0 before the first
+};
 
 } // namespace
 
@@ -224,7 +258,7 @@ QAbstractFileEngine::Iterator* DriveFileEngine::beginEntryList(QDir::Filters fil
         observe(QLatin1String("list ") + s.path.text());
     }
     const QString folder = s.isShortcut ? s.path.text() : m_path;
-    return new DriveFolderIterator(filters, names, folder, s.path.isRoot(), m_pc->drives().list(s.path));
+    return new FolderIterator(filters, names, folder, s.path.isRoot(), m_pc->drives().list(s.path));
 }
 
 } // namespace Recorded

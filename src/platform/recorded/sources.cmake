@@ -4,7 +4,6 @@ target_sources(
     PRIVATE platform/recorded/Clocks.cpp
             platform/recorded/CurrentPc.cpp
             platform/recorded/DriveFileEngine.cpp
-            platform/recorded/DriveFolderIterator.cpp
             platform/recorded/Files.cpp
             platform/recorded/FolderLock.cpp
             platform/recorded/Folders.cpp
