@@ -15,12 +15,24 @@ struct Setting {
     QString value;
 };
 
+/// What the recorded PC that is chosen has, and what was set since. Any thread may ask who has the lock.
+struct Values {
+    std::mutex lock;
+    std::shared_ptr<const Recorded::RecordedPc> pc;
+    QMap<QString, Setting> byFoldedKey;
+};
+
+Values& values() {
+    static Values values;
+    return values;
+}
+
 /// The settings of the recorded PC that is chosen. What is set stays until another one is chosen or the process ends:
 /// a recording is never written to. Any thread may call.
-class RecordedValues {
+class RecordedSettings final : public UserSettings {
 public:
-    QStringList keys() {
-        const std::lock_guard<std::mutex> lock(m_mutex);
+    QStringList allKeys() const override {
+        const std::lock_guard<std::mutex> guard(values().lock);
         QStringList keys;
         for (const Setting& setting : current()) {
             keys.append(setting.key);
@@ -28,59 +40,38 @@ public:
         return keys;
     }
 
-    QString value(const QString& key, const QString& fallback) {
-        const std::lock_guard<std::mutex> lock(m_mutex);
+    QString value(const QString& key, const QString& fallback) const override {
+        const std::lock_guard<std::mutex> guard(values().lock);
         return current().value(Recordings::foldName(key), {key, fallback}).value;
     }
 
-    void setValue(const QString& key, const QString& value) {
-        const std::lock_guard<std::mutex> lock(m_mutex);
+    void setValue(const QString& key, const QString& value) override {
+        const std::lock_guard<std::mutex> guard(values().lock);
         Setting& setting = current()[Recordings::foldName(key)];
         setting = {setting.key.isEmpty() ? key : setting.key, value};
     }
 
-    void remove(const QString& key) {
-        const std::lock_guard<std::mutex> lock(m_mutex);
+    void remove(const QString& key) override {
+        const std::lock_guard<std::mutex> guard(values().lock);
         current().remove(Recordings::foldName(key));
     }
 
+    void sync() override {}
+
 private:
-    QMap<QString, Setting>& current() {
+    static QMap<QString, Setting>& current() {
+        QMap<QString, Setting>& settings = values().byFoldedKey;
         const std::shared_ptr<const Recorded::RecordedPc> pc = Recorded::currentPc();
-        if (pc != m_pc) {
-            m_pc = pc;
-            m_settings.clear();
+        if (pc != values().pc) {
+            values().pc = pc;
+            settings.clear();
             const QMap<QString, QString>& locations = pc->description().userLocations;
             for (auto location = locations.begin(); location != locations.end(); ++location) {
-                m_settings.insert(Recordings::foldName(location.key()), {location.key(), location.value()});
+                settings.insert(Recordings::foldName(location.key()), {location.key(), location.value()});
             }
         }
-        return m_settings;
+        return settings;
     }
-
-    std::mutex m_mutex;
-    std::shared_ptr<const Recorded::RecordedPc> m_pc;
-    QMap<QString, Setting> m_settings; ///< by folded key
-};
-
-RecordedValues& recordedValues() {
-    static RecordedValues values;
-    return values;
-}
-
-class RecordedSettings final : public UserSettings {
-public:
-    QStringList allKeys() const override { return recordedValues().keys(); }
-
-    QString value(const QString& key, const QString& fallback) const override {
-        return recordedValues().value(key, fallback);
-    }
-
-    void setValue(const QString& key, const QString& value) override { recordedValues().setValue(key, value); }
-
-    void remove(const QString& key) override { recordedValues().remove(key); }
-
-    void sync() override {}
 };
 
 } // namespace
