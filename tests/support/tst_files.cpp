@@ -3,6 +3,7 @@
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "recordings/Utf16Text.h"
 
 #include <QDir>
 #include <QFile>
@@ -42,8 +43,12 @@ TEST_F(FilesTest, AFolderIsMadeWithTheFoldersOnTheWay) {
     EXPECT_TRUE(Platform::createFolder(path("a/b/ç")));
     EXPECT_TRUE(QDir(folder.filePath("a/b/ç")).exists());
     EXPECT_FALSE(Platform::createFolder(path("a/b/ç"))) << "it is there already";
+    EXPECT_TRUE(Platform::createFolder(path("d/e/")));
+    EXPECT_TRUE(QDir(folder.filePath("d/e")).exists());
     write("file", "");
-    EXPECT_FALSE(Platform::createFolder(path("file/below")));
+    for (const QString& refused : {path("file/below"), QString("relative"), QString()}) {
+        EXPECT_FALSE(Platform::createFolder(refused)) << refused.toStdString();
+    }
 }
 
 TEST_F(FilesTest, DeletingTellsWhetherThereWasAFile) {
@@ -51,6 +56,8 @@ TEST_F(FilesTest, DeletingTellsWhetherThereWasAFile) {
     EXPECT_TRUE(Platform::deleteFile(path("file")));
     EXPECT_EQ(read("file"), "(missing)");
     EXPECT_FALSE(Platform::deleteFile(path("file")));
+    ASSERT_TRUE(Platform::createFolder(path("folder")));
+    EXPECT_FALSE(Platform::deleteFile(path("folder")));
 }
 
 TEST_F(FilesTest, MovingReplacesAnExistingFile) {
@@ -99,23 +106,20 @@ TEST_F(FilesTest, SeveralStreamsMayAppendToOneFile) {
     EXPECT_EQ(read("text"), "1\r\n2\r\n3\r\n");
 }
 
-QByteArray utf16(const QString& text) {
-    return {reinterpret_cast<const char*>(text.utf16()), text.size() * 2};
-}
-
 TEST_F(FilesTest, UnicodeTextBeginsWithOneByteOrderMark) {
     for (const char* line : {"Käfer 競走\n", "\xF0\x9F\x8E\xAE\n"}) {
         auto stream = Platform::openShared(path("text"), "at, ccs=UNICODE");
         ASSERT_TRUE(stream);
         stream->write(line);
     }
-    EXPECT_EQ(read("text"), utf16(QChar(0xFEFF) + QString::fromUtf8("Käfer 競走\r\n\xF0\x9F\x8E\xAE\r\n")));
+    EXPECT_EQ(read("text"),
+              Recordings::toUtf16(QChar(0xFEFF) + QString::fromUtf8("Käfer 競走\r\n\xF0\x9F\x8E\xAE\r\n")));
 }
 
 TEST_F(FilesTest, UnicodeTextFromTheStartBeginsAnew) {
     write("text", "old");
     Platform::openShared(path("text"), "wt, ccs=UNICODE")->write("x\n");
-    EXPECT_EQ(read("text"), utf16(QChar(0xFEFF) + QString("x\r\n")));
+    EXPECT_EQ(read("text"), Recordings::toUtf16(QChar(0xFEFF) + QString("x\r\n")));
 }
 
 TEST_F(FilesTest, AFolderCannotBeOpenedAsAFile) {
