@@ -34,8 +34,7 @@ TEST_F(GameForWindowFinderTest, TheRegisteredExecutableWinsOutright) {
     }
     addGame(pc, {"{1}", "SOME GAME", "C:/Games/X/x.exe", "C:\\Games\\X"});
     EXPECT_TRUE(find("Some Game", {"a.exe"}));
-    EXPECT_EQ(location,
-              (GameLocation{"C:/Games/X/x.exe", "C:/Games/X/x.exe", {"C:/Games/X/x.exe"}, "C:/Games/X", false}));
+    EXPECT_EQ(location, foundIn("C:/Games/X", {"C:/Games/X/x.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: GameForWindow: C:/Games/X/x.exe"));
 }
 
@@ -43,9 +42,7 @@ TEST_F(GameForWindowFinderTest, TheRegisteredExecutableStaysAsStoredAndItsFolder
     pc.file("C:\\Games\\X\\x.exe");
     addGame(pc, {"{1}", "X", "C:\\Games\\X\\x.exe", {}});
     EXPECT_TRUE(find("X", {}));
-    EXPECT_EQ(
-        location,
-        (GameLocation{"C:\\Games\\X\\x.exe", "C:\\Games\\X\\x.exe", {"C:\\Games\\X\\x.exe"}, "C:/Games/X", false}));
+    EXPECT_EQ(location, foundIn("C:/Games/X", {"C:\\Games\\X\\x.exe"}));
 }
 
 TEST_F(GameForWindowFinderTest, WhiteSpaceAtTheEndOfItsFolderGoes) {
@@ -63,11 +60,7 @@ TEST_F(GameForWindowFinderTest, OtherwiseEveryExecutableInTheRegisteredFolderIsF
     }
     addGame(pc, {"{1}", "X", "C:\\Games\\X\\gone.exe", "C:\\Games\\X"});
     EXPECT_TRUE(find("X", {"bin\\a.exe", "b.exe", "c.exe"}));
-    EXPECT_EQ(location, (GameLocation{"C:\\Games\\X\\bin\\a.exe",
-                                      "C:\\Games\\X\\bin\\a.exe",
-                                      {"C:\\Games\\X\\bin\\a.exe", "C:\\Games\\X\\c.exe"},
-                                      "C:\\Games\\X",
-                                      false}));
+    EXPECT_EQ(location, foundIn("C:\\Games\\X", {"C:\\Games\\X\\bin\\a.exe", "C:\\Games\\X\\c.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: GameForWindow: C:\\Games\\X\\bin\\a.exe"));
 }
 

@@ -36,12 +36,7 @@ protected:
 TEST_F(StartMenuFinderTest, FindsAProgramByItsShortcut) {
     addShortcut("C:\\Menu\\Programs\\Steam\\Steam.lnk", "C:\\Games\\Steam\\Steam.exe");
     EXPECT_TRUE(find("steam", {"steam.exe"}));
-    EXPECT_EQ(location, (GameLocation{"C:/Games/Steam/Steam.exe",
-                                      "C:/Games/Steam/Steam.exe",
-                                      {"C:/Games/Steam/Steam.exe"},
-                                      "C:/Games/Steam",
-                                      false}))
-        << "with forward slashes";
+    EXPECT_EQ(location, foundIn("C:/Games/Steam", {"C:/Games/Steam/Steam.exe"})) << "with forward slashes";
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: StartMenu: Found C:/Games/Steam/Steam.exe"));
 }
 
@@ -71,10 +66,7 @@ TEST_F(StartMenuFinderTest, AnExecutableMayBeAnyPartOfTheTarget) {
 TEST_F(StartMenuFinderTest, EachExecutableThatFitsAddsTheTargetOnce) {
     addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\x.exe");
     EXPECT_TRUE(find("X", {"missing.exe", "X.EXE", "x.exe"}));
-    EXPECT_EQ(
-        location,
-        (GameLocation{
-            "C:/Games/X/x.exe", "C:/Games/X/x.exe", {"C:/Games/X/x.exe", "C:/Games/X/x.exe"}, "C:/Games/X", false}));
+    EXPECT_EQ(location, foundIn("C:/Games/X", {"C:/Games/X/x.exe", "C:/Games/X/x.exe"}));
     EXPECT_THAT(pc.messages("Test"),
                 ElementsAre("A: StartMenu: Found C:/Games/X/x.exe", "A: StartMenu: Found C:/Games/X/x.exe"));
 }

@@ -31,11 +31,8 @@ TEST_F(UninstallFinderTest, FindsEveryExecutableInTheInstallLocation) {
     pc.file("D:\\Games\\Racer\\setup.exe");
     addProgram(pc, {"Racer_is1", "Space Racer", "D:\\Games\\Racer", "\"D:\\Games\\Racer\\unins000.exe\""});
     EXPECT_TRUE(find("space racer", {"bin\\racer.exe", "missing.exe", "setup.exe"}));
-    EXPECT_EQ(location, (GameLocation{"D:\\Games\\Racer\\bin\\racer.exe",
-                                      "D:\\Games\\Racer\\bin\\racer.exe",
-                                      {"D:\\Games\\Racer\\bin\\racer.exe", "D:\\Games\\Racer\\setup.exe"},
-                                      "D:\\Games\\Racer",
-                                      false}));
+    EXPECT_EQ(location,
+              foundIn("D:\\Games\\Racer", {"D:\\Games\\Racer\\bin\\racer.exe", "D:\\Games\\Racer\\setup.exe"}));
     EXPECT_THAT(pc.messages("Test"),
                 ElementsAre("A: Uninstall: Found " + uninstallKeyPath + "\\Racer_is1: D:\\Games\\Racer\\bin\\racer.exe",
                             "A: Uninstall: Found " + uninstallKeyPath + "\\Racer_is1: D:\\Games\\Racer\\setup.exe"))
@@ -96,11 +93,7 @@ TEST_F(UninstallFinderTest, LooksBesideTheUninstallerWhenTheLocationHasNothing) 
     pc.folder("C:\\Elsewhere");
     addProgram(pc, {"1", "X", "C:\\Elsewhere", "\"C:\\Games\\X\\unins000.exe\" /SILENT"});
     EXPECT_TRUE(find("X", {"missing.exe", "game.exe", "bin\\tool.exe"}));
-    EXPECT_EQ(location, (GameLocation{"C:/Games/X\\game.exe",
-                                      "C:/Games/X\\game.exe",
-                                      {"C:/Games/X\\game.exe", "C:/Games/X\\bin\\tool.exe"},
-                                      "C:/Games/X",
-                                      false}));
+    EXPECT_EQ(location, foundIn("C:/Games/X", {"C:/Games/X\\game.exe", "C:/Games/X\\bin\\tool.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Uninstall: Found C:/Games/X\\game.exe",
                                                  "A: Uninstall: Found C:/Games/X\\bin\\tool.exe"));
 }

@@ -9,9 +9,6 @@
 /// A PC, and what a finder over it logs with and fills.
 class FinderTest : public ::testing::Test {
 protected:
-    /// What a failed search in the folder leaves in the location.
-    static GameLocation failedIn(const QString& folder) { return {{}, {}, {}, folder, false}; }
-
     TestPc pc;
     Logger logger = Logger::create("Test");
     GameLocation location = usedLocation();

@@ -3,6 +3,7 @@
 #include "core/GameLocation.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <ostream>
 
@@ -23,4 +24,19 @@ inline void PrintTo(const GameLocation& location, std::ostream* stream) {
 /// A location that an earlier search filled, with the host's flag set.
 inline GameLocation usedLocation() {
     return {"steam://launch/1", "C:\\Old\\old.exe", {"C:\\Old\\old.exe", "C:\\Old\\other.exe"}, "C:\\Old", true};
+}
+
+/// What a search leaves that found these executables in the folder.
+inline GameLocation foundIn(const QString& folder, const QStringList& executables) {
+    return {executables.front(), executables.front(), executables, folder, false};
+}
+
+/// The same for a game that is started by a command.
+inline GameLocation startedBy(const QString& command, const QString& folder, const QStringList& executables) {
+    return {command, executables.front(), executables, folder, false};
+}
+
+/// What a failed search in the folder leaves.
+inline GameLocation failedIn(const QString& folder) {
+    return {{}, {}, {}, folder, false};
 }

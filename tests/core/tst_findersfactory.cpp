@@ -43,11 +43,7 @@ TEST_F(FindersFactoryTest, CreateMakesAFactoryWhoseFolderFinderFindsAGame) {
     const auto finder = factory->createFolderFinder("D:\\Spiele\\Käferrennen", {"bin\\win64\\kaefer.exe"});
     ASSERT_TRUE(finder);
     EXPECT_TRUE(finder->find(location));
-    EXPECT_EQ(location, (GameLocation{"D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe",
-                                      "D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe",
-                                      {"D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe"},
-                                      "D:\\Spiele\\Käferrennen",
-                                      false}));
+    EXPECT_EQ(location, foundIn("D:\\Spiele\\Käferrennen", {"D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe"}));
     EXPECT_THAT(pc.messages(logName), ElementsAre("A: Folder: D:/Spiele/Käferrennen/bin\\win64\\kaefer.exe"));
 }
 

@@ -25,11 +25,7 @@ TEST_F(FolderFinderTest, FindsEveryExecutableInTheOrderGiven) {
     pc.file("D:\\Games\\X\\b.exe");
     pc.file("D:\\Games\\X\\a.exe");
     EXPECT_TRUE(find("D:\\Games\\X", {"a.exe", "missing.exe", "b.exe"}));
-    EXPECT_EQ(location, (GameLocation{"D:\\Games\\X\\a.exe",
-                                      "D:\\Games\\X\\a.exe",
-                                      {"D:\\Games\\X\\a.exe", "D:\\Games\\X\\b.exe"},
-                                      "D:\\Games\\X",
-                                      false}));
+    EXPECT_EQ(location, foundIn("D:\\Games\\X", {"D:\\Games\\X\\a.exe", "D:\\Games\\X\\b.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Folder: D:/Games/X/a.exe", "A: Folder: D:/Games/X/b.exe"));
 }
 

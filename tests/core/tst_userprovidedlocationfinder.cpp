@@ -50,11 +50,7 @@ TEST_F(UserProvidedLocationFinderTest, FindsEveryExecutableInTheRememberedFolder
     pc.file("D:\\Games\\X\\a.exe");
     store("K", "D:/Games/X");
     EXPECT_TRUE(finder("K", {"bin\\b.exe", "gone.exe", "a.exe"}).find(location));
-    EXPECT_EQ(location, (GameLocation{"D:/Games/X\\bin\\b.exe",
-                                      "D:/Games/X\\bin\\b.exe",
-                                      {"D:/Games/X\\bin\\b.exe", "D:/Games/X\\a.exe"},
-                                      "D:/Games/X",
-                                      false}));
+    EXPECT_EQ(location, foundIn("D:/Games/X", {"D:/Games/X\\bin\\b.exe", "D:/Games/X\\a.exe"}));
     EXPECT_THAT(pc.messages("Test"),
                 ElementsAre("A: User: Found D:/Games/X\\bin\\b.exe", "A: User: Found D:/Games/X\\a.exe"));
 }
@@ -71,7 +67,7 @@ TEST_F(UserProvidedLocationFinderTest, AFolderWithoutTheExecutablesIsToldAsAnErr
     for (const QStringList& executables : {QStringList{"a.exe", "b.exe"}, QStringList{}}) {
         location = usedLocation();
         EXPECT_FALSE(finder("K", executables).find(location));
-        EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/Games/%s 競走\\", false}));
+        EXPECT_EQ(location, failedIn("D:/Games/%s 競走\\"));
     }
     EXPECT_THAT(pc.messages("Test"),
                 ElementsAre("E: User: Not found D:/Games/%s 競走\\", "E: User: Not found D:/Games/%s 競走\\"));
@@ -193,7 +189,7 @@ TEST_F(UserProvidedLocationFinderTest, AMultiFinderStopsAtARememberedFolderThatF
     EXPECT_EQ(location.installFolder, "D:\\Behind");
     store("K", "D:\\Chosen");
     EXPECT_FALSE(findInMulti());
-    EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:\\Chosen", false}));
+    EXPECT_EQ(location, failedIn("D:\\Chosen"));
 }
 
 TEST_F(UserProvidedLocationFinderTest, TheFactoryMakesIt) {

@@ -49,12 +49,9 @@ TEST_F(SteamFinderTest, FindsAGameByItsUninstallEntryWithoutTheClient) {
     pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
     addEntry("440", " D:\\Library\\steamapps\\common\\Game\t");
     EXPECT_TRUE(find("440", "", {"bin\\game.exe", "missing.exe", "game.exe"}));
-    EXPECT_EQ(location, (GameLocation{"steam://launch/440",
-                                      "D:\\Library\\steamapps\\common\\Game\\bin\\game.exe",
-                                      {"D:\\Library\\steamapps\\common\\Game\\bin\\game.exe",
-                                       "D:\\Library\\steamapps\\common\\Game\\game.exe"},
-                                      "D:\\Library\\steamapps\\common\\Game",
-                                      false}));
+    EXPECT_EQ(location, startedBy("steam://launch/440", "D:\\Library\\steamapps\\common\\Game",
+                                  {"D:\\Library\\steamapps\\common\\Game\\bin\\game.exe",
+                                   "D:\\Library\\steamapps\\common\\Game\\game.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Steam: Found 440"));
 }
 
@@ -64,12 +61,9 @@ TEST_F(SteamFinderTest, FindsAGameInALibrary) {
     pc.file("D:\\Library\\steamapps\\common\\A Game\\bin\\game.exe");
     pc.file("D:\\Library\\steamapps\\common\\A Game\\game.exe");
     EXPECT_TRUE(find("440", "A Game", {"missing.exe", "bin\\game.exe", "game.exe"}));
-    EXPECT_EQ(location, (GameLocation{"steam://launch/440",
-                                      "D:/Library/steamapps/common/A Game\\bin\\game.exe",
-                                      {"D:/Library/steamapps/common/A Game\\bin\\game.exe",
-                                       "D:/Library/steamapps/common/A Game\\game.exe"},
-                                      "D:/Library/steamapps/common/A Game",
-                                      false}));
+    EXPECT_EQ(location, startedBy("steam://launch/440", "D:/Library/steamapps/common/A Game",
+                                  {"D:/Library/steamapps/common/A Game\\bin\\game.exe",
+                                   "D:/Library/steamapps/common/A Game\\game.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Steam: Found 440"));
 }
 

@@ -33,11 +33,8 @@ TEST_F(EpicStoreFinderTest, FindsEveryExecutableAndStartsTheGameThroughTheLaunch
     pc.file("D:\\Epic\\Kiwi\\Server.exe");
     addEpicApp(pc, "1.item", {"KiwiApp", "Kiwi Racer", "D:\\Epic\\Kiwi", "0a1b", "c2d3"});
     EXPECT_TRUE(find("kiwi racer", {"Bin\\Kiwi.exe", "gone.exe", "Server.exe"}, equals));
-    EXPECT_EQ(location, (GameLocation{"com.epicgames.launcher://apps/0a1b%3Ac2d3%3AKiwiApp?action=launch&silent=true",
-                                      "D:\\Epic\\Kiwi\\Bin\\Kiwi.exe",
-                                      {"D:\\Epic\\Kiwi\\Bin\\Kiwi.exe", "D:\\Epic\\Kiwi\\Server.exe"},
-                                      "D:\\Epic\\Kiwi",
-                                      false}));
+    EXPECT_EQ(location, startedBy("com.epicgames.launcher://apps/0a1b%3Ac2d3%3AKiwiApp?action=launch&silent=true",
+                                  "D:\\Epic\\Kiwi", {"D:\\Epic\\Kiwi\\Bin\\Kiwi.exe", "D:\\Epic\\Kiwi\\Server.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Bin\\Kiwi.exe",
                                                  "A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Server.exe"));
 }
@@ -94,7 +91,7 @@ TEST_F(EpicStoreFinderTest, AFailedSearchKeepsTheLastPlace) {
     addEpicApp(pc, "2.item", {"2", "Kiwi", "D:/2\\"});
     addEpicApp(pc, "3.item", {"3", "Kiwi", ""});
     EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals));
-    EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/2\\", false}));
+    EXPECT_EQ(location, failedIn("D:/2\\"));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: EpicStore: Not found D:\\1", "A: EpicStore: Not found D:/2\\"));
 }
 

@@ -37,12 +37,9 @@ TEST_F(OculusStoreFinderTest, FindsEveryExecutableInTheGamesFolder) {
     pc.file("D:\\Oculus Apps\\Software\\some-game\\Game.exe");
     pc.file("D:\\Oculus Apps\\Software\\some-game\\bin\\Server.exe");
     EXPECT_TRUE(find("kite", {"Game.exe", "gone.exe", "bin\\Server.exe"}, "some-game"));
-    EXPECT_EQ(location, (GameLocation{"D:/Oculus Apps/Software/some-game\\Game.exe",
-                                      "D:/Oculus Apps/Software/some-game\\Game.exe",
-                                      {"D:/Oculus Apps/Software/some-game\\Game.exe",
-                                       "D:/Oculus Apps/Software/some-game\\bin\\Server.exe"},
-                                      "D:/Oculus Apps/Software/some-game",
-                                      false}));
+    EXPECT_EQ(location,
+              foundIn("D:/Oculus Apps/Software/some-game", {"D:/Oculus Apps/Software/some-game\\Game.exe",
+                                                            "D:/Oculus Apps/Software/some-game\\bin\\Server.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: OculusStore: D:/Oculus Apps/Software/some-game\\Game.exe",
                                                  "A: OculusStore: D:/Oculus Apps/Software/some-game\\Game.exe"))
         << "the second hit tells the first one's path again";
@@ -82,7 +79,7 @@ TEST_F(OculusStoreFinderTest, LeavesTheLocationAloneWhenNoLibraryHasTheApp) {
 TEST_F(OculusStoreFinderTest, AMissingGameFolderLeavesThePartOfTheWayThatExists) {
     addLibrary("{1}", "D:\\Apps");
     EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
-    EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/Apps/Software", false}));
+    EXPECT_EQ(location, failedIn("D:/Apps/Software"));
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
@@ -99,7 +96,7 @@ TEST_F(OculusStoreFinderTest, AFileNamedSoftwareEndsTheWayInTheLibrary) {
     addOculusLibrary(pc, "{1}", "D:\\Apps");
     pc.file("D:\\Apps\\Manifests\\kite.json.mini");
     EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
-    EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/Apps", false}));
+    EXPECT_EQ(location, failedIn("D:/Apps"));
 }
 
 TEST_F(OculusStoreFinderTest, ResetsTheLocationWhenNoExecutableExists) {
@@ -108,7 +105,7 @@ TEST_F(OculusStoreFinderTest, ResetsTheLocationWhenNoExecutableExists) {
     for (const QStringList& executables : {QStringList{"gone.exe"}, QStringList{"", ""}, QStringList{}}) {
         location = usedLocation();
         EXPECT_FALSE(find("kite", executables, "kite"));
-        EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/Apps/Software/kite", false}));
+        EXPECT_EQ(location, failedIn("D:/Apps/Software/kite"));
     }
 }
 
@@ -137,7 +134,7 @@ TEST_F(OculusStoreFinderTest, AFailedSearchKeepsTheLastFolder) {
     addLibrary("{2}", "D:\\2");
     pc.folder("C:\\1\\Software\\kite");
     EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
-    EXPECT_EQ(location, (GameLocation{{}, {}, {}, "D:/2/Software", false}));
+    EXPECT_EQ(location, failedIn("D:/2/Software"));
 }
 
 TEST_F(OculusStoreFinderTest, TheSoftwareFolderMayBeAPath) {
