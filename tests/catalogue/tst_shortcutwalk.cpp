@@ -1,8 +1,8 @@
 #include "catalogue/ShortcutWalk.h"
 
 #include "catalogue/TestWalk.h"
+#include "common/PcTest.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,8 +16,9 @@ using ::testing::IsEmpty;
 
 constexpr quint64 limitMs = 30'000;
 
-TEST(ShortcutWalkTest, ListsAFoldersOwnShortcutsBeforeThoseBelowIt) {
-    TestPc pc;
+using ShortcutWalkTest = PcTest;
+
+TEST_F(ShortcutWalkTest, ListsAFoldersOwnShortcutsBeforeThoseBelowIt) {
     for (const char* path : {"a\\b.lnk", "a\\deep\\c.lnk", "a\\deeper\\x\\d.lnk", "b\\e.lnk", "z.lnk", "a.lnk"}) {
         pc.file(QString("C:\\Menu\\") + path);
     }
@@ -26,23 +27,20 @@ TEST(ShortcutWalkTest, ListsAFoldersOwnShortcutsBeforeThoseBelowIt) {
                             "C:\\Menu\\a\\deeper\\x\\d.lnk", "C:\\Menu\\b\\e.lnk"));
 }
 
-TEST(ShortcutWalkTest, TakesTheFolderInEitherSpelling) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, TakesTheFolderInEitherSpelling) {
     pc.file("C:\\Menu\\a.lnk");
     EXPECT_THAT(shortcutsBelow("C:/Menu", limitMs), ElementsAre("C:\\Menu\\a.lnk"));
     EXPECT_THAT(shortcutsBelow("C:\\Menu\\", limitMs), ElementsAre("C:\\Menu\\a.lnk"));
 }
 
-TEST(ShortcutWalkTest, TheExtensionIsInLowerCase) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, TheExtensionIsInLowerCase) {
     for (const char* name : {"a.lnk", "b.LNK", "c.Lnk", "d.lnkx", "e.lnk.txt", "f.url", "lnk", "g.old.lnk"}) {
         pc.file(QString("C:\\Menu\\") + name);
     }
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\a.lnk", "C:\\Menu\\g.old.lnk"));
 }
 
-TEST(ShortcutWalkTest, TakesShortcutsWithoutLookingAtTheirTargets) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, TakesShortcutsWithoutLookingAtTheirTargets) {
     pc.folder("C:\\Games");
     pc.shortcut("C:\\Menu\\folder.lnk", "C:\\Games");
     pc.shortcut("C:\\Menu\\gone.lnk", "C:\\Gone\\gone.exe");
@@ -51,8 +49,7 @@ TEST(ShortcutWalkTest, TakesShortcutsWithoutLookingAtTheirTargets) {
                 ElementsAre("C:\\Menu\\broken.lnk", "C:\\Menu\\folder.lnk", "C:\\Menu\\gone.lnk"));
 }
 
-TEST(ShortcutWalkTest, LeavesOutWhatIsHiddenOrTheSystems) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, LeavesOutWhatIsHiddenOrTheSystems) {
     for (const char* name : {"hidden.lnk", "seen.lnk", "system.lnk"}) {
         pc.file(QString("C:\\Menu\\") + name);
     }
@@ -61,8 +58,7 @@ TEST(ShortcutWalkTest, LeavesOutWhatIsHiddenOrTheSystems) {
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\seen.lnk"));
 }
 
-TEST(ShortcutWalkTest, WalksHiddenFoldersAllTheSame) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, WalksHiddenFoldersAllTheSame) {
     pc.file("C:\\Menu\\hidden\\a.lnk");
     pc.file("C:\\Menu\\system\\b.lnk");
     pc.hide("C:\\Menu\\hidden");
@@ -71,8 +67,7 @@ TEST(ShortcutWalkTest, WalksHiddenFoldersAllTheSame) {
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\hidden\\a.lnk", "C:\\Menu\\system\\b.lnk"));
 }
 
-TEST(ShortcutWalkTest, AFolderNamedLikeAShortcutCountsAsOne) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, AFolderNamedLikeAShortcutCountsAsOne) {
     pc.file("C:\\Menu\\folder.lnk\\inner.lnk");
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs),
                 ElementsAre("C:\\Menu\\folder.lnk", "C:\\Menu\\folder.lnk\\inner.lnk"));
@@ -80,22 +75,19 @@ TEST(ShortcutWalkTest, AFolderNamedLikeAShortcutCountsAsOne) {
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\folder.lnk\\inner.lnk"));
 }
 
-TEST(ShortcutWalkTest, NamesOutsideTheCodePageStayWhole) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, NamesOutsideTheCodePageStayWhole) {
     const QString folder = "C:\\Menu\\Spiele 競走";
     const QString name = QString::fromUtf8("\\Käferrennen \xF0\x9F\x8E\xAE.lnk");
     pc.file(folder + name);
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre(folder + name));
 }
 
-TEST(ShortcutWalkTest, APathLosesTheSpaceAtItsEnd) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, APathLosesTheSpaceAtItsEnd) {
     pc.file(u8"C:\\Menu\\a.lnk\u00A0");
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\a.lnk"));
 }
 
-TEST(ShortcutWalkTest, WalksDeepFolders) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, WalksDeepFolders) {
     QString folder = "C:\\Menu";
     for (int i = 0; i < 100; ++i) {
         folder += "\\f";
@@ -104,15 +96,13 @@ TEST(ShortcutWalkTest, WalksDeepFolders) {
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre(folder + "\\x.lnk"));
 }
 
-TEST(ShortcutWalkTest, FollowsLinksThatLeadElsewhere) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, FollowsLinksThatLeadElsewhere) {
     pc.file("D:\\Elsewhere\\a.lnk");
     pc.link("C:\\Menu\\Linked", "D:\\Elsewhere");
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs), ElementsAre("C:\\Menu\\Linked\\a.lnk"));
 }
 
-TEST(ShortcutWalkTest, TurnsBackAtLinksToAFolderOnTheWay) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, TurnsBackAtLinksToAFolderOnTheWay) {
     pc.file("C:\\Menu\\A\\x.lnk");
     pc.link("C:\\Menu\\A\\self", "C:\\Menu\\A");
     pc.link("C:\\Menu\\A\\top", "C:\\Menu");
@@ -125,8 +115,7 @@ TEST(ShortcutWalkTest, TurnsBackAtLinksToAFolderOnTheWay) {
                                                                  "C:\\Menu\\B\\y.lnk", "C:\\Menu\\B\\a\\x.lnk"));
 }
 
-TEST(ShortcutWalkTest, AMissingFolderHasNone) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, AMissingFolderHasNone) {
     pc.file("C:\\Menu\\a.lnk");
     EXPECT_THAT(shortcutsBelow("", limitMs), IsEmpty());
     EXPECT_THAT(shortcutsBelow("C:\\Menu\\Missing", limitMs), IsEmpty()) << "and its parent is not searched";
@@ -136,8 +125,7 @@ TEST(ShortcutWalkTest, AMissingFolderHasNone) {
     EXPECT_THAT(shortcutsBelow("C:\\Empty", limitMs), IsEmpty());
 }
 
-TEST(ShortcutWalkTest, AWalkThatTakesTooLongHasNone) {
-    TestPc pc;
+TEST_F(ShortcutWalkTest, AWalkThatTakesTooLongHasNone) {
     pc.file("C:\\Menu\\a.lnk");
     EXPECT_THAT(shortcutsBelow("C:\\Menu", 0), IsEmpty());
     EXPECT_THAT(shortcutsBelow("C:\\Menu", limitMs, clockShowing({100, 30'099})), ElementsAre("C:\\Menu\\a.lnk"));

@@ -4,7 +4,7 @@
 
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
+#include "common/PcTest.h"
 #include "platform/Registry.h"
 
 #include <QDir>
@@ -29,10 +29,7 @@ TestKey lumavex(char16_t dash, RootKey root = RootKey::CurrentUser) {
 
 constexpr char16_t controlCharacter = 0x0096;
 
-class RuntimeLocatorsTest : public ::testing::Test {
-protected:
-    TestPc pc;
-};
+using RuntimeLocatorsTest = PcTest;
 
 TEST_F(RuntimeLocatorsTest, TellTheInstalledRuntimes) {
     pc.value(varjo, "InstallDir", "C:\\Program Files\\Varjo");

@@ -1,7 +1,7 @@
 #include "platform/Listing.h"
 
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
+#include "common/PcTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -42,10 +42,7 @@ bool isSame(const QString& a, const QString& b) {
     return one.volume == other.volume && one.index == other.index;
 }
 
-class ListingTest : public ::testing::Test {
-protected:
-    TestPc pc;
-};
+using ListingTest = PcTest;
 
 TEST_F(ListingTest, ListsFilesAndFoldersInTheFileSystemsOrder) {
     for (const char* name : {"b.txt", "A.txt", "Ü.txt", "競走.lnk", "c\\file"}) {

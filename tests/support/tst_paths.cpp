@@ -1,7 +1,7 @@
 #include "support/Paths.h"
 
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
+#include "common/PcTest.h"
 
 #include <QDir>
 
@@ -60,10 +60,7 @@ constexpr PathCase cases[] = {
 };
 
 /// Whose paths they are.
-class PathsOfAPc : public ::testing::Test {
-protected:
-    const TestPc pc;
-};
+using PathsOfAPc = PcTest;
 
 TEST_F(PathsOfAPc, AreCleaned) {
     for (const PathCase& c : cases) {

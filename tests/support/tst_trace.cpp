@@ -1,7 +1,7 @@
 #include "support/Trace.h"
 
+#include "common/PcTest.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
 #include "common/TraceLog.h"
 #include "platform/Folders.h"
 #include "platform/Registry.h"
@@ -25,8 +25,9 @@ QJsonObject only(const std::vector<QJsonObject>& events) {
     return events.empty() ? QJsonObject() : events.front();
 }
 
-TEST(Trace, TellsWhichKeyWasOpenedInWhichView) {
-    TestPc pc;
+using TraceTest = PcTest;
+
+TEST_F(TraceTest, TellsWhichKeyWasOpenedInWhichView) {
     pc.key(testKey);
     const TraceLog trace;
     RegistryKey::open(testKey.path, Hive::currentUser, View::view64);
@@ -37,8 +38,7 @@ TEST(Trace, TellsWhichKeyWasOpenedInWhichView) {
     EXPECT_EQ(event["error"].toInt(-1), 0);
 }
 
-TEST(Trace, TellsThatAKeyIsNotThere) {
-    TestPc pc;
+TEST_F(TraceTest, TellsThatAKeyIsNotThere) {
     const TraceLog trace;
     RegistryKey::open("Software\\Luruludri Test\\Nothing", Hive::localMachine, View::view32);
     const QJsonObject event = only(trace.events("key"));
@@ -47,8 +47,7 @@ TEST(Trace, TellsThatAKeyIsNotThere) {
     EXPECT_EQ(event["error"].toInt(), 2);
 }
 
-TEST(Trace, TellsAValueByteByByte) {
-    TestPc pc;
+TEST_F(TraceTest, TellsAValueByteByByte) {
     pc.value(testKey, "Ordner", "D:\\ä");
     const TraceLog trace;
     RegistryKey::open(testKey.path, Hive::currentUser, View::view64).text("Ordner");
@@ -59,16 +58,14 @@ TEST(Trace, TellsAValueByteByByte) {
     EXPECT_EQ(event["data"].toString(), "44003a005c00e4000000");
 }
 
-TEST(Trace, TellsALongValueOnce) {
-    TestPc pc;
+TEST_F(TraceTest, TellsALongValueOnce) {
     pc.value(testKey, "Long", QString(600, 'x'));
     const TraceLog trace;
     RegistryKey::open(testKey.path, Hive::currentUser, View::view64).text("Long");
     EXPECT_EQ(only(trace.events("value"))["data"].toString().size(), 601 * 4);
 }
 
-TEST(Trace, TellsThatAValueIsNotThereWithoutData) {
-    TestPc pc;
+TEST_F(TraceTest, TellsThatAValueIsNotThereWithoutData) {
     pc.key(testKey);
     const TraceLog trace;
     RegistryKey::open(testKey.path, Hive::currentUser, View::view64).text("Nothing");
@@ -78,8 +75,7 @@ TEST(Trace, TellsThatAValueIsNotThereWithoutData) {
     EXPECT_FALSE(event.contains("data"));
 }
 
-TEST(Trace, TellsTheSubKeys) {
-    TestPc pc;
+TEST_F(TraceTest, TellsTheSubKeys) {
     pc.key({testKey.root, testKey.path + "\\A", testKey.view});
     pc.key({testKey.root, testKey.path + "\\B", testKey.view});
     const TraceLog trace;
@@ -88,8 +84,7 @@ TEST(Trace, TellsTheSubKeys) {
     EXPECT_EQ(only(trace.events("subkeys"))["names"].toArray(), QJsonArray({"A", "B"}));
 }
 
-TEST(Trace, TellsWhichFilesAreLookedForAndListedAndRead) {
-    TestPc pc;
+TEST_F(TraceTest, TellsWhichFilesAreLookedForAndListedAndRead) {
     pc.file("C:\\Luruludri Test\\a.acf", "abc");
     const TraceLog trace;
     Files::exists("C:\\Luruludri Test\\a.acf");
@@ -105,16 +100,14 @@ TEST(Trace, TellsWhichFilesAreLookedForAndListedAndRead) {
     EXPECT_EQ(events[3]["bytes"].toInt(), 3);
 }
 
-TEST(Trace, TellsWhereAShortcutLeads) {
-    TestPc pc;
+TEST_F(TraceTest, TellsWhereAShortcutLeads) {
     pc.shortcut("C:\\Luruludri Test\\x.lnk", "C:\\Luruludri Test\\x.exe");
     const TraceLog trace;
     Files::shortcutTarget("C:\\Luruludri Test\\x.lnk");
     EXPECT_EQ(only(trace.events("shortcut"))["target"].toString(), "C:\\Luruludri Test\\x.exe");
 }
 
-TEST(Trace, TellsShellFoldersAndTheEnvironment) {
-    TestPc pc;
+TEST_F(TraceTest, TellsShellFoldersAndTheEnvironment) {
     pc.shellFolder(Platform::csidlCommonAppData, "C:\\Luruludri Test");
     pc.folder("C:\\Luruludri Test");
     pc.environment("LuruludriTest", "x");
@@ -130,8 +123,7 @@ TEST(Trace, TellsShellFoldersAndTheEnvironment) {
     EXPECT_FALSE(variables[1].contains("value"));
 }
 
-TEST(Trace, TellsTheLinesOfTheLogs) {
-    TestPc pc;
+TEST_F(TraceTest, TellsTheLinesOfTheLogs) {
     const TraceLog trace;
     Logger::create("Quorvan.Test").logError("Käfer %d", 7);
     const QJsonObject event = only(trace.events("log"));
@@ -140,7 +132,7 @@ TEST(Trace, TellsTheLinesOfTheLogs) {
     EXPECT_EQ(event["text"].toString(), "Käfer 7");
 }
 
-TEST(Trace, TellsNotesAndLists) {
+TEST_F(TraceTest, TellsNotesAndLists) {
     const TraceLog trace;
     {
         Trace::IndexSection section("Test");
@@ -156,7 +148,7 @@ TEST(Trace, TellsNotesAndLists) {
     EXPECT_EQ(events[3], QJsonObject({{"event", "end"}, {"what", "index"}, {"name", "Test"}, {"entries", 1}}));
 }
 
-TEST(Trace, TellsTheAskingOfAFinder) {
+TEST_F(TraceTest, TellsTheAskingOfAFinder) {
     const TraceLog trace;
     {
         Trace::FinderSection section(3);
@@ -168,7 +160,7 @@ TEST(Trace, TellsTheAskingOfAFinder) {
     EXPECT_EQ(events[1], QJsonObject({{"event", "end"}, {"what", "finder"}, {"number", 3}, {"found", true}}));
 }
 
-TEST(Trace, MakesNoEventWhileItIsOff) {
+TEST_F(TraceTest, MakesNoEventWhileItIsOff) {
     bool isMade = false;
     Trace::tell([&isMade] {
         isMade = true;
@@ -177,14 +169,14 @@ TEST(Trace, MakesNoEventWhileItIsOff) {
     EXPECT_FALSE(isMade);
 }
 
-TEST(Trace, LosesWhatThereIsNoMemoryForAndNothingElse) {
+TEST_F(TraceTest, LosesWhatThereIsNoMemoryForAndNothingElse) {
     const TraceLog trace;
     Trace::tell([]() -> Trace::Note { throw std::bad_alloc(); });
     Trace::note("second");
     EXPECT_EQ(trace.notes(), QStringList("second"));
 }
 
-TEST(Trace, KeepsTheLinesOfThreadsApart) {
+TEST_F(TraceTest, KeepsTheLinesOfThreadsApart) {
     const TraceLog trace;
     std::vector<std::thread> threads;
     for (int i = 0; i < 8; ++i) {

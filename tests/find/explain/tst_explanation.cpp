@@ -1,9 +1,9 @@
 #include "Explained.h"
 #include "common/EpicLauncher.h"
 #include "common/Games.h"
+#include "common/PcTest.h"
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
 #include "platform/Folders.h"
 
 #include <gmock/gmock.h>
@@ -16,8 +16,9 @@ using ::testing::Not;
 
 const QString raceFolder = "D:\\Spiele\\Rennen";
 
-TEST(Explanation, OfAFolderNamesWhatWasLookedForAndWhatIsMissing) {
-    TestPc pc;
+using Explanation = PcTest;
+
+TEST_F(Explanation, OfAFolderNamesWhatWasLookedForAndWhatIsMissing) {
     pc.folder(raceFolder);
     EXPECT_EQ(explained(R"({"type": "folder", "folder": "D:\\Spiele\\Rennen", "executables": ["a.exe", "b.exe"]})"),
               QStringList({"Käferrennen: not found",
@@ -27,8 +28,7 @@ TEST(Explanation, OfAFolderNamesWhatWasLookedForAndWhatIsMissing) {
                            "   * None of the executables is in D:\\Spiele\\Rennen.", "   => not found"}));
 }
 
-TEST(Explanation, OfAGameThatIsFoundEndsWithTheFinderThatFoundIt) {
-    TestPc pc;
+TEST_F(Explanation, OfAGameThatIsFoundEndsWithTheFinderThatFoundIt) {
     pc.file(raceFolder + "\\a.exe");
     EXPECT_EQ(explained(R"({"type": "folder", "folder": "D:\\Nichts", "executables": ["a.exe"]},
                            {"type": "folder", "folder": "D:\\Spiele\\Rennen", "executables": ["a.exe"]},
@@ -42,8 +42,7 @@ TEST(Explanation, OfAGameThatIsFoundEndsWithTheFinderThatFoundIt) {
                            R"(3. folder: folder "D:\Mehr", executables ["a.exe"])", "   => not asked"}));
 }
 
-TEST(Explanation, OfTheUninstallRegistryShowsTheValuesThatWereRead) {
-    TestPc pc;
+TEST_F(Explanation, OfTheUninstallRegistryShowsTheValuesThatWereRead) {
     addProgram(pc, {"Rennen", "Käferrennen", "D:\\Alt", {}});
     const QStringList lines =
         explained(R"({"type": "uninstall", "displayName": "Käferrennen", "executables": ["a.exe"]})");
@@ -58,8 +57,7 @@ TEST(Explanation, OfTheUninstallRegistryShowsTheValuesThatWereRead) {
     EXPECT_THAT(lines, Contains("   * " + uninstallKeyPath + "\\Rennen names no uninstaller in the game's folder."));
 }
 
-TEST(Explanation, NamesWhatIsCalledAlikeWhenNothingHasTheName) {
-    TestPc pc;
+TEST_F(Explanation, NamesWhatIsCalledAlikeWhenNothingHasTheName) {
     addProgram(pc, {"Rennen", "Käferrennen 2", "D:\\Rennen 2", {}});
     addProgram(pc, {"Anderes", "Anderes", "D:\\Anderes", {}});
     const QStringList lines =
@@ -69,8 +67,7 @@ TEST(Explanation, NamesWhatIsCalledAlikeWhenNothingHasTheName) {
               QStringList({"Similar names in the lists:", R"(   Uninstall: "Käferrennen 2", D:\Rennen 2)"}));
 }
 
-TEST(Explanation, TellsALongListInBriefUnlessAllIsAskedFor) {
-    TestPc pc;
+TEST_F(Explanation, TellsALongListInBriefUnlessAllIsAskedFor) {
     for (int i = 0; i < 40; ++i) {
         addProgram(pc, {QString("P%1").arg(i), QString("Programm %1").arg(i), "D:\\P", {}});
     }
@@ -86,16 +83,14 @@ TEST(Explanation, TellsALongListInBriefUnlessAllIsAskedFor) {
     EXPECT_EQ(full.filter("--all").size(), 0);
 }
 
-TEST(Explanation, MakesAListOnceForAllFinders) {
-    TestPc pc;
+TEST_F(Explanation, MakesAListOnceForAllFinders) {
     const QStringList lines = explained(R"({"type": "uninstall", "displayName": "A", "executables": ["a.exe"]},
                                            {"type": "uninstall", "displayName": "B", "executables": ["b.exe"]})");
     EXPECT_EQ(lines.filter("The list Uninstall is made:").size(), 1);
     EXPECT_THAT(lines, Contains(QString("   * No program of the Uninstall registry is named \"B\".")));
 }
 
-TEST(Explanation, OfTheStartMenuTellsWhereTheShortcutLeads) {
-    TestPc pc;
+TEST_F(Explanation, OfTheStartMenuTellsWhereTheShortcutLeads) {
     pc.shellFolder(Platform::csidlStartMenu, "C:\\Menü");
     pc.shortcut("C:\\Menü\\Käferrennen.lnk", "C:\\Alt\\alt.exe");
     const QStringList lines = explained(R"({"type": "startMenu", "name": "Käfer", "executables": ["a.exe"],
@@ -106,8 +101,7 @@ TEST(Explanation, OfTheStartMenuTellsWhereTheShortcutLeads) {
     EXPECT_THAT(lines, Contains(QString("     Start menu (shell folder 11): C:\\Menü")));
 }
 
-TEST(Explanation, OfSteamTellsThatNeitherRegistryNorLibraryHasTheApp) {
-    TestPc pc;
+TEST_F(Explanation, OfSteamTellsThatNeitherRegistryNorLibraryHasTheApp) {
     const QStringList lines =
         explained(R"({"type": "steam", "appId": "42", "installFolderName": "Rennen", "executables": ["a.exe"]})");
     EXPECT_THAT(lines, Contains(QString("   * The Uninstall registry has no program under \"Steam App 42\".")));
@@ -116,8 +110,7 @@ TEST(Explanation, OfSteamTellsThatNeitherRegistryNorLibraryHasTheApp) {
     EXPECT_THAT(lines, Contains(QString("   * No Steam library has the app 42.")));
 }
 
-TEST(Explanation, OfTheStoresTellsThatNoneHasTheGame) {
-    TestPc pc;
+TEST_F(Explanation, OfTheStoresTellsThatNoneHasTheGame) {
     pc.folder("C:\\Gemeinsam");
     pc.shellFolder(Platform::csidlCommonAppData, "C:\\Gemeinsam");
     const QStringList lines = explained(R"({"type": "epicStore", "name": "Rennen", "executables": ["a.exe"]},
@@ -135,8 +128,7 @@ TEST(Explanation, OfTheStoresTellsThatNoneHasTheGame) {
     EXPECT_EQ(lines.filter(noPackage).size(), 1);
 }
 
-TEST(Explanation, TellsThatTheUsersChoiceEndsTheSearch) {
-    TestPc pc;
+TEST_F(Explanation, TellsThatTheUsersChoiceEndsTheSearch) {
     pc.userChoice("rennen", "D:\\Weg");
     const QStringList lines = explained(R"({"type": "userProvidedLocation", "key": "rennen", "executables": ["a.exe"]},
                                            {"type": "folder", "folder": "D:\\Nichts", "executables": ["a.exe"]})");
@@ -149,8 +141,7 @@ TEST(Explanation, TellsThatTheUsersChoiceEndsTheSearch) {
                      R"(2. folder: folder "D:\Nichts", executables ["a.exe"])", "   => not asked"}));
 }
 
-TEST(Explanation, NumbersTheFindersWithinAMultiFinder) {
-    TestPc pc;
+TEST_F(Explanation, NumbersTheFindersWithinAMultiFinder) {
     const QStringList lines = explained(R"({"type": "multi", "finders": [
         {"type": "folder", "folder": "D:\\A", "executables": ["a.exe"]},
         {"type": "folder", "folder": "D:\\B", "executables": ["a.exe"]}]})");
@@ -160,13 +151,11 @@ TEST(Explanation, NumbersTheFindersWithinAMultiFinder) {
     EXPECT_EQ(lines.back(), "   => not found by 1.");
 }
 
-TEST(Explanation, SaysThatAGameHasNoFinders) {
-    TestPc pc;
+TEST_F(Explanation, SaysThatAGameHasNoFinders) {
     EXPECT_EQ(explained(""), QStringList({"Käferrennen: not found", "   The catalogue has no finder for it."}));
 }
 
-TEST(Explanation, KeepsEachLineALineWhateverTheRegistryHolds) {
-    TestPc pc;
+TEST_F(Explanation, KeepsEachLineALineWhateverTheRegistryHolds) {
     addProgram(pc, {"Rennen", "Käferrennen", "D:\\a\nb\x1b[31m", {}});
     const QStringList lines =
         explained(R"({"type": "uninstall", "displayName": "Käferrennen", "executables": ["a.exe"]})");

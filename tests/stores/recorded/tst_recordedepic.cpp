@@ -2,7 +2,7 @@
 
 #include "common/EpicLauncher.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
+#include "common/PcTest.h"
 #include "recordings/Recording.h"
 #include "support/Files.h"
 
@@ -15,9 +15,10 @@ namespace {
 
 using ::testing::ElementsAre;
 
-TEST(EpicRecordedTest, WithoutTheCommonDataThePathBeginsAtTheRoot) {
-    const TestPc pc; // whose shell has no such folder
-    EpicManifestIndex index;
+using EpicRecordedTest = PcTest;
+
+TEST_F(EpicRecordedTest, WithoutTheCommonDataThePathBeginsAtTheRoot) {
+    EpicManifestIndex index; // of a PC whose shell has no such folder
     EXPECT_TRUE(index.entries().empty());
     EXPECT_THAT(TestPc::messages("Quorvan.Finders.EpicStore"),
                 ElementsAre("A: MetaDir Folder: /Epic/EpicGamesLauncher/Data/Manifests", "A: No apps"));
@@ -28,8 +29,7 @@ QString recordedFolder() {
     return qEnvironmentVariable(Recordings::environmentVariable) + "/drives/C/Epic/Manifests";
 }
 
-TEST(EpicRecordedTest, AManifestThatVanishesOnceItWasListedIsSkipped) {
-    TestPc pc;
+TEST_F(EpicRecordedTest, AManifestThatVanishesOnceItWasListedIsSkipped) {
     addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
     addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Plum"});
     ASSERT_THAT(Files::names(manifestFolder, ".item"), ElementsAre("1.item", "2.item"));
@@ -42,8 +42,7 @@ TEST(EpicRecordedTest, AManifestThatVanishesOnceItWasListedIsSkipped) {
 }
 
 // No permission binds root; a file of the kernel's can be opened by anybody, and read by nobody.
-TEST(EpicRecordedTest, AManifestThatCanNotBeReadIsSkippedByName) {
-    TestPc pc;
+TEST_F(EpicRecordedTest, AManifestThatCanNotBeReadIsSkippedByName) {
     addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Plum"});
     ASSERT_TRUE(QFile::link("/proc/self/mem", recordedFolder() + "/1.item"));
     EpicManifestIndex index;
