@@ -1,4 +1,4 @@
-#include "FindProgram.h"
+#include "FindTest.h"
 
 #include "common/QtPrinters.h"
 #include "find/pc/System.h"
@@ -70,10 +70,7 @@ TEST(JsonDoc, ItsFieldsAreThoseThatTheProgramPrints) {
 TEST(JsonDoc, ItsErrorIsWhatTheProgramPrints) {
     FindProgram program;
     program.file("games.json", QByteArray("\n").repeated(11) + "    \"");
-    const FindRun run = program.run({"--json", "games.json"});
-    EXPECT_EQ(run.output, examples().value(2));
-    EXPECT_EQ(run.exitStatus, 2);
-    EXPECT_EQ(run.errors, "");
+    EXPECT_EQ(program.run({"--json", "games.json"}), printed(2, examples().value(2)));
 }
 
 TEST(JsonDoc, EveryFieldHasALineInItsTables) {

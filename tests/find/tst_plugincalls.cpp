@@ -1,4 +1,4 @@
-#include "FindProgram.h"
+#include "FindTest.h"
 
 #include "common/QtPrinters.h"
 
@@ -24,7 +24,9 @@ QString callOf(const QByteArray& finder) {
     return program.fakeLog().value(1);
 }
 
-TEST(PluginCalls, ArgumentsReachTheirSlots) {
+using PluginCalls = FindTest;
+
+TEST_F(PluginCalls, ArgumentsReachTheirSlots) {
     EXPECT_EQ(callOf(R"({"type": "uninstall", "displayName": "Name", "executables": ["a", "b"], "matchMode": 7})"),
               "uninstall(Name|a,b|7)");
     EXPECT_EQ(callOf(R"({"type": "gameForWindow", "title": "Title", "executables": ["a", "b"]})"),
@@ -44,12 +46,11 @@ TEST(PluginCalls, ArgumentsReachTheirSlots) {
               "userProvidedLocation(Key|)");
 }
 
-TEST(PluginCalls, AMatchModeThatIsLeftOutIsZero) {
+TEST_F(PluginCalls, AMatchModeThatIsLeftOutIsZero) {
     EXPECT_EQ(callOf(R"({"type": "epicStore", "name": "Name", "executables": []})"), "epicStore(Name||0)");
 }
 
-TEST(PluginCalls, FindersGoIntoOneMultiFinderInOrder) {
-    const FindProgram program;
+TEST_F(PluginCalls, FindersGoIntoOneMultiFinderInOrder) {
     program.run({program.file("games.json", oneGame(R"(
         {"type": "universalApp", "packageFamily": "1"}, {"type": "steam", "appId": "2", "installFolderName": "",
          "executables": []}, {"type": "folder", "folder": "3", "executables": []})"))});
@@ -57,15 +58,13 @@ TEST(PluginCalls, FindersGoIntoOneMultiFinderInOrder) {
               (QStringList{"Create", "universalApp(1)", "steam(2||)", "folder(3|)", "multi(11100000000)"}));
 }
 
-TEST(PluginCalls, ElevenFindersFillAllPlaces) {
-    const FindProgram program;
+TEST_F(PluginCalls, ElevenFindersFillAllPlaces) {
     const QByteArray finder = R"({"type": "universalApp", "packageFamily": "x"})";
     program.run({program.file("games.json", oneGame((finder + ',').repeated(10) + finder))});
     EXPECT_EQ(program.fakeLog().value(12), "multi(11111111111)");
 }
 
-TEST(PluginCalls, NestedMultiFindersAreMadeFromTheInside) {
-    const FindProgram program;
+TEST_F(PluginCalls, NestedMultiFindersAreMadeFromTheInside) {
     const FindRun run = program.run({program.file("games.json", oneGame(R"({"type": "multi", "finders": [
         {"type": "universalApp", "packageFamily": "1"}, {"type": "universalApp", "packageFamily": "installed"}]})"))});
     EXPECT_EQ(program.fakeLog().mid(1, 4),
@@ -73,15 +72,13 @@ TEST(PluginCalls, NestedMultiFindersAreMadeFromTheInside) {
     EXPECT_EQ(run.exitStatus, 0);
 }
 
-TEST(PluginCalls, FindersGoBeforeTheFactoryAndTheFactoryBeforeTheLibrary) {
-    const FindProgram program;
+TEST_F(PluginCalls, FindersGoBeforeTheFactoryAndTheFactoryBeforeTheLibrary) {
     program.run({program.file("games.json", oneGame(R"({"type": "universalApp", "packageFamily": "installed"})"))});
     EXPECT_EQ(program.fakeLog(), (QStringList{"Create", "universalApp(installed)", "multi(10000000000)", "~multi",
                                               "~universalApp", "~Create", "unloaded"}));
 }
 
-TEST(PluginCalls, FindersThatThePluginDoesNotMakeAreLeftOut) {
-    FindProgram program;
+TEST_F(PluginCalls, FindersThatThePluginDoesNotMakeAreLeftOut) {
     program.setFakeMode("no finders");
     const QString catalogue = program.file("games.json", oneGame(R"({"type": "universalApp", "packageFamily": "1"})"));
     EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
@@ -91,8 +88,7 @@ TEST(PluginCalls, FindersThatThePluginDoesNotMakeAreLeftOut) {
     EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
 }
 
-TEST(PluginCalls, AnswersAreShownUnderTheirNames) {
-    const FindProgram program;
+TEST_F(PluginCalls, AnswersAreShownUnderTheirNames) {
     const QString catalogue = program.file("games.json", R"({"games": [
         {"name": "Käferrennen", "finders": [{"type": "universalApp", "packageFamily": "installed"}]},
         {"name": "Wal", "finders": [{"type": "universalApp", "packageFamily": "x"}]}]})");
@@ -117,8 +113,7 @@ TEST(PluginCalls, AnswersAreShownUnderTheirNames) {
                           "1 of 2 found\n");
 }
 
-TEST(PluginCalls, AnswersInJsonAreUnderTheirOperations) {
-    const FindProgram program;
+TEST_F(PluginCalls, AnswersInJsonAreUnderTheirOperations) {
     const QString catalogue = program.file("games.json", R"({"games": [
         {"name": "Käferrennen", "finders": [{"type": "universalApp", "packageFamily": "installed"}]},
         {"name": "Wal", "finders": [{"type": "universalApp", "packageFamily": "x"}]}]})");
@@ -141,8 +136,7 @@ TEST(PluginCalls, AnswersInJsonAreUnderTheirOperations) {
     EXPECT_EQ(run.output, QString::fromUtf8(expected.toJson()));
 }
 
-TEST(PluginCalls, TheRuntimesAloneNeedNoCatalogue) {
-    const FindProgram program;
+TEST_F(PluginCalls, TheRuntimesAloneNeedNoCatalogue) {
     const FindRun run = program.run({"runtimes"});
     EXPECT_EQ(run.exitStatus, 0);
     EXPECT_EQ(run.errors, "");
@@ -154,8 +148,7 @@ TEST(PluginCalls, TheRuntimesAloneNeedNoCatalogue) {
     EXPECT_EQ(root["runtimes"]["varjoRuntimeFolder"].toString(), "slot 15");
 }
 
-TEST(PluginCalls, WhatIsNotThereIsNotFound) {
-    FindProgram program;
+TEST_F(PluginCalls, WhatIsNotThereIsNotFound) {
     program.setFakeMode("no runtimes");
     const QString catalogue = program.file("games.json", R"({"games": []})");
     const FindRun run = program.run({catalogue});

@@ -1,8 +1,7 @@
-#include "FindProgram.h"
+#include "FindTest.h"
 
 #include "common/QtPrinters.h"
 #include "find/cli/CommandForms.h"
-#include "find/pc/System.h"
 #include "recordings/PcFile.h"
 #include "recordings/Recording.h"
 
@@ -31,33 +30,34 @@ void expectComplaint(const FindRun& run, const QString& end) {
 
 /// The same for arguments that are wrong, where a second line points to the help, of the command if there is one.
 void expectRefusal(const FindRun& run, const QString& complaint, const QString& command = {}) {
-    EXPECT_EQ(run.exitStatus, 2);
-    EXPECT_EQ(run.output, "");
-    EXPECT_EQ(run.errors, "luruludri-find: " + complaint + "\nluruludri-find: try luruludri-find " +
-                              (command.isEmpty() ? "" : command + ' ') + "--help\n");
+    EXPECT_EQ(run, failed("luruludri-find: " + complaint + "\nluruludri-find: try luruludri-find " +
+                          (command.isEmpty() ? "" : command + ' ') + "--help\n"));
 }
 
-bool worldKnowsRecordings() {
-    return !Find::isPcItself();
+class Program : public FindTest {
+protected:
+    const QString catalogue = program.file("games.json", twoGames);
+};
+
+class ProgramWithRecordings : public RecordingFindTest {
+protected:
+    const QString catalogue = program.file("games.json", twoGames);
+};
+
+TEST_F(Program, TheExitStatusTellsWhetherAllWereFound) {
+    const QString file = program.file("Spiele für Käfer.json", twoGames);
+    EXPECT_EQ(program.run({file}).exitStatus, 1);
+    EXPECT_EQ(program.run({"--game", "Käferrennen", file}).exitStatus, 0);
+    EXPECT_EQ(program.run({"--game", "Wal", file}).exitStatus, 1);
 }
 
-TEST(Program, TheExitStatusTellsWhetherAllWereFound) {
-    const FindProgram program;
-    const QString catalogue = program.file("Spiele für Käfer.json", twoGames);
-    EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
-    EXPECT_EQ(program.run({"--game", "Käferrennen", catalogue}).exitStatus, 0);
-    EXPECT_EQ(program.run({"--game", "Wal", catalogue}).exitStatus, 1);
-}
-
-TEST(Program, TheCatalogueBesideTheProgramIsAskedUnlessAnotherIsGiven) {
+TEST_F(Program, TheCatalogueBesideTheProgramIsAskedUnlessAnotherIsGiven) {
     const FindRun run = FindProgram().run({});
     EXPECT_EQ(run.exitStatus, 1);
     EXPECT_TRUE(run.output.contains("Nordlicht Tactics")) << run.output.toStdString();
 }
 
-TEST(Program, OnlyTheGamesThatAreNamedAreAskedFor) {
-    const FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(Program, OnlyTheGamesThatAreNamedAreAskedFor) {
     const FindRun one = program.run({"--game", "KÄFERRENNEN", catalogue});
     EXPECT_TRUE(one.output.contains("Käferrennen"));
     EXPECT_FALSE(one.output.contains("Wal"));
@@ -67,9 +67,7 @@ TEST(Program, OnlyTheGamesThatAreNamedAreAskedFor) {
                     "games.json: no game is named \"Käfer\"; did you mean \"Käferrennen\"?");
 }
 
-TEST(Program, WhatGoesToAPipeIsPlainAndWholeWhateverTheEnvironmentSays) {
-    FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(Program, WhatGoesToAPipeIsPlainAndWholeWhateverTheEnvironmentSays) {
     const QString plain = program.run({catalogue}).output;
     EXPECT_TRUE(plain.contains("\nKäferrennen  yes    D:\\Spiele\\Käfer  steam://launch/42/VR\n"))
         << plain.toStdString();
@@ -78,8 +76,7 @@ TEST(Program, WhatGoesToAPipeIsPlainAndWholeWhateverTheEnvironmentSays) {
     EXPECT_EQ(program.run({catalogue}).output, plain);
 }
 
-TEST(Program, HelpAndVersionNeedNothingElse) {
-    const FindProgram program;
+TEST_F(Program, HelpAndVersionNeedNothingElse) {
     for (const char* const option : {"--help", "-h"}) {
         const FindRun help = program.runBare({option});
         EXPECT_EQ(help.exitStatus, 0);
@@ -97,8 +94,7 @@ TEST(Program, HelpAndVersionNeedNothingElse) {
     }
 }
 
-TEST(Program, EachCommandHasAHelpOfItsOwnWithAnExample) {
-    const FindProgram program;
+TEST_F(Program, EachCommandHasAHelpOfItsOwnWithAnExample) {
     const QString whole = program.runBare({"--help"}).output;
     for (const Find::CommandForm& form : Find::commandForms()) {
         const QString name = QString::fromLatin1(form.name);
@@ -112,9 +108,7 @@ TEST(Program, EachCommandHasAHelpOfItsOwnWithAnExample) {
 }
 
 /// What is asked for, in today's words or in those of before, comes down to the same.
-TEST(Program, FindIsWhatIsDoneWithoutACommand) {
-    const FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(Program, FindIsWhatIsDoneWithoutACommand) {
     const FindRun run = program.run({"--json", "--game", "Wal", catalogue});
     EXPECT_TRUE(run.output.contains("Wal"));
     EXPECT_EQ(program.run({"find", "--json", "--game", "Wal", catalogue}).output, run.output);
@@ -122,32 +116,25 @@ TEST(Program, FindIsWhatIsDoneWithoutACommand) {
     EXPECT_EQ(program.run({"--game=Käfer", "--game=Wal", "--json", "--json", "--", catalogue}).exitStatus, 2);
 }
 
-TEST(Program, ValuesAreTakenAsTheyAre) {
-    const FindProgram program;
-    const QString catalogue = program.file("games.json", R"({"games": [{"name": "[a,b]", "finders": []},
+TEST_F(Program, ValuesAreTakenAsTheyAre) {
+    const QString odd = program.file("odd.json", R"({"games": [{"name": "[a,b]", "finders": []},
         {"name": "list", "finders": []}, {"name": "--all", "finders": []}, {"name": "/x", "finders": []}]})");
     for (const char* const name : {"[a,b]", "list", "--all", "/x"}) {
-        EXPECT_EQ(program.run({"--game", name, catalogue}).exitStatus, 1) << name;
-        EXPECT_EQ(program.run({"explain", "--", name, catalogue}).errors,
+        EXPECT_EQ(program.run({"--game", name, odd}).exitStatus, 1) << name;
+        EXPECT_EQ(program.run({"explain", "--", name, odd}).errors,
                   "luruludri-find: " LURULUDRI_FAKE_PLUGIN ": this plug-in writes no trace\n")
             << name;
     }
 }
 
-TEST(Program, StandardInputIsRead) {
-    FindProgram program;
+TEST_F(Program, StandardInputIsRead) {
     program.setInput(twoGames);
-    EXPECT_EQ(program.run({"-"}).output, program.run({program.file("games.json", twoGames)}).output);
+    EXPECT_EQ(program.run({"-"}).output, program.run({catalogue}).output);
     program.setInput("{\"games\": [\n    \"abc\n]}");
     expectComplaint(program.run({"-"}), "luruludri-find: standard input:2:5: the string is not closed");
 }
 
-TEST(Program, ARecordedPcIsReadFromStandardInput) {
-    if (!worldKnowsRecordings()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(ProgramWithRecordings, ARecordedPcIsReadFromStandardInput) {
     program.setInput(Recordings::renderPcFile({}));
     const FindRun run = program.run({"--pc", "-", catalogue});
     EXPECT_EQ(run.exitStatus, 1);
@@ -170,8 +157,7 @@ QStringList errorsOf(const FindRun& run) {
     return messages;
 }
 
-TEST(Program, WithJsonErrorsAreJsonToo) {
-    FindProgram program;
+TEST_F(Program, WithJsonErrorsAreJsonToo) {
     const FindRun broken = program.run({"--json", program.file("Käfer.json", "{\"games\": [\n    \"abc\n]}")});
     EXPECT_EQ(broken.exitStatus, 2);
     EXPECT_EQ(errorsOf(broken), QStringList{"the string is not closed"});
@@ -192,18 +178,16 @@ TEST(Program, WithJsonErrorsAreJsonToo) {
     EXPECT_EQ(errorsOf(program.run({"--json", "runtimes"})), QStringList{"out of memory"});
 }
 
-TEST(Program, OfManyFaultsTheFirstHundredAreTold) {
-    const FindProgram program;
+TEST_F(Program, OfManyFaultsTheFirstHundredAreTold) {
     QByteArray empty = "{}";
-    const QString catalogue = program.file("x.json", "{\"games\": [" + (empty + ",").repeated(59) + empty + "]}");
-    const QStringList errors = program.run({catalogue}).errors.split('\n', Qt::SkipEmptyParts);
+    const QString file = program.file("x.json", "{\"games\": [" + (empty + ",").repeated(59) + empty + "]}");
+    const QStringList errors = program.run({file}).errors.split('\n', Qt::SkipEmptyParts);
     EXPECT_EQ(errors.size(), 101);
-    EXPECT_EQ(errors.back(), "luruludri-find: " + QDir::toNativeSeparators(catalogue) + ": and 20 more faults");
+    EXPECT_EQ(errors.back(), "luruludri-find: " + QDir::toNativeSeparators(file) + ": and 20 more faults");
 }
 
-TEST(Program, AWordThatIsNoCatalogueMayHaveBeenMeantOtherwise) {
-    const FindProgram program;
-    const auto meant = [&program](const QStringList& arguments) {
+TEST_F(Program, AWordThatIsNoCatalogueMayHaveBeenMeantOtherwise) {
+    const auto meant = [&](const QStringList& arguments) {
         return program.run(arguments).errors.section("; did you mean ", 1).trimmed();
     };
     EXPECT_EQ(meant({"help"}), "\"--help\"?");
@@ -214,18 +198,12 @@ TEST(Program, AWordThatIsNoCatalogueMayHaveBeenMeantOtherwise) {
     EXPECT_EQ(meant({"explain", "Lantern", "Harbour"}), "explain \"Lantern Harbour\"?");
 }
 
-TEST(Program, TellsItsVersionAfterACommandToo) {
-    const FindProgram program;
+TEST_F(Program, TellsItsVersionAfterACommandToo) {
     EXPECT_EQ(program.run({"find", "-V"}).output, program.run({"--version"}).output);
     EXPECT_TRUE(program.run({"list", "--version"}).output.startsWith("luruludri-find "));
 }
 
-TEST(Program, SaysWhenNoPcIsAsked) {
-    if (!worldKnowsRecordings()) {
-        GTEST_SKIP() << "there always is one";
-    }
-    const FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(ProgramWithRecordings, SaysWhenNoPcIsAsked) {
     for (const QStringList& arguments : {QStringList{catalogue}, QStringList{"list"}, QStringList{"runtimes"},
                                          QStringList{"record", program.folder() + "/x", catalogue}}) {
         EXPECT_EQ(program.runBare(arguments).errors,
@@ -233,23 +211,14 @@ TEST(Program, SaysWhenNoPcIsAsked) {
     }
 }
 
-TEST(Program, APipeInThePlaceOfARecordingIsTold) {
-    if (!worldKnowsRecordings()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    const FindProgram program;
+TEST_F(ProgramWithRecordings, APipeInThePlaceOfARecordingIsTold) {
     expectComplaint(program.run({"--pc", "/dev/null"}),
                     "luruludri-find: /dev/null: a pipe or a device, not a file or a folder");
 }
 
-TEST(Program, AFaultOfARecordingIsPlacedInJson) {
-    if (!worldKnowsRecordings()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    const FindProgram program;
+TEST_F(ProgramWithRecordings, AFaultOfARecordingIsPlacedInJson) {
     const QString pc = program.file("pc.json", "{\"format\": \"luruludri-pc\", \"version\": 1,\n\"volumes\": 3}");
     const QString cut = program.file("cut.json", "{\n\n");
-    const QString catalogue = program.file("games.json", twoGames);
     for (const auto& [file, line] : {std::pair(pc, 2), std::pair(cut, 3)}) {
         const FindRun run = program.run({"--json", "--pc", file, catalogue});
         EXPECT_EQ(run.exitStatus, 2);
@@ -259,29 +228,22 @@ TEST(Program, AFaultOfARecordingIsPlacedInJson) {
     }
 }
 
-TEST(Program, WithJsonAnswersAndErrorsAreOneObject) {
-    if (!worldKnowsRecordings()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    const FindProgram program;
+TEST_F(ProgramWithRecordings, WithJsonAnswersAndErrorsAreOneObject) {
     program.file("pc/pc.json", "{");
-    const FindRun run = program.run({"--json", "--pc", program.folder() + "/pc", program.file("games.json", twoGames)});
+    const FindRun run = program.run({"--json", "--pc", program.folder() + "/pc", catalogue});
     EXPECT_EQ(run.exitStatus, 2);
     EXPECT_EQ(errorsOf(run).size(), 1) << run.output.toStdString();
     EXPECT_EQ(QJsonDocument::fromJson(run.output.toUtf8())["games"].toArray().size(), 2);
 }
 
-TEST(Program, AWordThatIsNearlyACommandIsTakenForOne) {
-    const FindProgram program;
+TEST_F(Program, AWordThatIsNearlyACommandIsTakenForOne) {
     expectRefusal(program.run({"recrod", "my-pc"}), "unknown command \"recrod\"; did you mean \"record\"?");
     const FindRun run = program.run({"runtime"});
     EXPECT_EQ(run.exitStatus, 2);
     EXPECT_TRUE(run.errors.endsWith("; did you mean \"runtimes\"?\n")) << run.errors.toStdString();
 }
 
-TEST(Program, WrongArgumentsAreRefused) {
-    const FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(Program, WrongArgumentsAreRefused) {
     expectRefusal(program.run({""}), "CATALOGUE is empty");
     expectRefusal(program.run({catalogue, "zwölf"}), "unexpected argument \"zwölf\"");
     expectRefusal(program.run({catalogue, "--jason"}), "unknown option \"--jason\"; did you mean \"--json\"?");
@@ -292,8 +254,7 @@ TEST(Program, WrongArgumentsAreRefused) {
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
 
-TEST(Program, WrongCommandsAreRefused) {
-    const FindProgram program;
+TEST_F(Program, WrongCommandsAreRefused) {
     expectRefusal(program.run({"locate"}), "locate: KEY is missing", "locate");
     expectRefusal(program.run({"locate", "Käfer"}), "locate: FOLDER is missing", "locate");
     expectRefusal(program.run({"locate", " ", "D:\\X"}), "KEY is empty", "locate");
@@ -312,26 +273,20 @@ TEST(Program, WrongCommandsAreRefused) {
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
 
-TEST(Program, ACatalogueThatCannotBeReadIsToldWithItsName) {
-    const FindProgram program;
-    const FindRun missing = program.run({program.folder() + "/Käfer.json"});
-    EXPECT_EQ(missing.exitStatus, 2);
-    EXPECT_TRUE(missing.errors.contains("Käfer.json: cannot be read: ")) << missing.errors.toStdString();
-
+TEST_F(Program, ACatalogueThatCannotBeReadIsToldWithItsName) {
+    for (const QString file : {"/Käfer.json", ""}) {
+        const FindRun run = program.run({program.folder() + file});
+        EXPECT_EQ(run.exitStatus, 2);
+        EXPECT_TRUE(run.errors.contains(file.mid(1) + ": cannot be read: ")) << run.errors.toStdString();
+    }
     EXPECT_FALSE(program.run({"explain", "Käfer", program.folder() + "/Käfer.json"}).errors.contains("did you mean"));
     if (Find::isPcItself()) {
         expectComplaint(program.run({"Q:\\Käfer.json"}), "Q:\\Käfer.json: cannot be read: there is no drive Q:");
     }
-
-    const FindRun folder = program.run({program.folder()});
-    EXPECT_EQ(folder.exitStatus, 2);
-    EXPECT_TRUE(folder.errors.contains(": cannot be read: ")) << folder.errors.toStdString();
-
     expectComplaint(program.run({program.file("empty.json", "")}), "empty.json: the file is empty");
 }
 
-TEST(Program, ABrokenCatalogueIsToldWithThePlace) {
-    const FindProgram program;
+TEST_F(Program, ABrokenCatalogueIsToldWithThePlace) {
     expectComplaint(program.run({program.file("Käfer.json", "{\"games\": [\n    \"abc\n]}")}),
                     "Käfer.json:2:5: the string is not closed");
     expectComplaint(program.run({program.file("b.json", R"({"games": [{"name": "a", "finders": [{}]}]})")}),
@@ -341,9 +296,7 @@ TEST(Program, ABrokenCatalogueIsToldWithThePlace) {
     EXPECT_TRUE(program.fakeLog().isEmpty());
 }
 
-TEST(Program, WhatIsNoPluginIsTold) {
-    const FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(Program, WhatIsNoPluginIsTold) {
     const auto runWith = [&](const QString& plugin) { return program.runBare({"--plugin", plugin, catalogue}); };
 
     const QStringList bad = {program.folder() + "/Käfer", program.file("text", "no library"), program.folder(),
@@ -356,21 +309,14 @@ TEST(Program, WhatIsNoPluginIsTold) {
     EXPECT_TRUE(runWith(LURULUDRI_EMPTY_PLUGIN).errors.contains("Create"));
 }
 
-TEST(Program, APluginThatFailsIsTold) {
-    FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(Program, APluginThatFailsIsTold) {
     program.setFakeMode("no factory");
     expectComplaint(program.run({catalogue}), ": Create made no factory");
     program.setFakeMode("no memory");
     expectComplaint(program.run({catalogue}), "luruludri-find: out of memory");
 }
 
-TEST(Program, ARecordedPcWithProblemsStillAnswers) {
-    if (!worldKnowsRecordings()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(ProgramWithRecordings, ARecordedPcWithProblemsStillAnswers) {
     program.file("Käfer-PC/pc.json", "{");
     const QString folder = program.folder() + "/Käfer-PC";
 
@@ -384,12 +330,7 @@ TEST(Program, ARecordedPcWithProblemsStillAnswers) {
     EXPECT_EQ(program.run({catalogue}).exitStatus, 2);
 }
 
-TEST(Program, ARecordedPcThatIsMissingIsTold) {
-    if (!worldKnowsRecordings()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(ProgramWithRecordings, ARecordedPcThatIsMissingIsTold) {
     const QString missing = program.folder() + "/kein Käfer";
     expectComplaint(program.run({"--pc", missing, catalogue}), missing + ": no such file or folder");
     expectComplaint(program.run({"--pc", catalogue, catalogue}), catalogue + ": no recorded PC here");
@@ -400,12 +341,7 @@ TEST(Program, ARecordedPcThatIsMissingIsTold) {
     EXPECT_EQ(program.run({catalogue}).exitStatus, 1);
 }
 
-TEST(Program, ARecordedPcThatLiesALevelDeeperIsNamed) {
-    if (!worldKnowsRecordings()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
+TEST_F(ProgramWithRecordings, ARecordedPcThatLiesALevelDeeperIsNamed) {
     program.file("nest/my-pc/pc.json", "{}");
     const QString nest = program.folder() + "/nest";
     expectComplaint(program.run({"--pc", nest, catalogue}),
@@ -416,12 +352,10 @@ TEST(Program, ARecordedPcThatLiesALevelDeeperIsNamed) {
     EXPECT_EQ(program.run({"--pc", nest + "/sent.json", catalogue}).errors, "");
 }
 
-TEST(Program, WithoutRecordingsAskingForOneIsRefused) {
-    if (worldKnowsRecordings()) {
+TEST_F(Program, WithoutRecordingsAskingForOneIsRefused) {
+    if (!Find::isPcItself()) {
         GTEST_SKIP() << "recordings are known here";
     }
-    FindProgram program;
-    const QString catalogue = program.file("games.json", twoGames);
     expectComplaint(program.run({"--pc", program.folder(), catalogue}),
                     "luruludri-find: --pc: this build answers from the PC it runs on");
 

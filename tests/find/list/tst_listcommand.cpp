@@ -1,8 +1,7 @@
-#include "FindProgram.h"
+#include "FindTest.h"
 
+#include "common/Programs.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
-#include "find/pc/System.h"
 #include "platform/Folders.h"
 #include "recordings/Recording.h"
 
@@ -38,11 +37,20 @@ QString folderOfPasted(const FindProgram& program, const QStringList& pc, const 
     return QJsonDocument::fromJson(found.output.toUtf8())["games"][0]["installFolder"].toString();
 }
 
-TEST(ListCommand, WhatItProposesForTheSamplePcIsFoundWhenItIsPasted) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
+class ListCommand : public FindTest {
+protected:
+    /// What the program lists of the PC under test.
+    FindRun list(const QStringList& arguments = {"list", "--json"}) {
+        program.setVariable(Recordings::environmentVariable, qEnvironmentVariable(Recordings::environmentVariable));
+        return program.runBare(arguments);
     }
-    FindProgram program;
+
+    TestPc pc;
+};
+
+using ListOfARecording = RecordingFindTest;
+
+TEST_F(ListOfARecording, WhatItProposesForTheSamplePcIsFoundWhenItIsPasted) {
     const QStringList pc = {"--pc", LURULUDRI_SAMPLES "/pc"};
     const QJsonArray games = installed(program.runBare(QStringList{"list", "--json"} + pc));
     const QStringList lines = program.runBare(QStringList{"list"} + pc).output.split("\n");
@@ -63,11 +71,7 @@ TEST(ListCommand, WhatItProposesForTheSamplePcIsFoundWhenItIsPasted) {
     EXPECT_EQ(lines.filter("    {\"name\": ").size(), 18);
 }
 
-TEST(ListCommand, TellsAllListsOfTheSamplePc) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
+TEST_F(ListOfARecording, TellsAllListsOfTheSamplePc) {
     const QJsonArray games = installed(program.runBare({"list", "--json", "--pc", LURULUDRI_SAMPLES "/pc"}));
     EXPECT_EQ(entry(games, "Orbitkurier", "Steam")["folder"].toString(),
               "D:/SteamLibrary/steamapps/common/Orbitkurier");
@@ -84,11 +88,7 @@ TEST(ListCommand, TellsAllListsOfTheSamplePc) {
     EXPECT_EQ(entry(games, "federlicht-kolibri-canyon_assets", "Oculus")["finders"], QJsonArray());
 }
 
-TEST(ListCommand, OfARecordingASteamAppIsProposedWhenItsFolderCanBeTold) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
+TEST_F(ListOfARecording, OfARecordingASteamAppIsProposedWhenItsFolderCanBeTold) {
     ASSERT_EQ(program.runBare({"record", "sent", "--pc", LURULUDRI_SAMPLES "/pc"}).exitStatus, 0);
     const QStringList pc = {"--pc", program.folder() + "/sent.json"};
     const QJsonArray games = installed(program.runBare(QStringList{"list", "--json"} + pc));
@@ -99,73 +99,51 @@ TEST(ListCommand, OfARecordingASteamAppIsProposedWhenItsFolderCanBeTold) {
     EXPECT_EQ(entry(games, "250820", "Steam")["finders"], QJsonArray()) << "its folder may be another app's";
 }
 
-/// The program over the PC under test.
-FindRun listOf(FindProgram& program, const QStringList& arguments = {"list", "--json"}) {
-    program.setVariable(Recordings::environmentVariable, qEnvironmentVariable(Recordings::environmentVariable));
-    return program.runBare(arguments);
-}
-
-TEST(ListCommand, AProgramOfTheUninstallRegistryIsListedWithWhatStartsIt) {
-    TestPc pc;
-    const TestKey key = {Platform::RootKey::LocalMachine,
-                         "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Käfer_is1",
-                         Platform::keyWow64_64Key};
-    pc.value(key, "DisplayName", QString("Käferrennen"));
-    pc.value(key, "InstallLocation", QString("D:\\Spiele\\Käfer"));
-    pc.value(key, "UninstallString", QString("D:\\Spiele\\Käfer\\unins000.exe"));
+TEST_F(ListCommand, AProgramOfTheUninstallRegistryIsListedWithWhatStartsIt) {
+    addProgram(pc, {"Käfer_is1", "Käferrennen", "D:\\Spiele\\Käfer", "D:\\Spiele\\Käfer\\unins000.exe",
+                    Platform::RootKey::LocalMachine, View::view64});
     pc.file("D:\\Spiele\\Käfer\\unins000.exe");
     pc.file("D:\\Spiele\\Käfer\\bin\\Kaeferrennen.exe");
     pc.file("D:\\Spiele\\Käfer\\bin\\käferrennen.exe");
     pc.file("D:\\Spiele\\Käfer\\crashreport.exe");
-    FindProgram program;
-    const QJsonValue game = entry(installed(listOf(program)), "Käferrennen", "Uninstall registry");
+    const QJsonValue game = entry(installed(list()), "Käferrennen", "Uninstall registry");
     EXPECT_EQ(game["folder"].toString(), "D:\\Spiele\\Käfer");
     EXPECT_EQ(game["finders"][0]["executables"].toArray(),
               (QJsonArray{"bin\\käferrennen.exe", "bin\\Kaeferrennen.exe"}));
-    const QString line = listOf(program, {"list"}).output.section("    {", 1).section("\n", 0, 0);
+    const QString line = list({"list"}).output.section("    {", 1).section("\n", 0, 0);
     EXPECT_EQ(folderOfPasted(program, {}, "{" + line), "D:\\Spiele\\Käfer");
 }
 
-TEST(ListCommand, ASteamAppIsListedWhereOnlyTheStartMenuKnowsSteam) {
-    TestPc pc;
+TEST_F(ListCommand, ASteamAppIsListedWhereOnlyTheStartMenuKnowsSteam) {
     pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
     pc.shortcut("C:\\Menu\\Steam.lnk", "D:\\Steam\\steam.exe");
     pc.file("D:\\Steam\\steam.exe");
     pc.file("D:\\Steam\\steamapps\\appmanifest_7.acf");
     pc.file("D:\\Steam\\steamapps\\common\\Wal\\wal.exe");
-    FindProgram program;
-    const QJsonValue game = entry(installed(listOf(program)), "Wal", "Steam");
+    const QJsonValue game = entry(installed(list()), "Wal", "Steam");
     EXPECT_EQ(game["finders"][0]["appId"].toString(), "7");
 }
 
-TEST(ListCommand, WhatHasNoExecutableIsListedWithoutALine) {
-    TestPc pc;
-    const TestKey key = {Platform::RootKey::LocalMachine,
-                         "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Wal", Platform::keyWow64_64Key};
-    pc.value(key, "DisplayName", QString("Wal"));
-    pc.value(key, "InstallLocation", QString("D:\\Wal"));
+TEST_F(ListCommand, WhatHasNoExecutableIsListedWithoutALine) {
+    addProgram(pc, {"Wal", "Wal", "D:\\Wal", {}, Platform::RootKey::LocalMachine, View::view64});
     pc.folder("D:\\Wal");
-    FindProgram program;
-    const QString text = listOf(program, {"list"}).output;
+    const QString text = list({"list"}).output;
     EXPECT_TRUE(text.contains("Wal\n    Uninstall registry: D:\\Wal\n    no finder was found for it\n"))
         << text.toStdString();
 }
 
-TEST(ListCommand, AFolderThatTheUserChoseIsListed) {
+TEST_F(ListCommand, AFolderThatTheUserChoseIsListed) {
     if (Find::isPcItself()) {
         GTEST_SKIP() << "the user's settings are the real ones";
     }
-    TestPc pc;
     pc.userChoice("wal", "D:\\Wal");
     pc.file("D:\\Wal\\wal.exe");
-    FindProgram program;
-    const QJsonValue game = entry(installed(listOf(program)), "wal", "User's choices");
+    const QJsonValue game = entry(installed(list()), "wal", "User's choices");
     EXPECT_EQ(game["folder"].toString(), "D:\\Wal");
     EXPECT_EQ(game["finders"][0]["key"].toString(), "wal");
 }
 
-TEST(ListCommand, APlugInThatTellsNothingIsRefused) {
-    FindProgram program;
+TEST_F(ListCommand, APlugInThatTellsNothingIsRefused) {
     const FindRun list = program.run({"list"});
     EXPECT_EQ(list.exitStatus, 2);
     EXPECT_EQ(list.errors, "luruludri-find: the plug-in did not tell what it read\n");

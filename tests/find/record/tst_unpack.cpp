@@ -1,4 +1,4 @@
-#include "FindProgram.h"
+#include "FindTest.h"
 #include "recordings/OddPc.h"
 #include "recordings/PcFile.h"
 #include "recordings/Recording.h"
@@ -11,8 +11,9 @@
 
 namespace {
 
-TEST(Unpack, MakesAFolderThatIsTheSamePc) {
-    const FindProgram program;
+using Unpack = FindTest;
+
+TEST_F(Unpack, MakesAFolderThatIsTheSamePc) {
     const QString file = program.file("käfer.json", Recordings::renderPcFile(OddPc::make(true)));
     const QString folder = program.folder() + "/pc";
     const FindRun run = program.runBare({"unpack", file, folder});
@@ -21,8 +22,7 @@ TEST(Unpack, MakesAFolderThatIsTheSamePc) {
     EXPECT_TRUE(Recordings::readRecording(folder.toUtf8()).pc == OddPc::make(true));
 }
 
-TEST(Unpack, ReadsStandardInput) {
-    FindProgram program;
+TEST_F(Unpack, ReadsStandardInput) {
     program.setInput(Recordings::renderPcFile(OddPc::make(true)));
     const QString folder = program.folder() + "/pc";
     EXPECT_EQ(program.runBare({"unpack", "-", folder}).errors, "");
@@ -32,8 +32,7 @@ TEST(Unpack, ReadsStandardInput) {
               "luruludri-find: standard input:2: a name in quotes is expected\n");
 }
 
-TEST(Unpack, TellsWhatAFolderCannotHave) {
-    const FindProgram program;
+TEST_F(Unpack, TellsWhatAFolderCannotHave) {
     Recordings::Pc pc;
     pc.registry.make(Recordings::RegKey::Root::Users, {"a\nb"}, Recordings::RegistryView::Bits64);
     const FindRun run =
@@ -42,8 +41,7 @@ TEST(Unpack, TellsWhatAFolderCannotHave) {
     EXPECT_TRUE(run.errors.contains("no registry file can have this name: HKEY_USERS\\a")) << run.errors.toStdString();
 }
 
-TEST(Unpack, WrongUseIsRefused) {
-    const FindProgram program;
+TEST_F(Unpack, WrongUseIsRefused) {
     const QString refusal = "luruludri-find: %1\nluruludri-find: try luruludri-find unpack --help\n";
     EXPECT_EQ(program.runBare({"unpack"}).errors, refusal.arg("unpack: FILE is missing"));
     EXPECT_EQ(program.runBare({"unpack", "a"}).errors, refusal.arg("unpack: FOLDER is missing"));

@@ -1,4 +1,4 @@
-#include "FindProgram.h"
+#include "FindTest.h"
 
 #include "common/QtPrinters.h"
 
@@ -29,8 +29,9 @@ QMap<QString, QString> foldersOf(const FindRun& run) {
     return folders;
 }
 
-TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
-    const FindProgram program;
+using Samples = FindTest;
+
+TEST_F(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
     const FindRun run = runSamples(program, {"--json"});
     EXPECT_EQ(run.exitStatus, 1) << run.errors.toStdString();
     const QMap<QString, QString> folders = foldersOf(run);
@@ -39,8 +40,7 @@ TEST(Samples, AreReadWithoutFaultsAndShowGamesFoundAndNotFound) {
     EXPECT_EQ(folders.value("Nordlicht Tactics", "not asked"), "");
 }
 
-TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
-    const FindProgram program;
+TEST_F(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
     const FindRun run = runSamples(program, {"--json"});
     const QMap<QString, QString> folders = foldersOf(run);
     EXPECT_EQ(folders.value("Fjordflug VR"), "C:\\Program Files (x86)\\Steam\\steamapps\\common\\Fjordflug VR");
@@ -56,8 +56,7 @@ TEST(Samples, HaveGamesOfSteamTheUninstallRegistryAndTheStartMenu) {
     EXPECT_EQ(runtimes["steamVrFolder"].toString(), "C:\\Program Files (x86)\\Steam\\steamapps\\common\\SteamVR");
 }
 
-TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
-    const FindProgram program;
+TEST_F(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
     const FindRun run = runSamples(program, {"--json"});
     const QMap<QString, QString> folders = foldersOf(run);
     EXPECT_EQ(folders.value("Nebelpflug"), "D:\\Epic Games\\Nebelpflug");
@@ -68,8 +67,7 @@ TEST(Samples, HaveGamesOfTheStoresThePackagesAndTheGamesExplorer) {
     EXPECT_EQ(folders.value("Moosgarten", "not asked"), "") << "the user has not chosen its folder";
 }
 
-TEST(Samples, HaveAllRuntimes) {
-    const FindProgram program;
+TEST_F(Samples, HaveAllRuntimes) {
     const FindRun run = program.runBare({"--pc", LURULUDRI_SAMPLES "/pc", "--json", "runtimes"});
     EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
     const QJsonObject runtimes = QJsonDocument::fromJson(run.output.toUtf8()).object()["runtimes"].toObject();
@@ -80,8 +78,7 @@ TEST(Samples, HaveAllRuntimes) {
     EXPECT_EQ(runtimes["lumavexStandaloneLocation"].toString(), "C:\\Program Files\\Lumavex\\Standalone");
 }
 
-TEST(Samples, HaveAGameThatTheUserCanLocate) {
-    const FindProgram program;
+TEST_F(Samples, HaveAGameThatTheUserCanLocate) {
     const QString folder = "D:\\Eigene Spiele\\Moosgarten";
     const QJsonObject description{{"userLocations", QJsonObject{{"moosgarten", folder}}}};
     const QString pc = QFileInfo(program.file("pc/pc.json", QJsonDocument(description).toJson())).path();
@@ -90,8 +87,7 @@ TEST(Samples, HaveAGameThatTheUserCanLocate) {
     EXPECT_EQ(foldersOf(run).value("Moosgarten"), folder) << run.errors.toStdString();
 }
 
-TEST(Samples, HaveAGameWithTwoExecutables) {
-    const FindProgram program;
+TEST_F(Samples, HaveAGameWithTwoExecutables) {
     const FindRun run = runSamples(program, {"--json", "--game", "Lantern Harbour"});
     EXPECT_EQ(run.exitStatus, 0) << run.errors.toStdString();
     const QJsonObject root = QJsonDocument::fromJson(run.output.toUtf8()).object();
