@@ -1,4 +1,6 @@
 #include "recordings/RegFile.h"
+#include "recordings/RegValues.h"
+#include "recordings/Utf16Text.h"
 
 #include "common/QtPrinters.h"
 
@@ -10,18 +12,12 @@ namespace {
 using Recordings::RegFile;
 using Recordings::RegKey;
 using Recordings::RegValue;
+using Recordings::storedText;
+using Recordings::toUtf16;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 const QByteArray header = "Windows Registry Editor Version 5.00\r\n";
-
-QByteArray utf16(const QString& text) {
-    return {reinterpret_cast<const char*>(text.utf16()), text.size() * 2};
-}
-
-QByteArray stored(const QString& text) {
-    return utf16(text) + QByteArray(2, '\0');
-}
 
 RegFile parse(const QByteArray& bytes) {
     return Recordings::parseRegFile(bytes, "test.reg");
@@ -59,13 +55,12 @@ RegValue value(const QByteArray& line) {
                                                                 : file.keys[0].values[0];
 }
 
-/// The one fault of a value in line 3, between two values that are read all the same.
-QString fault(const QByteArray& line) {
-    const RegFile file =
-        read("[HKEY_LOCAL_MACHINE\\A]\r\n" + line + "\r\n\"after\"=\"1\"\r\n[HKEY_CURRENT_USER\\B]\r\n@=\"2\"\r\n");
-    EXPECT_THAT(names(file), ElementsAre("after", ""));
-    EXPECT_EQ(file.problems.size(), 1U);
-    return problems(file).empty() ? QString() : problems(file).front();
+/// Expects one fault in a file with these lines behind its header, and that values of these names are read all the
+/// same.
+void expectFault(const QByteArray& lines, const QString& problem, const std::vector<QString>& namesLeft) {
+    const RegFile file = read(lines);
+    EXPECT_THAT(problems(file), ElementsAre(problem)) << lines.toStdString();
+    EXPECT_EQ(names(file), namesLeft) << lines.toStdString();
 }
 
 TEST(RegFileTest, ReadsKeysOfEveryRoot) {
@@ -86,20 +81,17 @@ TEST(RegFileTest, ReadsAString) {
     const RegValue read = value("\"Name\"=\"C:\\\\Games\\\\\\\"X\\\"\"\r\n");
     EXPECT_EQ(read.name, "Name");
     EXPECT_EQ(read.type, 1U);
-    EXPECT_EQ(read.data, stored("C:\\Games\\\"X\""));
+    EXPECT_EQ(read.data, storedText("C:\\Games\\\"X\""));
 }
 
-TEST(RegFileTest, ReadsANameWithEscapes) {
+TEST(RegFileTest, ReadsANameWithEscapesAndNone) {
     EXPECT_EQ(value("\"C:\\\\a=\\\"b\\\"\"=\"1\"").name, "C:\\a=\"b\"");
-}
-
-TEST(RegFileTest, ReadsTheDefaultValue) {
-    EXPECT_EQ(value("@=\"x\"").name, "");
+    EXPECT_EQ(value("@=\"x\"").name, "") << "the default value";
 }
 
 TEST(RegFileTest, ReadsAStringOfSeveralLinesAsRegeditWritesIt) {
-    EXPECT_EQ(value("\"a\"=\"one\r\n[two]\r\nthree\"\r\n").data, stored("one\r\n[two]\r\nthree"));
-    EXPECT_EQ(value("\"a\"=\"one\r\n\"\r\n").data, stored("one\r\n"));
+    EXPECT_EQ(value("\"a\"=\"one\r\n[two]\r\nthree\"\r\n").data, storedText("one\r\n[two]\r\nthree"));
+    EXPECT_EQ(value("\"a\"=\"one\r\n\"\r\n").data, storedText("one\r\n"));
 }
 
 TEST(RegFileTest, ReadsADword) {
@@ -145,7 +137,7 @@ TEST(RegFileTest, ReadsEveryEncodingAndLineEnd) {
     QString withReturns = text;
     withReturns.replace("\n", "\r\n");
     const std::vector<QByteArray> files = {text.toUtf8(), withReturns.toUtf8(), "\xEF\xBB\xBF" + text.toUtf8(),
-                                           "\xFF\xFE" + utf16(text), "\xFF\xFE" + utf16(withReturns)};
+                                           "\xFF\xFE" + toUtf16(text), "\xFF\xFE" + toUtf16(withReturns)};
     for (const QByteArray& bytes : files) {
         const RegFile file = parse(bytes);
         EXPECT_THAT(problems(file), IsEmpty());
@@ -164,119 +156,78 @@ TEST(RegFileTest, IgnoresRootsThatNobodyAsksFor) {
     EXPECT_THAT(names(file), IsEmpty());
 }
 
-// One test for each way in which a file can be wrong.
+// Each way in which a file can be wrong.
 
 TEST(RegFileTest, ReportsAMissingHeader) {
     const RegFile file = parse("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n");
     EXPECT_THAT(problems(file), ElementsAre("1: the first line is not \"Windows Registry Editor Version 5.00\""));
     EXPECT_THAT(file.keys, IsEmpty()) << "regedit doesn't import it either";
-}
-
-TEST(RegFileTest, ReportsTheOldFormatAndAnEmptyFile) {
-    EXPECT_EQ(parse("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n").problems.size(), 1U);
+    EXPECT_EQ(parse("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n").problems.size(), 1U) << "the old format";
     EXPECT_EQ(parse("").problems.size(), 1U);
 }
 
-TEST(RegFileTest, ReportsAStringThatIsNotClosed) {
-    EXPECT_EQ(fault("\"a\"=\"open"), "3: the string is not closed");
-    EXPECT_EQ(fault("\"a\"=\"C:\\\\Games\\\""), "3: the string is not closed");
+TEST(RegFileTest, AFaultOfAValueCostsOnlyTheValue) {
+    const QString open = "3: the string is not closed";
+    const QString noValue = "3: a string, \"dword:\", \"hex:\", \"hex(…):\" or \"-\" is expected";
+    const QString surplus = "3: something follows the value in its line";
+    const QString badNumber = "3: 1 to 8 hexadecimal digits are expected";
+    const QString badByte = "3: a byte in hexadecimal digits is expected";
+    const QString notContinued = "3: the list of bytes is not continued";
+    const std::vector<std::pair<QByteArray, QString>> faults{
+        {R"("a"="open)", open},
+        {R"("a"="C:\\Games\")", open},
+        {R"("a=\"1\")", open},
+        {R"("a"="C:\Games")", "3: a backslash in a string must be doubled"},
+        {R"("a"="1" 2)", surplus},
+        {R"("a"=hex:01 02)", surplus},
+        {R"("a")", "3: \"=\" is expected after the name of a value"},
+        {R"("a"=)", noValue},
+        {R"("a"=word)", noValue},
+        {"garbage", "3: the line is neither a key nor a value"},
+        {R"("a"=dword:)", badNumber},
+        {R"("a"=dword:123456789)", badNumber},
+        {R"("a"=hex(2:41)", "3: \"):\" is expected after the type"},
+        {R"("a"=hex:01,xy)", badByte},
+        {R"("a"=hex:01,)", badByte},
+        {"\"a\"=hex:01,\\\r\n  02,xy,\\\r\n  03,\\\r\n  04", "4: a byte in hexadecimal digits is expected"},
+        {R"("a"=hex:01,\)", notContinued},
+        {"\"a\"=hex:01,\\\r\n", notContinued},
+        {R"("a"=hex:01,\ 02)", "3: a line break is expected after the backslash"}};
+    for (const auto& [line, problem] : faults) {
+        expectFault("[HKEY_LOCAL_MACHINE\\A]\r\n" + line +
+                        "\r\n\"after\"=\"1\"\r\n[HKEY_CURRENT_USER\\B]\r\n@=\"2\"\r\n",
+                    problem, {"after", ""});
+    }
 }
 
-TEST(RegFileTest, ReportsAStringThatIsNotClosedBeforeAKey) {
-    const RegFile file =
-        read("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"open\r\nstill\r\n[HKEY_CURRENT_USER\\B]\r\n\"b\"=\"1\"\r\n");
-    EXPECT_THAT(problems(file), ElementsAre("3: the string is not closed"));
-    EXPECT_THAT(names(file), ElementsAre("b"));
+TEST(RegFileTest, AStringThatIsNotClosedEndsAtTheNextKeyOrTheEnd) {
+    expectFault("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"open\r\nstill\r\n[HKEY_CURRENT_USER\\B]\r\n\"b\"=\"1\"\r\n",
+                "3: the string is not closed", {"b"});
+    expectFault("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n\"b\"=\"open\r\nmore\r\n", "4: the string is not closed",
+                {"a"});
 }
 
-TEST(RegFileTest, ReportsAStringThatIsNotClosedAtTheEnd) {
-    const RegFile file = read("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n\"b\"=\"open\r\nmore\r\n");
-    EXPECT_THAT(problems(file), ElementsAre("4: the string is not closed"));
-    EXPECT_THAT(names(file), ElementsAre("a"));
-}
-
-TEST(RegFileTest, ReportsANameThatIsNotClosed) {
-    EXPECT_EQ(fault("\"a=\\\"1\\\""), "3: the string is not closed");
-}
-
-TEST(RegFileTest, ReportsABackslashThatIsNotDoubled) {
-    EXPECT_EQ(fault("\"a\"=\"C:\\Games\""), "3: a backslash in a string must be doubled");
-}
-
-TEST(RegFileTest, ReportsSomethingBehindAValue) {
-    EXPECT_EQ(fault("\"a\"=\"1\" 2"), "3: something follows the value in its line");
-    EXPECT_EQ(fault("\"a\"=hex:01 02"), "3: something follows the value in its line");
-}
-
-TEST(RegFileTest, ReportsANameWithoutAValue) {
-    EXPECT_EQ(fault("\"a\""), "3: \"=\" is expected after the name of a value");
-    EXPECT_EQ(fault("\"a\"="), "3: a string, \"dword:\", \"hex:\", \"hex(…):\" or \"-\" is expected");
-    EXPECT_EQ(fault("\"a\"=word"), "3: a string, \"dword:\", \"hex:\", \"hex(…):\" or \"-\" is expected");
-}
-
-TEST(RegFileTest, ReportsALineThatIsNothing) {
-    EXPECT_EQ(fault("garbage"), "3: the line is neither a key nor a value");
-}
-
-TEST(RegFileTest, ReportsABadDword) {
-    EXPECT_EQ(fault("\"a\"=dword:"), "3: 1 to 8 hexadecimal digits are expected");
-    EXPECT_EQ(fault("\"a\"=dword:123456789"), "3: 1 to 8 hexadecimal digits are expected");
-}
-
-TEST(RegFileTest, ReportsABadType) {
-    EXPECT_EQ(fault("\"a\"=hex(2:41"), "3: \"):\" is expected after the type");
-}
-
-TEST(RegFileTest, ReportsBadBytesAtTheirLine) {
-    EXPECT_EQ(fault("\"a\"=hex:01,xy"), "3: a byte in hexadecimal digits is expected");
-    EXPECT_EQ(fault("\"a\"=hex:01,\\\r\n  02,xy,\\\r\n  03,\\\r\n  04"), "4: a byte in hexadecimal digits is expected");
-    EXPECT_EQ(fault("\"a\"=hex:01,"), "3: a byte in hexadecimal digits is expected");
-}
-
-TEST(RegFileTest, ReportsBytesThatAreNotContinued) {
-    EXPECT_EQ(fault("\"a\"=hex:01,\\"), "3: the list of bytes is not continued");
-    EXPECT_EQ(fault("\"a\"=hex:01,\\\r\n"), "3: the list of bytes is not continued");
-    EXPECT_EQ(fault("\"a\"=hex:01,\\ 02"), "3: a line break is expected after the backslash");
-}
-
-TEST(RegFileTest, ReportsAKeyThatIsNotClosedAndLeavesItsValuesOut) {
-    const RegFile file = read("[HKEY_CURRENT_USER\\A\r\n\"a\"=\"1\"\r\n[HKEY_CURRENT_USER\\B]\r\n\"b\"=\"1\"\r\n");
-    EXPECT_THAT(problems(file), ElementsAre("2: the key name is not closed"));
-    EXPECT_THAT(names(file), ElementsAre("b"));
-}
-
-TEST(RegFileTest, ReportsAnUnknownRoot) {
-    const RegFile file = read("[HKLM\\A]\r\n\"a\"=\"1\"\r\n");
-    EXPECT_THAT(problems(file), ElementsAre("2: \"HKLM\" is no root key, such as HKEY_LOCAL_MACHINE"));
-    EXPECT_THAT(names(file), IsEmpty());
-}
-
-TEST(RegFileTest, ReportsAKeyThatIsDeeperThanWindowsAllows) {
-    EXPECT_THAT(problems(read("[HKEY_CURRENT_USER" + QByteArray("\\a").repeated(512) + "]")),
-                ElementsAre("2: the key is more than 512 levels deep"));
-}
-
-TEST(RegFileTest, ReportsAValueBeforeTheFirstKey) {
-    EXPECT_THAT(problems(read("\"a\"=\"1\"")), ElementsAre("2: the value stands before the first key"));
+TEST(RegFileTest, AFaultOfAKeyCostsItsValuesToo) {
+    expectFault("[HKEY_CURRENT_USER\\A\r\n\"a\"=\"1\"\r\n[HKEY_CURRENT_USER\\B]\r\n\"b\"=\"1\"\r\n",
+                "2: the key name is not closed", {"b"});
+    expectFault("[HKLM\\A]\r\n\"a\"=\"1\"\r\n", "2: \"HKLM\" is no root key, such as HKEY_LOCAL_MACHINE", {});
+    expectFault("[HKEY_CURRENT_USER" + QByteArray("\\a").repeated(512) + "]", "2: the key is more than 512 levels deep",
+                {});
+    expectFault("\"a\"=\"1\"", "2: the value stands before the first key", {});
 }
 
 TEST(RegFileTest, ReportsALineThatIsNotUtf8) {
-    const RegFile file = read("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"\xE4\"\r\n\"b\"=\"1\"\r\n");
-    EXPECT_THAT(problems(file), ElementsAre("3: the line is not UTF-8"));
-    EXPECT_THAT(names(file), ElementsAre("a", "b"));
+    expectFault("[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"\xE4\"\r\n\"b\"=\"1\"\r\n", "3: the line is not UTF-8", {"a", "b"});
 }
 
-TEST(RegFileTest, ReportsAFileThatIsCutInAUnit) {
-    const RegFile file = parse("\xFF\xFE" + utf16(header + "[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n") + "[");
-    EXPECT_THAT(problems(file), ElementsAre("4: the file is cut in the middle of a character"));
-    EXPECT_THAT(names(file), ElementsAre("a"));
-}
-
-TEST(RegFileTest, ReportsAFileThatIsCutInASurrogatePair) {
-    const QString text = QString(header) + "[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n;" + QChar(0xD834);
-    const RegFile file = parse("\xFF\xFE" + utf16(text));
-    EXPECT_THAT(problems(file), ElementsAre("4: the file is cut in the middle of a character"));
-    EXPECT_THAT(names(file), ElementsAre("a"));
+TEST(RegFileTest, ReportsAFileThatIsCutInACharacter) {
+    const QString text = QString(header) + "[HKEY_CURRENT_USER\\A]\r\n\"a\"=\"1\"\r\n";
+    const std::vector<QByteArray> cut = {toUtf16(text) + "[", toUtf16(text + ";" + QChar(0xD834))};
+    for (const QByteArray& bytes : cut) {
+        const RegFile file = parse("\xFF\xFE" + bytes);
+        EXPECT_THAT(problems(file), ElementsAre("4: the file is cut in the middle of a character"));
+        EXPECT_THAT(names(file), ElementsAre("a"));
+    }
 }
 
 TEST(RegFileTest, ReadsAFileThatIsCutAnywhere) {
