@@ -2,7 +2,6 @@
 
 #include "support/RegistryKey.h"
 
-#include "common/AtOnce.h"
 #include "common/Games.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
@@ -101,28 +100,6 @@ TEST_F(GamesExplorerIndexTest, FindsTitlesIgnoringCase) {
     }
     EXPECT_THAT(keys, ElementsAre("{1}", "{3}"));
     EXPECT_THAT(index.findByTitle("Some"), IsEmpty());
-}
-
-TEST_F(GamesExplorerIndexTest, IsBuiltOnceWhateverIsInstalledLater) {
-    EXPECT_THAT(entries(), IsEmpty());
-    addGame(pc, {"{a}", "X", "C:\\X\\x.exe", {}, View::view64});
-    EXPECT_THAT(entries(), IsEmpty());
-    EXPECT_THAT(index.findByTitle("X"), IsEmpty());
-    EXPECT_THAT(pc.messages(logName), ElementsAre("A: No apps"));
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
-
-    GamesExplorerIndex later;
-    EXPECT_EQ(later.entries().size(), 1U);
-}
-
-TEST_F(GamesExplorerIndexTest, ThreadsThatAskAtOnceWaitForOneBuild) {
-    for (int i = 0; i < 50; ++i) {
-        addGame(pc, {QString::number(i), "X", "C:\\X\\x.exe", {}, View::view64});
-    }
-    std::atomic<int> complete{0};
-    callAtOnce([&] { complete += index.entries().size() == 50 && index.findByTitle("x").size() == 50 ? 1 : 0; });
-    EXPECT_EQ(complete, 16);
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
 }
 
 } // namespace

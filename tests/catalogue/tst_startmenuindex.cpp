@@ -1,7 +1,6 @@
 #include "catalogue/StartMenuIndex.h"
 
 #include "catalogue/TestWalk.h"
-#include "common/AtOnce.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "platform/Folders.h"
@@ -65,28 +64,10 @@ TEST_F(StartMenuIndexTest, FindsShortcutsByNameIgnoringCase) {
     EXPECT_THAT(find("Steam.lnk", 0), IsEmpty());
 }
 
-TEST_F(StartMenuIndexTest, IsBuiltOnceWhateverIsAddedLater) {
-    EXPECT_THAT(index.entries(), IsEmpty());
-    pc.file("C:\\Menu\\a.lnk");
-    EXPECT_THAT(index.entries(), IsEmpty());
-    EXPECT_THAT(find("a", 0), IsEmpty());
-    StartMenuIndex later;
-    EXPECT_THAT(later.entries(), ElementsAre("C:\\Menu\\a.lnk"));
-}
-
 TEST_F(StartMenuIndexTest, WritesNoLog) {
     pc.file("C:\\Menu\\a.lnk");
     EXPECT_EQ(index.entries().size(), 1);
     EXPECT_THAT(QDir(pc.logFolder()).entryList(QDir::Files), IsEmpty());
-}
-
-TEST_F(StartMenuIndexTest, ThreadsThatAskAtOnceSeeTheWholeList) {
-    for (int i = 0; i < 50; ++i) {
-        pc.file("C:\\Menu\\" + QString::number(i) + "\\a.lnk");
-    }
-    std::atomic<int> complete{0};
-    callAtOnce([&] { complete += index.entries().size() == 50 && index.findByName("A", 0).size() == 50 ? 1 : 0; });
-    EXPECT_EQ(complete, 16);
 }
 
 TEST_F(StartMenuIndexTest, AStartMenuThatTakesThirtySecondsAddsNone) {

@@ -1,6 +1,5 @@
 #include "catalogue/UninstallIndex.h"
 
-#include "common/AtOnce.h"
 #include "common/Programs.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
@@ -168,27 +167,6 @@ TEST_F(UninstallIndexTest, FindsEntriesByTheirExactKeyPath) {
     EXPECT_THAT(namesOf(index.findByKeyPath(uninstallKeyPath + "\\Steam App 440")), ElementsAre("Fort", "Fort 64"));
     EXPECT_THAT(namesOf(index.findByKeyPath(uninstallKeyPath + "\\steam app 440")), IsEmpty());
     EXPECT_THAT(namesOf(index.findByKeyPath("Steam App 440")), IsEmpty());
-}
-
-TEST_F(UninstallIndexTest, IsBuiltOnceWhateverIsInstalledLater) {
-    EXPECT_THAT(entries(), IsEmpty());
-    addProgram(pc, {"X", "X", "C:\\X", {}});
-    EXPECT_THAT(entries(), IsEmpty());
-    EXPECT_THAT(index.findByName("X", 0), IsEmpty());
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
-
-    UninstallIndex later;
-    EXPECT_EQ(later.entries().size(), 1U);
-}
-
-TEST_F(UninstallIndexTest, ThreadsThatAskAtOnceWaitForOneBuild) {
-    for (int i = 0; i < 50; ++i) {
-        addProgram(pc, {"Program " + QString::number(i), "P", "C:\\P", {}});
-    }
-    std::atomic<int> complete{0};
-    callAtOnce([&] { complete += index.entries().size() == 50 && index.findByName("p", 0).size() == 50 ? 1 : 0; });
-    EXPECT_EQ(complete, 16);
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
 }
 
 } // namespace

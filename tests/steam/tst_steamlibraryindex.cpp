@@ -1,6 +1,5 @@
 #include "steam/SteamLibraryIndex.h"
 
-#include "common/AtOnce.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "platform/Folders.h"
@@ -135,30 +134,6 @@ TEST_F(SteamLibraryIndexTest, TheClientMayBeFoundThroughTheStartMenu) {
     EXPECT_THAT(textsOf(index.entries()), ElementsAre("440 in D:/Steam/steamapps/common"));
     EXPECT_THAT(pc.messages(logName), ElementsAre("A: StartMenu: Found D:/Steam/Steam.exe",
                                                   "A: Library Folder: D:/Steam/steamapps", "A:   App ID: 440"));
-}
-
-TEST_F(SteamLibraryIndexTest, IsBuiltOnceEvenWhenNothingWasFound) {
-    EXPECT_THAT(index.entries(), IsEmpty());
-    installSteam();
-    pc.file("C:\\Steam\\steamapps\\appmanifest_440.acf");
-    EXPECT_THAT(index.entries(), IsEmpty());
-    EXPECT_THAT(index.findByAppId("440"), IsEmpty());
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
-    EXPECT_THAT(pc.messages(logName), ElementsAre("A: Steam.exe not found"));
-
-    SteamLibraryIndex later;
-    EXPECT_THAT(textsOf(later.entries()), ElementsAre("440 in C:/Steam/steamapps/common"));
-}
-
-TEST_F(SteamLibraryIndexTest, ThreadsThatAskAtOnceWaitForOneBuild) {
-    installSteam();
-    for (int i = 0; i < 50; ++i) {
-        pc.file("C:\\Steam\\steamapps\\appmanifest_" + QString::number(i) + ".acf");
-    }
-    std::atomic<int> complete{0};
-    callAtOnce([&] { complete += index.findByAppId("7").size() == 1 && index.entries().size() == 50 ? 1 : 0; });
-    EXPECT_EQ(complete, 16);
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
 }
 
 } // namespace

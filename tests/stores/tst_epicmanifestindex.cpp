@@ -1,6 +1,5 @@
 #include "stores/EpicManifestIndex.h"
 
-#include "common/AtOnce.h"
 #include "common/EpicLauncher.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
@@ -170,28 +169,6 @@ TEST_F(EpicManifestIndexTest, FindsEntriesByDisplayName) {
     EXPECT_THAT(found("war", 0), IsEmpty());
     EXPECT_THAT(found("WarHammer", 0), ElementsAre("1", "3"));
     EXPECT_THAT(found("WarHammer", -1), ElementsAre("1", "3"));
-}
-
-TEST_F(EpicManifestIndexTest, IsBuiltOnceWhateverIsInstalledLater) {
-    pc.value(epicKey, "ModSdkMetadataDir", manifestFolder);
-    EXPECT_THAT(appNames(), IsEmpty());
-    addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
-    EXPECT_THAT(appNames(), IsEmpty());
-    EXPECT_THAT(index.findByName("Kiwi", 0), IsEmpty());
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
-
-    EpicManifestIndex later;
-    EXPECT_EQ(later.entries().size(), 1U);
-}
-
-TEST_F(EpicManifestIndexTest, ThreadsThatAskAtOnceWaitForOneBuild) {
-    for (int i = 0; i < 20; ++i) {
-        addEpicApp(pc, QString::number(i) + ".item", {"Kiwi", "Kiwi", "D:\\Kiwi"});
-    }
-    std::atomic<int> complete{0};
-    callAtOnce([&] { complete += index.entries().size() == 20 && index.findByName("kiwi", 0).size() == 20 ? 1 : 0; });
-    EXPECT_EQ(complete, 16);
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
 }
 
 TEST_F(EpicManifestIndexTest, TheRegisteredFolderIsNotTrimmed) {

@@ -1,6 +1,5 @@
 #include "stores/OculusLibraryIndex.h"
 
-#include "common/AtOnce.h"
 #include "common/OculusStore.h"
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
@@ -98,29 +97,6 @@ TEST_F(OculusLibraryIndexTest, FindsAppsByTheirExactId) {
     EXPECT_THAT(found("Kite"), IsEmpty());
     EXPECT_THAT(found("kit"), IsEmpty());
     EXPECT_THAT(found(""), IsEmpty());
-}
-
-TEST_F(OculusLibraryIndexTest, IsBuiltOnceWhateverIsInstalledLater) {
-    EXPECT_THAT(entries(), IsEmpty());
-    addLibrary("D:\\Apps", {"kite.json.mini"});
-    EXPECT_THAT(entries(), IsEmpty());
-    EXPECT_THAT(index.findByAppId("kite"), IsEmpty());
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
-
-    OculusLibraryIndex later;
-    EXPECT_EQ(later.entries().size(), 1U);
-}
-
-TEST_F(OculusLibraryIndexTest, ThreadsThatAskAtOnceWaitForOneBuild) {
-    QStringList manifests;
-    for (int i = 0; i < 20; ++i) {
-        manifests.append("kite" + QString::number(i) + ".json.mini");
-    }
-    addLibrary("D:\\Apps", manifests);
-    std::atomic<int> complete{0};
-    callAtOnce([&] { complete += index.entries().size() == 20 && index.findByAppId("kite7").size() == 1 ? 1 : 0; });
-    EXPECT_EQ(complete, 16);
-    EXPECT_EQ(pc.log(logName).count("LOG CREATED"), 1);
 }
 
 } // namespace

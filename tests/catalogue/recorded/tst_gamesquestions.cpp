@@ -6,24 +6,11 @@
 #include "common/recorded/RecordingFolder.h"
 #include "recordings/Recording.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace {
 
-using ::testing::IsEmpty;
-using ::testing::Not;
-
-class GamesExplorerQuestionsTest : public QuestionsTest {};
-
-TEST_F(GamesExplorerQuestionsTest, AnEmptyCatalogueIsNotReadAgain) {
-    GamesExplorerIndex index;
-    EXPECT_THAT(questionsOf([&] { index.entries(); }), Not(IsEmpty()));
-    EXPECT_THAT(questionsOf([&] {
-                    index.entries();
-                    index.findByTitle("X");
-                }),
-                IsEmpty());
-}
+using GamesExplorerQuestionsTest = QuestionsTest;
 
 TEST_F(GamesExplorerQuestionsTest, AKeyThatIsListedAndDoesNotOpenIsAnEntryAllTheSame) {
     addGame(pc, {"{a}", "Title", "C:\\X\\x.exe", "C:\\X"});

@@ -1,9 +1,7 @@
 #include "catalogue/StartMenuFinder.h"
 #include "catalogue/StartMenuIndex.h"
-#include "catalogue/UninstallIndex.h"
 #include "core/GameLocation.h"
 
-#include "common/Programs.h"
 #include "common/QtPrinters.h"
 #include "common/recorded/QuestionsTest.h"
 #include "platform/Folders.h"
@@ -15,11 +13,10 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-class CatalogueQuestionsTest : public QuestionsTest {};
+using CatalogueQuestionsTest = QuestionsTest;
 
 TEST_F(CatalogueQuestionsTest, BuildingTheStartMenuIndexOnlyListsFolders) {
     pc.shellFolder(Platform::csidlStartMenu, "C:\\Menu");
@@ -27,7 +24,6 @@ TEST_F(CatalogueQuestionsTest, BuildingTheStartMenuIndexOnlyListsFolders) {
     pc.file("C:\\Menu\\Games\\b.lnk");
     StartMenuIndex index;
     EXPECT_THAT(questionsOf([&] { index.entries(); }), ElementsAre("list C:/Menu", "list C:/Menu/Games"));
-    EXPECT_THAT(questionsOf([&] { index.entries(); }), IsEmpty());
 }
 
 TEST_F(CatalogueQuestionsTest, AStartMenuSearchOpensOnlyShortcutsOfTheName) {
@@ -44,18 +40,6 @@ TEST_F(CatalogueQuestionsTest, AStartMenuSearchOpensOnlyShortcutsOfTheName) {
     EXPECT_THAT(questions, Not(Contains("stat C:/Menu/a.lnk")));
     EXPECT_THAT(questions, Not(Contains("stat C:/Menu/c.lnk")));
     EXPECT_THAT(questions, Not(Contains(StartsWith("list "))));
-}
-
-TEST_F(CatalogueQuestionsTest, SearchesOfABuiltUninstallIndexReadNoRegistry) {
-    addProgram(pc, {"X", "X", "C:\\X", {}});
-    UninstallIndex index;
-    EXPECT_THAT(questionsOf([&] { index.entries(); }), Not(IsEmpty()));
-    EXPECT_THAT(questionsOf([&] {
-                    index.findByName("x", 0);
-                    index.findByName("x", 1);
-                    index.findByKeyPath("X");
-                }),
-                IsEmpty());
 }
 
 } // namespace

@@ -9,11 +9,9 @@
 namespace {
 
 using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-class SteamQuestionsTest : public QuestionsTest {};
+using SteamQuestionsTest = QuestionsTest;
 
 TEST_F(SteamQuestionsTest, OfAllFilesTheListOfLibrariesAloneIsOpenedAndOnce) {
     pc.file("C:\\Steam\\steam.exe");
@@ -28,11 +26,6 @@ TEST_F(SteamQuestionsTest, OfAllFilesTheListOfLibrariesAloneIsOpenedAndOnce) {
     EXPECT_THAT(questions, Contains("open C:/Steam/steamapps/libraryfolders.vdf"));
     EXPECT_THAT(questions, Contains("list C:/Steam/steamapps").Times(1));
     EXPECT_THAT(questions, Contains("list D:/Library/steamapps").Times(1));
-    EXPECT_THAT(questionsOf([&] {
-                    index.entries();
-                    index.findByAppId("1");
-                }),
-                IsEmpty());
 }
 
 } // namespace
