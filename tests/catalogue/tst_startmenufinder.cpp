@@ -134,12 +134,4 @@ TEST_F(StartMenuFinderTest, FollowsShortcutsWithAnyName) {
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: StartMenu: Found C:/Spiele/Käferrennen/Käfer.exe"));
 }
 
-TEST_F(StartMenuFinderTest, KeepsNoUserLocation) {
-    StartMenuIndex index;
-    Finders::StartMenuFinder finder(&logger, &index, "X", {"x.exe"}, 0);
-    finder.setUserLocation("D:\\Elsewhere");
-    EXPECT_EQ(finder.userLocation(), "");
-    EXPECT_FALSE(finder.userLocation().isNull());
-}
-
 } // namespace

@@ -200,14 +200,6 @@ TEST_F(UninstallFinderTest, WithoutExecutablesNothingIsFound) {
     EXPECT_EQ(location, failedIn("C:\\X"));
 }
 
-TEST_F(UninstallFinderTest, KeepsNoUserLocation) {
-    UninstallIndex index;
-    Finders::UninstallFinder finder(&logger, &index, "X", {"game.exe"}, 0);
-    finder.setUserLocation("D:\\Elsewhere");
-    EXPECT_EQ(finder.userLocation(), "");
-    EXPECT_FALSE(finder.userLocation().isNull());
-}
-
 TEST_F(UninstallFinderTest, QuotesFurtherOnDoNotEndAnUnquotedCommand) {
     pc.file("C:\\Games\\X\\game.exe");
     addProgram(pc, {"1", "X", {}, "C:\\Games\\X\\unins000.exe \"/LOG=u.log\""});

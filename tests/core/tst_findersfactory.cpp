@@ -106,6 +106,27 @@ TEST_F(FindersFactoryTest, TwoFactoriesShareNothing) {
     EXPECT_EQ(pc.log(logName).count("LOG DESTROYED"), 1);
 }
 
+TEST_F(FindersFactoryTest, OnlyTheFinderForTheUsersChoiceKeepsOne) {
+    pc.file("D:\\X\\x.exe");
+    const auto factory = plugin.create();
+    std::vector<std::unique_ptr<IGameFinder>> finders;
+    finders.push_back(factory->createUninstallFinder("X", {"x.exe"}, 0));
+    finders.push_back(factory->createGameForWindowFinder("X", {"x.exe"}));
+    finders.push_back(factory->createSteamFinder("1", "X", {"x.exe"}));
+    finders.push_back(factory->createStartMenuFinder("X", {"x.exe"}, 0));
+    finders.push_back(factory->createOculusStoreFinder("X", {"x.exe"}, "X"));
+    finders.push_back(factory->createEpicStoreFinder("X", {"x.exe"}, 0));
+    finders.push_back(factory->createUniversalAppFinder("X"));
+    finders.push_back(factory->createFolderFinder("D:\\X", {"x.exe"}));
+    for (std::size_t i = 0; i < finders.size(); ++i) {
+        finders[i]->setUserLocation("D:\\Elsewhere");
+        EXPECT_EQ(finders[i]->userLocation(), "") << i;
+        EXPECT_FALSE(finders[i]->userLocation().isNull()) << i << ": empty, as an empty text is";
+    }
+    EXPECT_TRUE(finders.back()->find(location));
+    EXPECT_EQ(location.installFolder, "D:\\X");
+}
+
 TEST_F(FindersFactoryTest, AMultiFinderOfElevenNullsFindsNothing) {
     const auto factory = plugin.create();
     const auto finder = combine(*factory, nullptr, nullptr);

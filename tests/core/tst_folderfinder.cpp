@@ -104,16 +104,6 @@ TEST_F(FolderFinderTest, LooksAgainAtEverySearch) {
     EXPECT_FALSE(finder.find(location));
 }
 
-TEST_F(FolderFinderTest, KeepsNoUserLocation) {
-    pc.file("C:\\Games\\X\\a.exe");
-    Finders::FolderFinder finder(&logger, "C:\\Games\\X", {"a.exe"});
-    finder.setUserLocation("D:\\Elsewhere");
-    EXPECT_EQ(finder.userLocation(), "");
-    EXPECT_FALSE(finder.userLocation().isNull()) << "empty, as an empty text is";
-    EXPECT_TRUE(finder.find(location));
-    EXPECT_EQ(location.installFolder, "C:\\Games\\X");
-}
-
 TEST_F(FolderFinderTest, APathOfAnyLengthIsLookedFor) {
     QString folder = "D:";
     while (folder.size() < 300) {

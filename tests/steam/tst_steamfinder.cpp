@@ -187,13 +187,4 @@ TEST_F(SteamFinderTest, TheFolderNameMayBeAPath) {
     EXPECT_EQ(location.executablePath, "E:\\Game\\game.exe");
 }
 
-TEST_F(SteamFinderTest, KeepsNoUserLocation) {
-    UninstallIndex uninstallIndex;
-    SteamLibraryIndex steamIndex;
-    Finders::SteamFinder finder(&logger, &uninstallIndex, &steamIndex, "440", "Game", {"game.exe"});
-    finder.setUserLocation("D:\\Elsewhere");
-    EXPECT_EQ(finder.userLocation(), "");
-    EXPECT_FALSE(finder.userLocation().isNull());
-}
-
 } // namespace
