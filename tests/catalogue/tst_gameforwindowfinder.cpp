@@ -21,8 +21,8 @@ using ::testing::IsEmpty;
 
 class GameForWindowFinderTest : public FinderTest {
 protected:
-    bool find(const QString& title, const QStringList& executables) {
-        return Finders::GameForWindowFinder(&logger, &index, title, executables).find(location);
+    Answer find(const QString& title, const QStringList& executables) {
+        return ask(Finders::GameForWindowFinder(&logger, &index, title, executables));
     }
 
     GamesExplorerIndex index;
@@ -33,16 +33,14 @@ TEST_F(GameForWindowFinderTest, TheRegisteredExecutableWinsOutright) {
         pc.file(QString("C:\\Games\\X\\") + name);
     }
     addGame(pc, {"{1}", "SOME GAME", "C:/Games/X/x.exe", "C:\\Games\\X"});
-    EXPECT_TRUE(find("Some Game", {"a.exe"}));
-    EXPECT_EQ(location, foundIn("C:/Games/X", {"C:/Games/X/x.exe"}));
+    EXPECT_EQ(find("Some Game", {"a.exe"}), foundIn("C:/Games/X", {"C:/Games/X/x.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: GameForWindow: C:/Games/X/x.exe"));
 }
 
 TEST_F(GameForWindowFinderTest, TheRegisteredExecutableStaysAsStoredAndItsFolderTakesSlashes) {
     pc.file("C:\\Games\\X\\x.exe");
     addGame(pc, {"{1}", "X", "C:\\Games\\X\\x.exe", {}});
-    EXPECT_TRUE(find("X", {}));
-    EXPECT_EQ(location, foundIn("C:/Games/X", {"C:\\Games\\X\\x.exe"}));
+    EXPECT_EQ(find("X", {}), foundIn("C:/Games/X", {"C:\\Games\\X\\x.exe"}));
 }
 
 TEST_F(GameForWindowFinderTest, WhiteSpaceAtTheEndOfItsFolderGoes) {
@@ -59,8 +57,8 @@ TEST_F(GameForWindowFinderTest, OtherwiseEveryExecutableInTheRegisteredFolderIsF
         pc.file(QString("C:\\Games\\X\\") + name);
     }
     addGame(pc, {"{1}", "X", "C:\\Games\\X\\gone.exe", "C:\\Games\\X"});
-    EXPECT_TRUE(find("X", {"bin\\a.exe", "b.exe", "c.exe"}));
-    EXPECT_EQ(location, foundIn("C:\\Games\\X", {"C:\\Games\\X\\bin\\a.exe", "C:\\Games\\X\\c.exe"}));
+    EXPECT_EQ(find("X", {"bin\\a.exe", "b.exe", "c.exe"}),
+              foundIn("C:\\Games\\X", {"C:\\Games\\X\\bin\\a.exe", "C:\\Games\\X\\c.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: GameForWindow: C:\\Games\\X\\bin\\a.exe"));
 }
 
@@ -75,19 +73,15 @@ TEST_F(GameForWindowFinderTest, TheRegisteredFolderIsTakenAsStored) {
 TEST_F(GameForWindowFinderTest, LeavesTheLocationAloneWhenNoTitleFits) {
     pc.file("C:\\Games\\X\\x.exe");
     addGame(pc, {"{1}", "Some Game 2", "C:\\Games\\X\\x.exe", {}});
-    EXPECT_FALSE(find("Some Game", {"x.exe"})) << "a part of a title is not enough";
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("Some Game", {"x.exe"}), leftAlone()) << "a part of a title is not enough";
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
 TEST_F(GameForWindowFinderTest, ResetsTheLocationWhenNoFileExists) {
     pc.folder("C:\\Games\\X");
     addGame(pc, {"{1}", "X", "C:\\Games\\X\\x.exe", "C:\\Games\\X"});
-    EXPECT_FALSE(find("X", {"a.exe"}));
-    EXPECT_EQ(location, GameLocation());
-    location = usedLocation();
-    EXPECT_FALSE(find("X", {}));
-    EXPECT_EQ(location, GameLocation());
+    EXPECT_EQ(find("X", {"a.exe"}), failedIn(""));
+    EXPECT_EQ(find("X", {}), failedIn(""));
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
@@ -97,8 +91,7 @@ TEST_F(GameForWindowFinderTest, WithoutAFolderTheExecutablesAreNotLookedFor) {
     const QString program = QCoreApplication::applicationFilePath();
     const QString current = QDir::currentPath();
     QDir::setCurrent("C:\\"); // so that a separator alone would lead to the file
-    EXPECT_FALSE(find("X", {"a.exe", "C:\\a.exe", program.mid(program.indexOf('/') + 1)}));
-    EXPECT_EQ(location, GameLocation());
+    EXPECT_EQ(find("X", {"a.exe", "C:\\a.exe", program.mid(program.indexOf('/') + 1)}), failedIn(""));
     QDir::setCurrent(current);
 }
 

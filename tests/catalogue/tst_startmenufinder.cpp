@@ -21,9 +21,9 @@ protected:
         pc.shellFolder(Platform::csidlCommonStartMenu, "D:\\Menu");
     }
 
-    bool find(const QString& name, const QStringList& executables, int matchMode = 0) {
+    Answer find(const QString& name, const QStringList& executables, int matchMode = 0) {
         StartMenuIndex index;
-        return Finders::StartMenuFinder(&logger, &index, name, executables, matchMode).find(location);
+        return ask(Finders::StartMenuFinder(&logger, &index, name, executables, matchMode));
     }
 
     /// A shortcut whose target exists.
@@ -35,15 +35,14 @@ protected:
 
 TEST_F(StartMenuFinderTest, FindsAProgramByItsShortcut) {
     addShortcut("C:\\Menu\\Programs\\Steam\\Steam.lnk", "C:\\Games\\Steam\\Steam.exe");
-    EXPECT_TRUE(find("steam", {"steam.exe"}));
-    EXPECT_EQ(location, foundIn("C:/Games/Steam", {"C:/Games/Steam/Steam.exe"})) << "with forward slashes";
+    EXPECT_EQ(find("steam", {"steam.exe"}), foundIn("C:/Games/Steam", {"C:/Games/Steam/Steam.exe"}))
+        << "with forward slashes";
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: StartMenu: Found C:/Games/Steam/Steam.exe"));
 }
 
 TEST_F(StartMenuFinderTest, ComparesTheShortcutsNameByTheMode) {
     addShortcut("C:\\Menu\\Steam Support.lnk", "C:\\Help\\steam.exe");
-    EXPECT_FALSE(find("Steam", {"steam.exe"}, 0));
-    EXPECT_EQ(location, usedLocation()) << "no shortcut of this name";
+    EXPECT_EQ(find("Steam", {"steam.exe"}, 0), leftAlone()) << "no shortcut of this name";
     EXPECT_TRUE(find("Steam", {"steam.exe"}, 1));
     EXPECT_EQ(location.installFolder, "C:/Help");
     addShortcut("D:\\Menu\\steam.lnk", "C:\\Games\\Steam\\steam.exe");
@@ -65,8 +64,8 @@ TEST_F(StartMenuFinderTest, AnExecutableMayBeAnyPartOfTheTarget) {
 
 TEST_F(StartMenuFinderTest, EachExecutableThatFitsAddsTheTargetOnce) {
     addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\x.exe");
-    EXPECT_TRUE(find("X", {"missing.exe", "X.EXE", "x.exe"}));
-    EXPECT_EQ(location, foundIn("C:/Games/X", {"C:/Games/X/x.exe", "C:/Games/X/x.exe"}));
+    EXPECT_EQ(find("X", {"missing.exe", "X.EXE", "x.exe"}),
+              foundIn("C:/Games/X", {"C:/Games/X/x.exe", "C:/Games/X/x.exe"}));
     EXPECT_THAT(pc.messages("Test"),
                 ElementsAre("A: StartMenu: Found C:/Games/X/x.exe", "A: StartMenu: Found C:/Games/X/x.exe"));
 }
@@ -82,8 +81,7 @@ TEST_F(StartMenuFinderTest, TheFirstShortcutThatPassesWins) {
 
 TEST_F(StartMenuFinderTest, AShortcutWithAnotherTargetResetsTheLocationAndIsPassedOver) {
     addShortcut("C:\\Menu\\X.lnk", "C:\\Help\\help.exe");
-    EXPECT_FALSE(find("X", {"x.exe"}));
-    EXPECT_EQ(location, GameLocation());
+    EXPECT_EQ(find("X", {"x.exe"}), failedIn(""));
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
     addShortcut("D:\\Menu\\X.lnk", "D:\\Games\\X\\x.exe");
     EXPECT_TRUE(find("X", {"x.exe"}));
@@ -99,32 +97,28 @@ TEST_F(StartMenuFinderTest, TheTargetNeedNotExist) {
 
 TEST_F(StartMenuFinderTest, AShortcutThatLeadsNowhereHasAnEmptyTarget) {
     pc.file("C:\\Menu\\X.lnk");
-    EXPECT_FALSE(find("X", {"x.exe"}));
-    EXPECT_EQ(location, GameLocation());
+    EXPECT_EQ(find("X", {"x.exe"}), failedIn(""));
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 
-    EXPECT_TRUE(find("X", {"x.exe", ""})) << "an empty part is in every target";
-    EXPECT_EQ(location, GameLocation()) << "but an empty path is never added";
+    EXPECT_EQ(find("X", {"x.exe", ""}), (Answer{true, {}}))
+        << "an empty part is in every target, but an empty path is never added";
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: StartMenu: Found "));
 }
 
 TEST_F(StartMenuFinderTest, AFolderNamedLikeAShortcutHasNoTarget) {
     pc.folder("C:\\Menu\\X.lnk");
-    EXPECT_FALSE(find("X", {"x.exe"}));
-    EXPECT_EQ(location, GameLocation());
+    EXPECT_EQ(find("X", {"x.exe"}), failedIn(""));
 }
 
 TEST_F(StartMenuFinderTest, AnExtensionInUpperCaseIsNoShortcuts) {
     addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\x.exe");
     pc.file("C:\\Menu\\Y.LNK");
-    EXPECT_FALSE(find("Y", {"x.exe"}));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("Y", {"x.exe"}), leftAlone());
 }
 
 TEST_F(StartMenuFinderTest, WithoutExecutablesNothingIsFound) {
     addShortcut("C:\\Menu\\X.lnk", "C:\\Games\\X\\x.exe");
-    EXPECT_FALSE(find("X", {}));
-    EXPECT_EQ(location, GameLocation());
+    EXPECT_EQ(find("X", {}), failedIn(""));
 }
 
 TEST_F(StartMenuFinderTest, FollowsShortcutsWithAnyName) {

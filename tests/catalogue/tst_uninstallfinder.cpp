@@ -20,9 +20,9 @@ using ::testing::IsEmpty;
 
 class UninstallFinderTest : public FinderTest {
 protected:
-    bool find(const QString& name, const QStringList& executables, int matchMode = 0) {
+    Answer find(const QString& name, const QStringList& executables, int matchMode = 0) {
         UninstallIndex index;
-        return Finders::UninstallFinder(&logger, &index, name, executables, matchMode).find(location);
+        return ask(Finders::UninstallFinder(&logger, &index, name, executables, matchMode));
     }
 };
 
@@ -30,8 +30,7 @@ TEST_F(UninstallFinderTest, FindsEveryExecutableInTheInstallLocation) {
     pc.file("D:\\Games\\Racer\\bin\\racer.exe");
     pc.file("D:\\Games\\Racer\\setup.exe");
     addProgram(pc, {"Racer_is1", "Space Racer", "D:\\Games\\Racer", "\"D:\\Games\\Racer\\unins000.exe\""});
-    EXPECT_TRUE(find("space racer", {"bin\\racer.exe", "missing.exe", "setup.exe"}));
-    EXPECT_EQ(location,
+    EXPECT_EQ(find("space racer", {"bin\\racer.exe", "missing.exe", "setup.exe"}),
               foundIn("D:\\Games\\Racer", {"D:\\Games\\Racer\\bin\\racer.exe", "D:\\Games\\Racer\\setup.exe"}));
     EXPECT_THAT(pc.messages("Test"),
                 ElementsAre("A: Uninstall: Found " + uninstallKeyPath + "\\Racer_is1: D:\\Games\\Racer\\bin\\racer.exe",
@@ -58,8 +57,7 @@ TEST_F(UninstallFinderTest, ComparesNamesIgnoringCase) {
 
 TEST_F(UninstallFinderTest, LeavesTheLocationAloneWhenNoEntryHasTheName) {
     addProgram(pc, {"1", "Space Racer", "C:\\1", {}});
-    EXPECT_FALSE(find("Space Racer 2", {"game.exe"}));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("Space Racer 2", {"game.exe"}), leftAlone());
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
@@ -73,17 +71,12 @@ TEST_F(UninstallFinderTest, TellsHowTheNameHadToFit) {
 
 TEST_F(UninstallFinderTest, AFailedSearchLeavesTheLastFolderLookedIn) {
     addProgram(pc, {"1", "By location", "C:\\Gone ", {}});
-    EXPECT_FALSE(find("by location", {"game.exe"}));
-    EXPECT_EQ(location, failedIn("C:\\Gone ")) << "as registered";
+    EXPECT_EQ(find("by location", {"game.exe"}), failedIn("C:\\Gone ")) << "as registered";
 
-    location = usedLocation();
     addProgram(pc, {"2", "By uninstaller", "C:\\Gone", "\"D:\\Gone too\\u.exe\""});
-    EXPECT_FALSE(find("by uninstaller", {"game.exe"}));
-    EXPECT_EQ(location, failedIn("D:/Gone too"));
+    EXPECT_EQ(find("by uninstaller", {"game.exe"}), failedIn("D:/Gone too"));
 
-    location = usedLocation();
-    EXPECT_FALSE(find("by", {"game.exe"}, 1)) << "both";
-    EXPECT_EQ(location, failedIn("D:/Gone too"));
+    EXPECT_EQ(find("by", {"game.exe"}, 1), failedIn("D:/Gone too")) << "both";
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
@@ -92,16 +85,15 @@ TEST_F(UninstallFinderTest, LooksBesideTheUninstallerWhenTheLocationHasNothing) 
     pc.file("C:\\Games\\X\\bin\\tool.exe");
     pc.folder("C:\\Elsewhere");
     addProgram(pc, {"1", "X", "C:\\Elsewhere", "\"C:\\Games\\X\\unins000.exe\" /SILENT"});
-    EXPECT_TRUE(find("X", {"missing.exe", "game.exe", "bin\\tool.exe"}));
-    EXPECT_EQ(location, foundIn("C:/Games/X", {"C:/Games/X\\game.exe", "C:/Games/X\\bin\\tool.exe"}));
+    EXPECT_EQ(find("X", {"missing.exe", "game.exe", "bin\\tool.exe"}),
+              foundIn("C:/Games/X", {"C:/Games/X\\game.exe", "C:/Games/X\\bin\\tool.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Uninstall: Found C:/Games/X\\game.exe",
                                                  "A: Uninstall: Found C:/Games/X\\bin\\tool.exe"));
 }
 
 TEST_F(UninstallFinderTest, AnEmptyLocationIsNotLookedIn) {
     addProgram(pc, {"2", "Y", {}, "MsiExec.exe /X"});
-    EXPECT_FALSE(find("Y", {"tmp", "Windows"})) << "which exist at the root of the drive";
-    EXPECT_EQ(location, failedIn(""));
+    EXPECT_EQ(find("Y", {"tmp", "Windows"}), failedIn("")) << "which exist at the root of the drive";
 
     pc.file("C:\\Games\\X\\game.exe");
     addProgram(pc, {"1", "X", {}, "C:\\Games\\X\\unins000.exe"});
@@ -127,20 +119,17 @@ TEST_F(UninstallFinderTest, TakesTheProgramOutOfAQuotedCommand) {
 TEST_F(UninstallFinderTest, AnUnquotedCommandIsTakenWithItsArguments) {
     pc.file("C:\\Games\\X\\game.exe");
     addProgram(pc, {"1", "X", {}, "C:\\Games\\X\\unins000.exe /SILENT"});
-    EXPECT_FALSE(find("X", {"game.exe"}));
-    EXPECT_EQ(location, failedIn("C:/Games/X/unins000.exe ")) << "the folder ends at the last slash";
+    EXPECT_EQ(find("X", {"game.exe"}), failedIn("C:/Games/X/unins000.exe ")) << "the folder ends at the last slash";
 }
 
 TEST_F(UninstallFinderTest, ACommandOfAQuoteAloneLeadsNowhere) {
     addProgram(pc, {"1", "X", "C:\\X", "\""});
-    EXPECT_FALSE(find("X", {"no such game.exe"}));
-    EXPECT_EQ(location, failedIn(""));
+    EXPECT_EQ(find("X", {"no such game.exe"}), failedIn(""));
 }
 
 TEST_F(UninstallFinderTest, ACommandWithoutAFolderStandsForTheCurrentOne) {
     addProgram(pc, {"1", "X", {}, "unins000.exe"});
-    EXPECT_FALSE(find("X", {"no such game.exe"}));
-    EXPECT_EQ(location, failedIn(Paths::absoluteFolder(".")));
+    EXPECT_EQ(find("X", {"no such game.exe"}), failedIn(Paths::absoluteFolder(".")));
 }
 
 TEST_F(UninstallFinderTest, SomeCommandsTellNoFolderOfTheGame) {
@@ -151,8 +140,7 @@ TEST_F(UninstallFinderTest, SomeCommandsTellNoFolderOfTheGame) {
                                 "C:\\package CACHE\\u.exe", "C:\\Games\\X\\steam.exe STEAM://uninstall/440", ""}) {
         const QString name = "X" + QString::number(++number);
         addProgram(pc, {name, name, "C:\\Gone", command});
-        EXPECT_FALSE(find(name, {"game.exe"})) << command;
-        EXPECT_EQ(location, failedIn("C:\\Gone")) << command;
+        EXPECT_EQ(find(name, {"game.exe"}), failedIn("C:\\Gone")) << command;
     }
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 
@@ -173,8 +161,7 @@ TEST_F(UninstallFinderTest, TheLocationIsTakenAsItStands) {
     EXPECT_EQ(location.launchCommand, "C:/Games/X\\game.exe");
 
     addProgram(pc, {"3", "Quotes", "\"C:\\Games\\X\"", {}});
-    EXPECT_FALSE(find("Quotes", {"game.exe"}));
-    EXPECT_EQ(location, failedIn("\"C:\\Games\\X\""));
+    EXPECT_EQ(find("Quotes", {"game.exe"}), failedIn("\"C:\\Games\\X\""));
 }
 
 TEST_F(UninstallFinderTest, TheFirstEntryThatYieldsAnExecutableWins) {
@@ -196,15 +183,13 @@ TEST_F(UninstallFinderTest, TheFirstEntryThatYieldsAnExecutableWins) {
 TEST_F(UninstallFinderTest, WithoutExecutablesNothingIsFound) {
     pc.file("C:\\X\\game.exe");
     addProgram(pc, {"1", "X", "C:\\X", {}});
-    EXPECT_FALSE(find("X", {}));
-    EXPECT_EQ(location, failedIn("C:\\X"));
+    EXPECT_EQ(find("X", {}), failedIn("C:\\X"));
 }
 
 TEST_F(UninstallFinderTest, QuotesFurtherOnDoNotEndAnUnquotedCommand) {
     pc.file("C:\\Games\\X\\game.exe");
     addProgram(pc, {"1", "X", {}, "C:\\Games\\X\\unins000.exe \"/LOG=u.log\""});
-    EXPECT_FALSE(find("X", {"game.exe"}));
-    EXPECT_EQ(location, failedIn("C:/Games/X/unins000.exe \""));
+    EXPECT_EQ(find("X", {"game.exe"}), failedIn("C:/Games/X/unins000.exe \""));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/GameLocation.h"
+#include "core/IGameFinder.h"
 
 #include <QString>
 #include <QStringList>
@@ -26,17 +27,46 @@ inline GameLocation usedLocation() {
     return {"steam://launch/1", "C:\\Old\\old.exe", {"C:\\Old\\old.exe", "C:\\Old\\other.exe"}, "C:\\Old", true};
 }
 
-/// What a search leaves that found these executables in the folder.
-inline GameLocation foundIn(const QString& folder, const QStringList& executables) {
-    return {executables.front(), executables.front(), executables, folder, false};
+/// What a finder returned and made of a location.
+struct Answer {
+    bool found = false;
+    GameLocation location;
+
+    explicit operator bool() const { return found; }
+};
+
+inline bool operator==(const Answer& left, const Answer& right) {
+    return left.found == right.found && left.location == right.location;
 }
 
-/// The same for a game that is started by a command.
-inline GameLocation startedBy(const QString& command, const QString& folder, const QStringList& executables) {
-    return {command, executables.front(), executables, folder, false};
+inline void PrintTo(const Answer& answer, std::ostream* stream) {
+    *stream << (answer.found ? "found " : "not found ");
+    PrintTo(answer.location, stream);
 }
 
-/// What a failed search in the folder leaves.
-inline GameLocation failedIn(const QString& folder) {
-    return {{}, {}, {}, folder, false};
+/// The answer when the location was used before.
+inline Answer answerOf(IGameFinder& finder) {
+    Answer answer{false, usedLocation()};
+    answer.found = finder.find(answer.location);
+    return answer;
+}
+
+/// A game was found that is started by the first of these executables.
+inline Answer foundIn(const QString& folder, const QStringList& executables) {
+    return {true, {executables.front(), executables.front(), executables, folder, false}};
+}
+
+/// A game was found that is started by a command.
+inline Answer startedBy(const QString& command, const QString& folder, const QStringList& executables) {
+    return {true, {command, executables.front(), executables, folder, false}};
+}
+
+/// None was found; this was the last folder that was looked in, or none.
+inline Answer failedIn(const QString& folder) {
+    return {false, {{}, {}, {}, folder, false}};
+}
+
+/// None was found, and the location is as it was.
+inline Answer leftAlone() {
+    return {false, usedLocation()};
 }

@@ -42,8 +42,8 @@ TEST_F(FindersFactoryTest, CreateMakesAFactoryWhoseFolderFinderFindsAGame) {
     const auto factory = plugin.create();
     const auto finder = factory->createFolderFinder("D:\\Spiele\\Käferrennen", {"bin\\win64\\kaefer.exe"});
     ASSERT_TRUE(finder);
-    EXPECT_TRUE(finder->find(location));
-    EXPECT_EQ(location, foundIn("D:\\Spiele\\Käferrennen", {"D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe"}));
+    EXPECT_EQ(answerOf(*finder),
+              foundIn("D:\\Spiele\\Käferrennen", {"D:\\Spiele\\Käferrennen\\bin\\win64\\kaefer.exe"}));
     EXPECT_THAT(pc.messages(logName), ElementsAre("A: Folder: D:/Spiele/Käferrennen/bin\\win64\\kaefer.exe"));
 }
 
@@ -131,8 +131,7 @@ TEST_F(FindersFactoryTest, AMultiFinderOfElevenNullsFindsNothing) {
     const auto factory = plugin.create();
     const auto finder = combine(*factory, nullptr, nullptr);
     ASSERT_TRUE(finder);
-    EXPECT_FALSE(finder->find(location));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(answerOf(*finder), leftAlone());
     EXPECT_EQ(finder->userLocation(), "");
 }
 

@@ -16,37 +16,31 @@ using ::testing::IsEmpty;
 
 class FolderFinderTest : public FinderTest {
 protected:
-    bool find(const QString& folder, const QStringList& executables) {
-        return Finders::FolderFinder(&logger, folder, executables).find(location);
+    Answer find(const QString& folder, const QStringList& executables) {
+        return ask(Finders::FolderFinder(&logger, folder, executables));
     }
 };
 
 TEST_F(FolderFinderTest, FindsEveryExecutableInTheOrderGiven) {
     pc.file("D:\\Games\\X\\b.exe");
     pc.file("D:\\Games\\X\\a.exe");
-    EXPECT_TRUE(find("D:\\Games\\X", {"a.exe", "missing.exe", "b.exe"}));
-    EXPECT_EQ(location, foundIn("D:\\Games\\X", {"D:\\Games\\X\\a.exe", "D:\\Games\\X\\b.exe"}));
+    EXPECT_EQ(find("D:\\Games\\X", {"a.exe", "missing.exe", "b.exe"}),
+              foundIn("D:\\Games\\X", {"D:\\Games\\X\\a.exe", "D:\\Games\\X\\b.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Folder: D:/Games/X/a.exe", "A: Folder: D:/Games/X/b.exe"));
 }
 
 TEST_F(FolderFinderTest, LeavesTheLocationAloneWhenTheFolderIsMissing) {
     pc.file("C:\\Games\\file");
-    EXPECT_FALSE(find("C:\\Games\\X", {"a.exe"}));
-    EXPECT_EQ(location, usedLocation());
-    EXPECT_FALSE(find("C:\\Games\\file", {"a.exe"})) << "a file is no folder";
-    EXPECT_EQ(location, usedLocation());
-    EXPECT_FALSE(find("Q:\\Games", {"a.exe"})) << "no such drive";
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("C:\\Games\\X", {"a.exe"}), leftAlone());
+    EXPECT_EQ(find("C:\\Games\\file", {"a.exe"}), leftAlone()) << "a file is no folder";
+    EXPECT_EQ(find("Q:\\Games", {"a.exe"}), leftAlone()) << "no such drive";
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
 TEST_F(FolderFinderTest, ResetsTheLocationWhenNoExecutableExists) {
     pc.folder("C:\\Games\\X");
-    EXPECT_FALSE(find("C:\\Games\\X", {"a.exe"}));
-    EXPECT_EQ(location, GameLocation());
-    location = usedLocation();
-    EXPECT_FALSE(find("C:\\Games\\X", {}));
-    EXPECT_EQ(location, GameLocation());
+    EXPECT_EQ(find("C:\\Games\\X", {"a.exe"}), failedIn(""));
+    EXPECT_EQ(find("C:\\Games\\X", {}), failedIn(""));
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 

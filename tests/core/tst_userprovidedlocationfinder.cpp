@@ -49,15 +49,14 @@ TEST_F(UserProvidedLocationFinderTest, FindsEveryExecutableInTheRememberedFolder
     pc.file("D:\\Games\\X\\bin\\b.exe");
     pc.file("D:\\Games\\X\\a.exe");
     store("K", "D:/Games/X");
-    EXPECT_TRUE(finder("K", {"bin\\b.exe", "gone.exe", "a.exe"}).find(location));
-    EXPECT_EQ(location, foundIn("D:/Games/X", {"D:/Games/X\\bin\\b.exe", "D:/Games/X\\a.exe"}));
+    EXPECT_EQ(ask(finder("K", {"bin\\b.exe", "gone.exe", "a.exe"})),
+              foundIn("D:/Games/X", {"D:/Games/X\\bin\\b.exe", "D:/Games/X\\a.exe"}));
     EXPECT_THAT(pc.messages("Test"),
                 ElementsAre("A: User: Found D:/Games/X\\bin\\b.exe", "A: User: Found D:/Games/X\\a.exe"));
 }
 
 TEST_F(UserProvidedLocationFinderTest, WithoutARememberedFolderTheLocationIsResetSilently) {
-    EXPECT_FALSE(finder("K", {"a.exe"}).find(location));
-    EXPECT_EQ(location, GameLocation());
+    EXPECT_EQ(ask(finder("K", {"a.exe"})), failedIn(""));
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
@@ -65,9 +64,7 @@ TEST_F(UserProvidedLocationFinderTest, AFolderWithoutTheExecutablesIsToldAsAnErr
     pc.folder("D:\\Games\\X");
     store("K", " D:/Games/%s 競走\\ ");
     for (const QStringList& executables : {QStringList{"a.exe", "b.exe"}, QStringList{}}) {
-        location = usedLocation();
-        EXPECT_FALSE(finder("K", executables).find(location));
-        EXPECT_EQ(location, failedIn("D:/Games/%s 競走\\"));
+        EXPECT_EQ(ask(finder("K", executables)), failedIn("D:/Games/%s 競走\\"));
     }
     EXPECT_THAT(pc.messages("Test"),
                 ElementsAre("E: User: Not found D:/Games/%s 競走\\", "E: User: Not found D:/Games/%s 競走\\"));
@@ -76,13 +73,11 @@ TEST_F(UserProvidedLocationFinderTest, AFolderWithoutTheExecutablesIsToldAsAnErr
 TEST_F(UserProvidedLocationFinderTest, AnEmptyKeySwitchesItOff) {
     pc.file("D:\\Games\\X\\a.exe");
     for (const char* key : {"", " \t"}) {
-        location = usedLocation();
         auto off = finder(key, {"a.exe"});
         off.setUserLocation("D:\\Games\\X");
         EXPECT_EQ(off.userLocation(), "");
         EXPECT_FALSE(off.userLocation().isNull()) << "empty, as an empty text is";
-        EXPECT_FALSE(off.find(location));
-        EXPECT_EQ(location, GameLocation());
+        EXPECT_EQ(ask(off), failedIn(""));
     }
     EXPECT_THAT(settings()->allKeys(), IsEmpty()) << "nothing is written";
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
@@ -181,15 +176,13 @@ TEST_F(UserProvidedLocationFinderTest, AMultiFinderStopsAtARememberedFolderThatF
         QStringList notes;
         std::unique_ptr<IGameFinder> behind =
             std::make_unique<ScriptedFinder>("behind", ScriptedFinder::Script{true, "", "D:\\Behind"}, &notes);
-        return Finders::MultiFinder(std::move(chosenFirst), std::move(behind), nullptr, nullptr, nullptr, nullptr,
-                                    nullptr, nullptr, nullptr, nullptr, nullptr)
-            .find(location);
+        return ask(Finders::MultiFinder(std::move(chosenFirst), std::move(behind), nullptr, nullptr, nullptr, nullptr,
+                                        nullptr, nullptr, nullptr, nullptr, nullptr));
     };
     EXPECT_TRUE(findInMulti()) << "with nothing remembered the next one is asked";
     EXPECT_EQ(location.installFolder, "D:\\Behind");
     store("K", "D:\\Chosen");
-    EXPECT_FALSE(findInMulti());
-    EXPECT_EQ(location, failedIn("D:\\Chosen"));
+    EXPECT_EQ(findInMulti(), failedIn("D:\\Chosen"));
 }
 
 TEST_F(UserProvidedLocationFinderTest, TheFactoryMakesIt) {

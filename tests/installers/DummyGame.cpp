@@ -26,22 +26,21 @@ QString folderAsFound(Registered registered, const QString& folder) {
 
 } // namespace
 
-GameLocation DummyGame::registeredIn(const QString& folder) const {
+Answer DummyGame::registeredIn(const QString& folder) const {
     const QString found = folderAsFound(registered, folder);
     const QString game = found + '\\' + executable;
-    return {game, game, {game, found + '\\' + editor()}, found, false};
+    return foundIn(found, {game, found + '\\' + editor()});
 }
 
-GameLocation DummyGame::missedIn(const QString& folder) const {
+Answer DummyGame::missedIn(const QString& folder) const {
     // The uninstaller's folder is looked in last; Windows Installer tells of none.
     const bool hasUninstaller = registered != Registered::FolderWithSeparator;
-    return {{}, {}, {}, folderAsFound(hasUninstaller ? Registered::Uninstaller : registered, folder), false};
+    return failedIn(folderAsFound(hasUninstaller ? Registered::Uninstaller : registered, folder));
 }
 
-GameLocation DummyGame::linkedIn(const QString& folder) const {
+Answer DummyGame::linkedIn(const QString& folder) const {
     const QString found = QDir::fromNativeSeparators(folder);
-    const QString game = found + '/' + executable;
-    return {game, game, {game}, found, false};
+    return foundIn(found, {found + '/' + executable});
 }
 
 std::vector<DummyGame> dummyGames() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/GameLocation.h"
+#include "core/Locations.h"
 
 #include <QSettings>
 #include <QString>
@@ -32,13 +32,13 @@ struct DummyGame {
     static QString editor() { return "tools\\editor.exe"; }
 
     /// What is found in the registry when the game is installed in `folder`.
-    GameLocation registeredIn(const QString& folder) const;
+    Answer registeredIn(const QString& folder) const;
 
-    /// What is left in a record when the game was looked for in `folder` in vain.
-    GameLocation missedIn(const QString& folder) const;
+    /// What is left when the game was looked for in `folder` in vain.
+    Answer missedIn(const QString& folder) const;
 
     /// What is found by the shortcut when the game is installed in `folder`.
-    GameLocation linkedIn(const QString& folder) const;
+    Answer linkedIn(const QString& folder) const;
 };
 
 std::vector<DummyGame> dummyGames();

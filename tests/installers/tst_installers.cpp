@@ -1,6 +1,5 @@
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
-#include "core/Locations.h"
 #include "installers/DummyGame.h"
 #include "installers/Installation.h"
 #include "installers/Running.h"
@@ -22,29 +21,6 @@ namespace {
 constexpr int equalNames = 0;
 constexpr int containedName = 1;
 
-/// What a finder returned and made of a record that was used before.
-struct Answer {
-    bool found = false;
-    GameLocation location = usedLocation();
-};
-
-bool operator==(const Answer& left, const Answer& right) {
-    return left.found == right.found && left.location == right.location;
-}
-
-void PrintTo(const Answer& answer, std::ostream* stream) {
-    *stream << (answer.found ? "found " : "not found ");
-    PrintTo(answer.location, stream);
-}
-
-const Answer knowsNothing{};
-
-Answer ask(IGameFinder& finder) {
-    Answer answer;
-    answer.found = finder.find(answer.location);
-    return answer;
-}
-
 /// A game's own words: the path of the file that runs.
 QString run(const GameLocation& location) {
     constexpr int playedStatus = 42;
@@ -61,18 +37,18 @@ class InstalledGameTest : public ::testing::TestWithParam<DummyGame> {
 protected:
     InstalledGameTest() {
         const auto factory = plugin.create();
-        EXPECT_EQ(askRegistry(*factory), knowsNothing) << "before the installation";
-        EXPECT_EQ(askStartMenu(*factory), knowsNothing) << "before the installation";
+        EXPECT_EQ(askRegistry(*factory), leftAlone()) << "before the installation";
+        EXPECT_EQ(askStartMenu(*factory), leftAlone()) << "before the installation";
     }
 
     Answer askRegistry(IGameFinderFactory& factory, int matchMode = equalNames) const {
         const QStringList executables{"not there.exe", game.executable, DummyGame::editor()};
-        return ask(*factory.createUninstallFinder(nameFor(matchMode), executables, matchMode));
+        return answerOf(*factory.createUninstallFinder(nameFor(matchMode), executables, matchMode));
     }
 
     Answer askStartMenu(IGameFinderFactory& factory, int matchMode = equalNames) const {
         const QStringList executables{"not there.exe", game.executable};
-        return ask(*factory.createStartMenuFinder(nameFor(matchMode), executables, matchMode));
+        return answerOf(*factory.createStartMenuFinder(nameFor(matchMode), executables, matchMode));
     }
 
     QString otherFolder() const { return "D:\\Größere Platte\\" + game.id; }
@@ -101,7 +77,7 @@ std::string nameOf(const ::testing::TestParamInfo<DummyGame>& info) {
 TEST_P(InstalledGameTest, IsFoundInTheUninstallRegistry) {
     const Installation installation(game);
     const auto factory = plugin.create();
-    const Answer expected{true, game.registeredIn(installation.folder())};
+    const Answer expected = game.registeredIn(installation.folder());
     const Answer answer = askRegistry(*factory);
     EXPECT_EQ(answer, expected);
     EXPECT_EQ(askRegistry(*factory, containedName), expected);
@@ -111,18 +87,18 @@ TEST_P(InstalledGameTest, IsFoundInTheUninstallRegistry) {
 TEST_P(InstalledGameTest, IsGoneForANewFactoryWhenUninstalled) {
     Installation installation(game);
     const auto factory = plugin.create();
-    EXPECT_EQ(askRegistry(*factory), (Answer{true, game.registeredIn(installation.folder())}));
+    EXPECT_EQ(askRegistry(*factory), game.registeredIn(installation.folder()));
     installation.uninstall();
-    EXPECT_EQ(askRegistry(*factory), (Answer{false, game.missedIn(installation.folder())})) << "keeps its list";
-    EXPECT_EQ(askRegistry(*plugin.create()), knowsNothing);
-    EXPECT_EQ(askRegistry(*plugin.create(), containedName), knowsNothing);
+    EXPECT_EQ(askRegistry(*factory), game.missedIn(installation.folder())) << "keeps its list";
+    EXPECT_EQ(askRegistry(*plugin.create()), leftAlone());
+    EXPECT_EQ(askRegistry(*plugin.create(), containedName), leftAlone());
 }
 
 TEST_P(InstalledGameTest, IsFoundWhereItIsInstalledAgain) {
     Installation(game).uninstall();
     const Installation installation(game, otherFolder());
     const Answer answer = askRegistry(*plugin.create());
-    EXPECT_EQ(answer, (Answer{true, game.registeredIn(otherFolder())}));
+    EXPECT_EQ(answer, game.registeredIn(otherFolder()));
     EXPECT_EQ(run(answer.location), otherFolder() + '\\' + game.executable);
 }
 
@@ -132,7 +108,7 @@ TEST_P(LinkedGameTest, IsFoundByItsShortcut) {
     const Installation installation(game);
     EXPECT_TRUE(installation.hasShortcut());
     const auto factory = plugin.create();
-    const Answer expected{true, game.linkedIn(installation.folder())};
+    const Answer expected = game.linkedIn(installation.folder());
     const Answer answer = askStartMenu(*factory);
     EXPECT_EQ(answer, expected);
     EXPECT_EQ(askStartMenu(*factory, containedName), expected);
@@ -144,16 +120,16 @@ TEST_P(LinkedGameTest, IsGoneForANewFactoryWhenUninstalled) {
     const auto factory = plugin.create();
     EXPECT_TRUE(askStartMenu(*factory).found);
     installation.uninstall();
-    EXPECT_EQ(askStartMenu(*factory), (Answer{false, {}})) << "keeps its list";
-    EXPECT_EQ(askStartMenu(*plugin.create()), knowsNothing);
-    EXPECT_EQ(askStartMenu(*plugin.create(), containedName), knowsNothing);
+    EXPECT_EQ(askStartMenu(*factory), failedIn("")) << "keeps its list";
+    EXPECT_EQ(askStartMenu(*plugin.create()), leftAlone());
+    EXPECT_EQ(askStartMenu(*plugin.create(), containedName), leftAlone());
 }
 
 TEST_P(LinkedGameTest, IsFoundWhereItIsInstalledAgain) {
     Installation(game).uninstall();
     const Installation installation(game, otherFolder());
     const Answer answer = askStartMenu(*plugin.create());
-    EXPECT_EQ(answer, (Answer{true, game.linkedIn(otherFolder())}));
+    EXPECT_EQ(answer, game.linkedIn(otherFolder()));
     EXPECT_EQ(run(answer.location), otherFolder() + '\\' + game.executable);
 }
 

@@ -60,9 +60,8 @@ TEST_F(SteamFactoryTest, MakesSteamFinders) {
     const auto factory = plugin.create();
     const auto finder = factory->createSteamFinder("440", "Game", {"game.exe"});
     ASSERT_TRUE(finder);
-    EXPECT_TRUE(finder->find(location));
-    EXPECT_EQ(location, startedBy("steam://launch/440", "C:/Steam/steamapps/common/Game",
-                                  {"C:/Steam/steamapps/common/Game\\game.exe"}));
+    EXPECT_EQ(answerOf(*finder), startedBy("steam://launch/440", "C:/Steam/steamapps/common/Game",
+                                           {"C:/Steam/steamapps/common/Game\\game.exe"}));
     EXPECT_THAT(pc.messages(logName), ElementsAre("A: Steam: Found 440"));
     EXPECT_TRUE(factory->createSteamFinder("440", "Game", {"game.exe"})->find(location));
     EXPECT_EQ(pc.log("Quorvan.Finders.SteamGames").count("LOG CREATED"), 1) << "one index for all";

@@ -24,11 +24,10 @@ protected:
         pc.shellFolder(Platform::csidlCommonStartMenu, "C:\\All Users' Menu");
     }
 
-    bool find(const QString& appId, const QString& folderName, const QStringList& executables) {
+    Answer find(const QString& appId, const QString& folderName, const QStringList& executables) {
         UninstallIndex uninstallIndex;
         SteamLibraryIndex steamIndex;
-        return Finders::SteamFinder(&logger, &uninstallIndex, &steamIndex, appId, folderName, executables)
-            .find(location);
+        return ask(Finders::SteamFinder(&logger, &uninstallIndex, &steamIndex, appId, folderName, executables));
     }
 
     void installSteam() {
@@ -48,10 +47,10 @@ TEST_F(SteamFinderTest, FindsAGameByItsUninstallEntryWithoutTheClient) {
     pc.file("D:\\Library\\steamapps\\common\\Game\\bin\\game.exe");
     pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
     addEntry("440", " D:\\Library\\steamapps\\common\\Game\t");
-    EXPECT_TRUE(find("440", "", {"bin\\game.exe", "missing.exe", "game.exe"}));
-    EXPECT_EQ(location, startedBy("steam://launch/440", "D:\\Library\\steamapps\\common\\Game",
-                                  {"D:\\Library\\steamapps\\common\\Game\\bin\\game.exe",
-                                   "D:\\Library\\steamapps\\common\\Game\\game.exe"}));
+    EXPECT_EQ(find("440", "", {"bin\\game.exe", "missing.exe", "game.exe"}),
+              startedBy("steam://launch/440", "D:\\Library\\steamapps\\common\\Game",
+                        {"D:\\Library\\steamapps\\common\\Game\\bin\\game.exe",
+                         "D:\\Library\\steamapps\\common\\Game\\game.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Steam: Found 440"));
 }
 
@@ -60,10 +59,10 @@ TEST_F(SteamFinderTest, FindsAGameInALibrary) {
     pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
     pc.file("D:\\Library\\steamapps\\common\\A Game\\bin\\game.exe");
     pc.file("D:\\Library\\steamapps\\common\\A Game\\game.exe");
-    EXPECT_TRUE(find("440", "A Game", {"missing.exe", "bin\\game.exe", "game.exe"}));
-    EXPECT_EQ(location, startedBy("steam://launch/440", "D:/Library/steamapps/common/A Game",
-                                  {"D:/Library/steamapps/common/A Game\\bin\\game.exe",
-                                   "D:/Library/steamapps/common/A Game\\game.exe"}));
+    EXPECT_EQ(find("440", "A Game", {"missing.exe", "bin\\game.exe", "game.exe"}),
+              startedBy("steam://launch/440", "D:/Library/steamapps/common/A Game",
+                        {"D:/Library/steamapps/common/A Game\\bin\\game.exe",
+                         "D:/Library/steamapps/common/A Game\\game.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: Steam: Found 440"));
 }
 
@@ -81,8 +80,7 @@ TEST_F(SteamFinderTest, TheUninstallEntryComesBeforeTheLibraries) {
 TEST_F(SteamFinderTest, AnEntryWithoutAnUninstallerIsIgnored) {
     pc.file("E:\\Game\\game.exe");
     addEntry("440", "E:\\Game", "");
-    EXPECT_FALSE(find("440", "", {"game.exe"}));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("440", "", {"game.exe"}), leftAlone());
 }
 
 TEST_F(SteamFinderTest, AnEntryThatLeadsNowhereIsPassedOver) {
@@ -112,8 +110,7 @@ TEST_F(SteamFinderTest, IdentifiersAreComparedAsText) {
     pc.file("E:\\Game\\game.exe");
     addEntry("440a", "E:\\Game");
     for (const char* id : {"0440", "44", "440 ", "440A", ""}) {
-        EXPECT_FALSE(find(id, "Game", {"game.exe"})) << id;
-        EXPECT_EQ(location, usedLocation()) << id;
+        EXPECT_EQ(find(id, "Game", {"game.exe"}), leftAlone()) << id;
     }
     EXPECT_TRUE(find("440a", "Game", {"game.exe"}));
     EXPECT_EQ(location.launchCommand, "steam://launch/440a");
@@ -141,38 +138,30 @@ TEST_F(SteamFinderTest, WithoutAFolderNameTheLibrariesAreNotSearched) {
     installSteam();
     pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
     pc.file("D:\\Library\\steamapps\\common\\game.exe");
-    EXPECT_FALSE(find("440", "", {"game.exe"}));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("440", "", {"game.exe"}), leftAlone());
     EXPECT_EQ(pc.log("Quorvan.Finders.SteamGames"), "") << "nor is their index built";
 }
 
 TEST_F(SteamFinderTest, AFailedSearchLeavesTheLastFolderTried) {
     installSteam();
-    EXPECT_FALSE(find("440", "Game", {"game.exe"}));
-    EXPECT_EQ(location, usedLocation()) << "none was tried";
+    EXPECT_EQ(find("440", "Game", {"game.exe"}), leftAlone()) << "none was tried";
 
     addEntry("440", " E:\\Gone ");
-    EXPECT_FALSE(find("440", "Game", {"game.exe"}));
-    EXPECT_EQ(location, failedIn("E:\\Gone"));
+    EXPECT_EQ(find("440", "Game", {"game.exe"}), failedIn("E:\\Gone"));
 
-    location = usedLocation();
     pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
-    EXPECT_FALSE(find("440", "Game", {"game.exe"}));
-    EXPECT_EQ(location, failedIn("D:/Library/steamapps/common/Game"));
+    EXPECT_EQ(find("440", "Game", {"game.exe"}), failedIn("D:/Library/steamapps/common/Game"));
 
-    location = usedLocation();
     addEntry("441", "");
     addProgram(pc, {"Steam App 441", {}, " ", {}});
-    EXPECT_FALSE(find("441", "", {"tmp", "Windows"})) << "which exist at the root of the drive";
-    EXPECT_EQ(location, failedIn(""));
+    EXPECT_EQ(find("441", "", {"tmp", "Windows"}), failedIn("")) << "which exist at the root of the drive";
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
 TEST_F(SteamFinderTest, WithoutExecutablesNothingIsFound) {
     pc.folder("E:\\Game");
     addEntry("440", "E:\\Game");
-    EXPECT_FALSE(find("440", "Game", {}));
-    EXPECT_EQ(location, failedIn("E:\\Game"));
+    EXPECT_EQ(find("440", "Game", {}), failedIn("E:\\Game"));
 }
 
 TEST_F(SteamFinderTest, TheFolderNameMayBeAPath) {

@@ -41,7 +41,7 @@ TEST_F(SteamVrAlternativeFinderTest, FindsSteamVrByItsMonitor) {
     registerCommand("steamvr", "\"C:\\Steam\\steam.exe\" \"%1\"");
     registerCommand("vrmonitor", monitor);
     EXPECT_TRUE(find());
-    EXPECT_EQ(location, foundIn(steamVr, {server}));
+    EXPECT_EQ(location, foundIn(steamVr, {server}).location);
     EXPECT_THAT(log.messages(), ElementsAre("info: VrUrlHandler Path: \"C:\\Steam\\steam.exe\" \"%1\"",
                                             "info: VrMonitor Path: " + monitor));
     EXPECT_THAT(pc.messages("Test"), IsEmpty()) << "nothing goes to the finders' log";

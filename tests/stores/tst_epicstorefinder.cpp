@@ -21,8 +21,8 @@ constexpr int contains = 1;
 
 class EpicStoreFinderTest : public FinderTest {
 protected:
-    bool find(const QString& name, const QStringList& executables, int matchMode) {
-        return Finders::EpicStoreFinder(&logger, &index, name, executables, matchMode).find(location);
+    Answer find(const QString& name, const QStringList& executables, int matchMode) {
+        return ask(Finders::EpicStoreFinder(&logger, &index, name, executables, matchMode));
     }
 
     EpicManifestIndex index;
@@ -32,9 +32,9 @@ TEST_F(EpicStoreFinderTest, FindsEveryExecutableAndStartsTheGameThroughTheLaunch
     pc.file("D:\\Epic\\Kiwi\\Bin\\Kiwi.exe");
     pc.file("D:\\Epic\\Kiwi\\Server.exe");
     addEpicApp(pc, "1.item", {"KiwiApp", "Kiwi Racer", "D:\\Epic\\Kiwi", "0a1b", "c2d3"});
-    EXPECT_TRUE(find("kiwi racer", {"Bin\\Kiwi.exe", "gone.exe", "Server.exe"}, equals));
-    EXPECT_EQ(location, startedBy("com.epicgames.launcher://apps/0a1b%3Ac2d3%3AKiwiApp?action=launch&silent=true",
-                                  "D:\\Epic\\Kiwi", {"D:\\Epic\\Kiwi\\Bin\\Kiwi.exe", "D:\\Epic\\Kiwi\\Server.exe"}));
+    EXPECT_EQ(find("kiwi racer", {"Bin\\Kiwi.exe", "gone.exe", "Server.exe"}, equals),
+              startedBy("com.epicgames.launcher://apps/0a1b%3Ac2d3%3AKiwiApp?action=launch&silent=true",
+                        "D:\\Epic\\Kiwi", {"D:\\Epic\\Kiwi\\Bin\\Kiwi.exe", "D:\\Epic\\Kiwi\\Server.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Bin\\Kiwi.exe",
                                                  "A: EpicStore: Found D:\\Epic\\Kiwi: D:\\Epic\\Kiwi\\Server.exe"));
 }
@@ -42,23 +42,20 @@ TEST_F(EpicStoreFinderTest, FindsEveryExecutableAndStartsTheGameThroughTheLaunch
 TEST_F(EpicStoreFinderTest, AnEmptyNameIsNotSearched) {
     addEpicApp(pc, "1.item", {"Kiwi", "", "D:\\Kiwi"});
     pc.file("D:\\Kiwi\\a.exe");
-    EXPECT_FALSE(find("", {"a.exe"}, equals));
-    EXPECT_FALSE(find("", {"a.exe"}, contains));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("", {"a.exe"}, equals), leftAlone());
+    EXPECT_EQ(find("", {"a.exe"}, contains), leftAlone());
     EXPECT_EQ(pc.log("Quorvan.Finders.EpicStore"), "") << "the index is not built";
 }
 
 TEST_F(EpicStoreFinderTest, LeavesTheLocationAloneWhenNoAppHasTheName) {
-    EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals)) << "an empty index";
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("Kiwi", {"a.exe"}, equals), leftAlone()) << "an empty index";
 }
 
 TEST_F(EpicStoreFinderTest, TheMatchModeSaysHowTheNameMustFit) {
     pc.file("D:\\W\\w.exe");
     addEpicApp(pc, "1.item", {"W", "Warhammer", "D:\\W"});
-    EXPECT_FALSE(find("war", {"w.exe"}, equals));
-    EXPECT_FALSE(find("war", {"w.exe"}, 2));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("war", {"w.exe"}, equals), leftAlone());
+    EXPECT_EQ(find("war", {"w.exe"}, 2), leftAlone());
     EXPECT_TRUE(find("war", {"w.exe"}, contains));
     EXPECT_TRUE(find("WARHAMMER", {"w.exe"}, equals));
     EXPECT_TRUE(find("WARHAMMER", {"w.exe"}, 2));
@@ -67,8 +64,7 @@ TEST_F(EpicStoreFinderTest, TheMatchModeSaysHowTheNameMustFit) {
 
 TEST_F(EpicStoreFinderTest, AnAppWithoutAPlaceLeavesTheLocationAlone) {
     addEpicApp(pc, "1.item", {"Kiwi", "Kiwi", ""});
-    EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("Kiwi", {"a.exe"}, equals), leftAlone());
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
@@ -90,8 +86,7 @@ TEST_F(EpicStoreFinderTest, AFailedSearchKeepsTheLastPlace) {
     addEpicApp(pc, "1.item", {"1", "Kiwi", "D:\\1"});
     addEpicApp(pc, "2.item", {"2", "Kiwi", "D:/2\\"});
     addEpicApp(pc, "3.item", {"3", "Kiwi", ""});
-    EXPECT_FALSE(find("Kiwi", {"a.exe"}, equals));
-    EXPECT_EQ(location, failedIn("D:/2\\"));
+    EXPECT_EQ(find("Kiwi", {"a.exe"}, equals), failedIn("D:/2\\"));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: EpicStore: Not found D:\\1", "A: EpicStore: Not found D:/2\\"));
 }
 

@@ -25,8 +25,8 @@ protected:
         pc.file(folder + "\\Manifests\\kite.json.mini");
     }
 
-    bool find(const QString& appId, const QStringList& executables, const QString& softwareFolder) {
-        return Finders::OculusStoreFinder(&logger, &index, appId, executables, softwareFolder).find(location);
+    Answer find(const QString& appId, const QStringList& executables, const QString& softwareFolder) {
+        return ask(Finders::OculusStoreFinder(&logger, &index, appId, executables, softwareFolder));
     }
 
     OculusLibraryIndex index;
@@ -36,8 +36,7 @@ TEST_F(OculusStoreFinderTest, FindsEveryExecutableInTheGamesFolder) {
     addLibrary("{1}", "D:\\Oculus Apps");
     pc.file("D:\\Oculus Apps\\Software\\some-game\\Game.exe");
     pc.file("D:\\Oculus Apps\\Software\\some-game\\bin\\Server.exe");
-    EXPECT_TRUE(find("kite", {"Game.exe", "gone.exe", "bin\\Server.exe"}, "some-game"));
-    EXPECT_EQ(location,
+    EXPECT_EQ(find("kite", {"Game.exe", "gone.exe", "bin\\Server.exe"}, "some-game"),
               foundIn("D:/Oculus Apps/Software/some-game", {"D:/Oculus Apps/Software/some-game\\Game.exe",
                                                             "D:/Oculus Apps/Software/some-game\\bin\\Server.exe"}));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: OculusStore: D:/Oculus Apps/Software/some-game\\Game.exe",
@@ -57,29 +56,25 @@ TEST_F(OculusStoreFinderTest, FindsAGameInALibraryOnAVolumePath) {
 TEST_F(OculusStoreFinderTest, AnEmptySoftwareFolderIsNotSearched) {
     addLibrary("{1}", "D:\\Apps");
     pc.file("D:\\Apps\\Software\\k.exe");
-    EXPECT_FALSE(find("kite", {"k.exe"}, ""));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("kite", {"k.exe"}, ""), leftAlone());
     EXPECT_EQ(pc.log("Quorvan.Finders.OculusStore"), "") << "the index is not built";
 }
 
 TEST_F(OculusStoreFinderTest, LeavesTheLocationAloneWhenNoLibraryHasTheApp) {
-    EXPECT_FALSE(find("kite", {"k.exe"}, "kite")) << "no library";
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find("kite", {"k.exe"}, "kite"), leftAlone()) << "no library";
 
     addLibrary("{1}", "D:\\Apps");
     pc.file("D:\\Apps\\Software\\kite\\k.exe");
     OculusLibraryIndex built;
     for (const char* appId : {"other", "KITE", "kit", ""}) {
-        EXPECT_FALSE(Finders::OculusStoreFinder(&logger, &built, appId, {"k.exe"}, "kite").find(location)) << appId;
-        EXPECT_EQ(location, usedLocation()) << appId;
+        EXPECT_EQ(ask(Finders::OculusStoreFinder(&logger, &built, appId, {"k.exe"}, "kite")), leftAlone()) << appId;
     }
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
 TEST_F(OculusStoreFinderTest, AMissingGameFolderLeavesThePartOfTheWayThatExists) {
     addLibrary("{1}", "D:\\Apps");
-    EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
-    EXPECT_EQ(location, failedIn("D:/Apps/Software"));
+    EXPECT_EQ(find("kite", {"k.exe"}, "kite"), failedIn("D:/Apps/Software"));
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
 }
 
@@ -95,17 +90,14 @@ TEST_F(OculusStoreFinderTest, AFileNamedSoftwareEndsTheWayInTheLibrary) {
     pc.file("D:\\Apps\\Software");
     addOculusLibrary(pc, "{1}", "D:\\Apps");
     pc.file("D:\\Apps\\Manifests\\kite.json.mini");
-    EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
-    EXPECT_EQ(location, failedIn("D:/Apps"));
+    EXPECT_EQ(find("kite", {"k.exe"}, "kite"), failedIn("D:/Apps"));
 }
 
 TEST_F(OculusStoreFinderTest, ResetsTheLocationWhenNoExecutableExists) {
     addLibrary("{1}", "D:\\Apps");
     pc.folder("D:\\Apps\\Software\\kite");
     for (const QStringList& executables : {QStringList{"gone.exe"}, QStringList{"", ""}, QStringList{}}) {
-        location = usedLocation();
-        EXPECT_FALSE(find("kite", executables, "kite"));
-        EXPECT_EQ(location, failedIn("D:/Apps/Software/kite"));
+        EXPECT_EQ(find("kite", executables, "kite"), failedIn("D:/Apps/Software/kite"));
     }
 }
 
@@ -133,8 +125,7 @@ TEST_F(OculusStoreFinderTest, AFailedSearchKeepsTheLastFolder) {
     addLibrary("{1}", "C:\\1");
     addLibrary("{2}", "D:\\2");
     pc.folder("C:\\1\\Software\\kite");
-    EXPECT_FALSE(find("kite", {"k.exe"}, "kite"));
-    EXPECT_EQ(location, failedIn("D:/2/Software"));
+    EXPECT_EQ(find("kite", {"k.exe"}, "kite"), failedIn("D:/2/Software"));
 }
 
 TEST_F(OculusStoreFinderTest, TheSoftwareFolderMayBeAPath) {

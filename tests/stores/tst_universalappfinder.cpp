@@ -17,8 +17,7 @@ using UniversalAppFinderTest = FinderTest;
 TEST_F(UniversalAppFinderTest, LeavesTheLocationAloneWhenThereIsNoPackage) {
     Finders::UniversalAppFinder finder(&logger, "Käfer.競走_%s");
     EXPECT_FALSE(finder.find(location));
-    EXPECT_FALSE(finder.find(location)) << "it asks every time";
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(ask(finder), leftAlone()) << "it asks every time";
     EXPECT_FALSE(Finders::UniversalAppFinder(&logger, "").find(location));
     EXPECT_THAT(pc.messages("Test"), ElementsAre("A: UAPP: Not found 'Käfer.競走_%s'",
                                                  "A: UAPP: Not found 'Käfer.競走_%s'", "A: UAPP: Not found ''"));
@@ -28,8 +27,7 @@ TEST_F(UniversalAppFinderTest, TheFactoryMakesIt) {
     const PluginUnderTest plugin;
     const auto factory = plugin.create();
     const auto finder = factory->createUniversalAppFinder("Bolt.Kite_abc123");
-    EXPECT_FALSE(finder->find(location));
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(ask(*finder), leftAlone());
     EXPECT_EQ(finder->userLocation(), "");
     EXPECT_THAT(pc.messages("Quorvan.Finders"), ElementsAre("A: UAPP: Not found 'Bolt.Kite_abc123'"));
 }
