@@ -1,4 +1,3 @@
-#include "common/recorded/RecordingFolder.h"
 #include "platform/Registry.h"
 #include "platform/recorded/RegistryQuestions.h"
 
@@ -10,18 +9,8 @@ namespace {
 using namespace RegistryQuestions;
 using Platform::RootKey;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
-class RegistryViewTest : public ::testing::Test {
-protected:
-    void record(const QByteArray& lines) {
-        pc.registry(lines);
-        pc.choose();
-        EXPECT_THAT(Recordings::readRecording(pc.path({})).problems, IsEmpty());
-    }
-
-    RecordingFolder pc;
-};
+using RegistryViewTest = RecordedRegistry;
 
 TEST_F(RegistryViewTest, SeparatesTheViewsOfTheMachinesSoftware) {
     record("[HKEY_LOCAL_MACHINE\\Software\\X]\r\n@=\"64\"\r\n[HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\X]\r\n@="
@@ -41,33 +30,12 @@ TEST_F(RegistryViewTest, DoesNotFallBackToTheOtherView) {
     EXPECT_EQ(open(RootKey::LocalMachine, "Software\\only32", view64), Platform::errorFileNotFound);
 }
 
-TEST_F(RegistryViewTest, SharesWhatWindowsShares) {
-    record("[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\x.exe]\r\n"
-           "[HKEY_LOCAL_MACHINE\\Software\\Policies\\X]\r\n[HKEY_LOCAL_MACHINE\\System\\X]\r\n"
-           "[HKEY_LOCAL_MACHINE\\Software\\PoliciesX]\r\n");
-    for (const quint32 view : {view64, view32}) {
-        EXPECT_EQ(open(RootKey::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\X.EXE", view),
-                  0U);
-        EXPECT_EQ(open(RootKey::LocalMachine, "Software\\policies\\X", view), 0U);
-        EXPECT_EQ(open(RootKey::LocalMachine, "System\\X", view), 0U);
-    }
-    EXPECT_EQ(open(RootKey::LocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion", view32),
-              Platform::errorFileNotFound);
-    EXPECT_EQ(open(RootKey::LocalMachine, "Software\\PoliciesX", view32), Platform::errorFileNotFound);
-}
-
 TEST_F(RegistryViewTest, FilesAnExportOfASharedKeyWhereItBelongs) {
     record("[HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Policies\\X]\r\n@=\"1\"\r\n"
            "[HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\Classes\\CLSID\\Y]\r\n@=\"2\"\r\n");
     EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Policies\\X", "", view64), "1");
     EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Classes\\CLSID\\Y", "", view32), "2");
     EXPECT_EQ(text(RootKey::LocalMachine, "Software\\Classes\\CLSID\\Y", "", view64), "error 2");
-}
-
-TEST_F(RegistryViewTest, SharesTheUsersSoftware) {
-    record("[HKEY_CURRENT_USER\\Software\\X]\r\n@=\"1\"\r\n");
-    EXPECT_EQ(text(RootKey::CurrentUser, "Software\\X", "", view64), "1");
-    EXPECT_EQ(text(RootKey::CurrentUser, "Software\\X", "", view32), "1");
 }
 
 TEST_F(RegistryViewTest, SeparatesFewClassesOnly) {

@@ -31,6 +31,10 @@ TEST(StoredPath, SharedKeysAreInOnePlace) {
               "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\x.exe");
     EXPECT_EQ(machine32("Software\\Microsoft\\Windows\\CurrentVersion\\App Paths 2"),
               "Software\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion\\App Paths 2");
+    EXPECT_EQ(machine32("Software\\Microsoft\\Windows\\CurrentVersion"),
+              "Software\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion");
+    EXPECT_EQ(machine32("Software\\policies\\X"), "Software\\policies\\X");
+    EXPECT_EQ(machine32("Software\\PoliciesX"), "Software\\Wow6432Node\\PoliciesX");
     EXPECT_EQ(machine32("Software\\Classes\\steam"), "Software\\Classes\\steam");
     EXPECT_EQ(machine32("Software\\Classes\\CLSID\\{1}"), "Software\\Classes\\Wow6432Node\\CLSID\\{1}");
     EXPECT_EQ(machine64("SOFTWARE\\WOW6432NODE\\classes\\clsid\\{1}"), "SOFTWARE\\classes\\Wow6432Node\\clsid\\{1}");

@@ -148,13 +148,6 @@ TEST_F(LogFileTest, LiesInTheFolderOfItsKind) {
     }
 }
 
-TEST_F(LogFileTest, IsNotRotatedAtTheLimit) {
-    writeOfSize(limit);
-    { const LogFile file("Test", 2, {}); }
-    EXPECT_EQ(read(".bak"), "(missing)");
-    EXPECT_GT(QFileInfo(path()).size(), limit);
-}
-
 TEST_F(LogFileTest, IsRotatedOneByteAboveTheLimit) {
     writeOfSize(limit + 1);
     { const LogFile file("Test", 1, {}); }
@@ -232,24 +225,6 @@ TEST_F(LogFileTest, RotationLosesNothingOfAFileThatAnotherProcessHolds) {
     EXPECT_EQ(both.count("A: second\r\n"), 1);
     EXPECT_EQ(both.count("LOG CREATED"), 2);
     EXPECT_EQ(both.count("LOG DESTROYED"), 2);
-}
-
-TEST_F(LogFileTest, IsNotRotatedAtLevelZeroOrBelow) {
-    for (const qint32 level : {0, -1}) {
-        writeOfSize(limit + 1);
-        { const LogFile file("Test", level, {}); }
-        EXPECT_EQ(read(".bak"), "(missing)");
-        EXPECT_TRUE(read().endsWith("LOG DESTROYED ==============\r\n")) << "the banners are written all the same";
-    }
-}
-
-TEST_F(LogFileTest, TruncatingEmptiesTheFileAndDoesNotRotateIt) {
-    writeOfSize(limit + 1);
-    LogFileOptions options;
-    options.truncate = true;
-    { const LogFile file("Test", 2, options); }
-    EXPECT_EQ(read(".bak"), "(missing)");
-    EXPECT_THAT(lines(), ElementsAre(created, pid(), destroyed));
 }
 
 TEST_F(LogFileTest, UnicodeModeWritesUtf16AfterAByteOrderMark) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/QtPrinters.h"
+#include "common/recorded/RecordingFolder.h"
 #include "platform/Registry.h"
 
 #include <gtest/gtest.h>
@@ -53,5 +54,18 @@ inline std::vector<QString> subKeys(Platform::RootKey root, const QString& path,
         names.push_back(QString::fromUtf16(name.data(), static_cast<int>(length)));
     }
 }
+
+/// A test over a registry that is recorded in a registry file.
+class RecordedRegistry : public ::testing::Test {
+protected:
+    /// Adds these lines to it.
+    void record(const QByteArray& lines) {
+        pc.registry(lines);
+        pc.choose();
+        EXPECT_TRUE(Recordings::readRecording(pc.path({})).problems.empty());
+    }
+
+    RecordingFolder pc;
+};
 
 } // namespace RegistryQuestions

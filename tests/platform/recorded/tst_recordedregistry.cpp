@@ -1,4 +1,3 @@
-#include "common/recorded/RecordingFolder.h"
 #include "platform/Registry.h"
 #include "platform/recorded/RegistryQuestions.h"
 
@@ -6,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <ostream>
 
 namespace {
 
@@ -18,14 +18,26 @@ using ::testing::IsEmpty;
 
 constexpr ErrorCode errorBadPathName = 161;
 
-class RecordedRegistryTest : public ::testing::Test {
-protected:
-    void record(const QByteArray& lines) {
-        pc.registry(lines);
-        pc.choose();
-        EXPECT_THAT(Recordings::readRecording(pc.path({})).problems, IsEmpty());
-    }
+/// What a question for a value comes to.
+struct Reply {
+    ErrorCode result;
+    quint32 type;
+    quint32 size;
+    QByteArray buffer;
+};
 
+bool operator==(const Reply& left, const Reply& right) {
+    return left.result == right.result && left.type == right.type && left.size == right.size &&
+           left.buffer == right.buffer;
+}
+
+void PrintTo(const Reply& reply, std::ostream* stream) {
+    *stream << "error " << reply.result << ", type " << reply.type << ", size " << reply.size << ", buffer "
+            << reply.buffer.toHex(' ').constData();
+}
+
+class RecordedRegistryTest : public RecordedRegistry {
+protected:
     /// Opens the key of a value "a" that has the given form in a .reg file.
     KeyHandle keyWith(const QByteArray& data) {
         record("[HKEY_LOCAL_MACHINE\\A]\r\n\"a\"=" + data + "\r\n");
@@ -34,9 +46,21 @@ protected:
         return key;
     }
 
-    RecordingFolder pc;
-    quint32 type = 99;
-    quint32 size = 0;
+    /// Asks for the value, with what the buffer has before.
+    static Reply query(const KeyHandle& key, QByteArray buffer) {
+        quint32 type = 99;
+        auto size = static_cast<quint32>(buffer.size());
+        const ErrorCode result = Platform::queryValue(key, "a", type, buffer.data(), size);
+        return {result, type, size, buffer};
+    }
+
+    /// The same by the functions for the ANSI code page.
+    static Reply queryNarrow(const KeyHandle& key, const char* name, QByteArray buffer) {
+        quint32 type = 99;
+        auto size = static_cast<quint32>(buffer.size());
+        const ErrorCode result = Platform::queryValueNarrow(key, name, type, buffer.data(), size);
+        return {result, type, size, buffer};
+    }
 };
 
 TEST_F(RecordedRegistryTest, FindsAValueInItsRootOnly) {
@@ -125,97 +149,61 @@ TEST_F(RecordedRegistryTest, KeepsAnOpenKeyWhenAnotherPcIsChosen) {
     const KeyHandle key = keyWith("dword:00000007");
     RecordingFolder other;
     other.choose();
-    quint32 number = 0;
-    size = sizeof number;
-    EXPECT_EQ(Platform::queryValue(key, "a", type, &number, size), Platform::errorSuccess);
-    EXPECT_EQ(number, 7U);
+    EXPECT_EQ(query(key, "xxxx"), (Reply{Platform::errorSuccess, Platform::regDword, 4, QByteArray("\7\0\0\0", 4)}));
 }
 
 // Values
 
 TEST_F(RecordedRegistryTest, TellsTheSizeOfAValueWithoutABuffer) {
     const KeyHandle key = keyWith("\"abc\"");
+    quint32 type = 99;
+    quint32 size = 0;
     EXPECT_EQ(Platform::queryValue(key, "a", type, nullptr, size), Platform::errorSuccess);
     EXPECT_EQ(size, 8U);
     EXPECT_EQ(type, Platform::regSz);
 }
 
-TEST_F(RecordedRegistryTest, LeavesABufferAloneThatIsTooSmall) {
-    const KeyHandle key = keyWith("\"abc\"");
-    QByteArray buffer = "1234567";
-    size = 7;
-    EXPECT_EQ(Platform::queryValue(key, "a", type, buffer.data(), size), Platform::errorMoreData);
-    EXPECT_EQ(size, 8U);
-    EXPECT_EQ(buffer, "1234567");
-}
-
-TEST_F(RecordedRegistryTest, LeavesABufferAloneForAValueOfNoBytes) {
-    const KeyHandle key = keyWith("hex(1):");
-    quint32 number = 0x12345678;
-    size = sizeof number;
-    EXPECT_EQ(Platform::queryValue(key, "a", type, &number, size), Platform::errorSuccess);
-    EXPECT_EQ(size, 0U);
-    EXPECT_EQ(number, 0x12345678U);
+TEST_F(RecordedRegistryTest, LeavesABufferAloneThatIsTooSmallOrForAValueOfNoBytes) {
+    EXPECT_EQ(query(keyWith("\"abc\""), "1234567"), (Reply{Platform::errorMoreData, Platform::regSz, 8, "1234567"}));
+    EXPECT_EQ(query(keyWith("hex(1):"), "1234"), (Reply{Platform::errorSuccess, Platform::regSz, 0, "1234"}));
 }
 
 TEST_F(RecordedRegistryTest, EndsTextThatIsStoredWithoutAnEnd) {
     const KeyHandle key = keyWith("hex(1):41,00,42,00");
-    QByteArray buffer(8, 'x');
-    size = 8;
-    EXPECT_EQ(Platform::queryValue(key, "a", type, buffer.data(), size), Platform::errorSuccess);
-    EXPECT_EQ(size, 4U);
-    EXPECT_EQ(buffer, QByteArray("A\0B\0\0\0xx", 8));
-
-    QByteArray tight(5, 'x');
-    size = 5;
-    EXPECT_EQ(Platform::queryValue(key, "a", type, tight.data(), size), Platform::errorSuccess);
-    EXPECT_EQ(tight, QByteArray("A\0B\0x", 5)) << "there is no room for an end";
+    EXPECT_EQ(query(key, "xxxxxxxx"),
+              (Reply{Platform::errorSuccess, Platform::regSz, 4, QByteArray("A\0B\0\0\0xx", 8)}));
+    EXPECT_EQ(query(key, "xxxxx"), (Reply{Platform::errorSuccess, Platform::regSz, 4, QByteArray("A\0B\0x", 5)}))
+        << "there is no room for an end";
 }
 
 TEST_F(RecordedRegistryTest, GivesBytesOfOtherTypesAsTheyAre) {
-    const KeyHandle key = keyWith("hex(3):01,02");
-    QByteArray buffer(4, 'x');
-    size = 4;
-    EXPECT_EQ(Platform::queryValue(key, "a", type, buffer.data(), size), Platform::errorSuccess);
-    EXPECT_EQ(type, 3U);
-    EXPECT_EQ(buffer, "\x01\x02xx");
+    EXPECT_EQ(query(keyWith("hex(3):01,02"), "xxxx"), (Reply{Platform::errorSuccess, 3, 2, "\x01\x02xx"}));
 }
 
 TEST_F(RecordedRegistryTest, ConvertsTextToTheAnsiCodePage) {
     const KeyHandle key = keyWith("\"Ö€–Ł𝄞\"");
-    QByteArray buffer(10, 'x');
-    size = 10;
-    EXPECT_EQ(Platform::queryValueNarrow(key, "a", type, buffer.data(), size), Platform::errorSuccess);
-    EXPECT_EQ(size, 7U);
-    EXPECT_EQ(buffer, QByteArray("\xD6\x80\x96???\0xxx", 10));
-    size = 6;
-    EXPECT_EQ(Platform::queryValueNarrow(key, "a", type, buffer.data(), size), Platform::errorMoreData);
-    EXPECT_EQ(size, 7U);
+    EXPECT_EQ(queryNarrow(key, "a", "xxxxxxxxxx"),
+              (Reply{Platform::errorSuccess, Platform::regSz, 7, QByteArray("\xD6\x80\x96???\0xxx", 10)}));
+    EXPECT_EQ(queryNarrow(key, "a", "xxxxxx"), (Reply{Platform::errorMoreData, Platform::regSz, 7, "xxxxxx"}));
 }
 
 TEST_F(RecordedRegistryTest, ConvertsTextToTheCodePageThatThePcHas) {
     pc.describe(R"({"codePage": 1250})");
-    const KeyHandle key = keyWith("\"ŁÖ\"");
-    QByteArray buffer(3, 'x');
-    size = 3;
-    EXPECT_EQ(Platform::queryValueNarrow(key, "a", type, buffer.data(), size), Platform::errorSuccess);
-    EXPECT_EQ(buffer, QByteArray("\xA3\xD6\0", 3));
+    EXPECT_EQ(queryNarrow(keyWith("\"ŁÖ\""), "a", "xxx"),
+              (Reply{Platform::errorSuccess, Platform::regSz, 3, QByteArray("\xA3\xD6\0", 3)}));
 }
 
 TEST_F(RecordedRegistryTest, GivesNumbersByAsciiNames) {
     const KeyHandle key = keyWith("dword:01020304");
-    quint32 number = 0;
-    size = sizeof number;
-    EXPECT_EQ(Platform::queryValueNarrow(key, "A", type, &number, size), Platform::errorSuccess);
-    EXPECT_EQ(number, 0x01020304U);
-    EXPECT_EQ(Platform::queryValueNarrow(key, nullptr, type, &number, size), Platform::errorFileNotFound);
+    EXPECT_EQ(queryNarrow(key, "A", "xxxx"), (Reply{Platform::errorSuccess, Platform::regDword, 4, "\4\3\2\1"}));
+    EXPECT_EQ(queryNarrow(key, nullptr, "xxxx").result, Platform::errorFileNotFound);
 }
 
 TEST_F(RecordedRegistryTest, RefusesAKeyThatIsNotOpen) {
     char16_t name[4];
     quint32 length = 4;
-    EXPECT_EQ(Platform::queryValue({}, "a", type, nullptr, size), Platform::errorInvalidHandle);
-    EXPECT_EQ(Platform::queryValueNarrow({}, "a", type, nullptr, size), Platform::errorInvalidHandle);
+    EXPECT_EQ(query({}, "x").result, Platform::errorInvalidHandle);
+    EXPECT_EQ(queryNarrow({}, "a", "x").result, Platform::errorInvalidHandle);
     EXPECT_EQ(Platform::enumKey({}, 0, name, length), Platform::errorInvalidHandle);
 }
 

@@ -95,18 +95,4 @@ TEST_F(ScriptedLoggerTest, ALineThatTheLevelKeepsOutDoesNotOpenTheFile) {
     EXPECT_THAT(asked, ElementsAre("open Test.log at"));
 }
 
-TEST_F(ScriptedLoggerTest, EachLevelHasItsLines) {
-    const std::vector<std::pair<Bytes, QString>> levels{{{0, 0, 0, 0x80}, "A"},
-                                                        {{0xFF, 0xFF, 0xFF, 0xFF}, "A"},
-                                                        {{0, 0, 0, 0}, "A"},
-                                                        {{1, 0, 0, 0}, "AE"},
-                                                        {{2, 0, 0, 0}, "AEW"},
-                                                        {{3, 0, 0, 0}, "AEW"},
-                                                        {{0xFF, 0xFF, 0xFF, 0x7F}, "AEW"}};
-    for (const auto& [bytes, expected] : levels) {
-        have({Platform::errorSuccess, bytes}, {});
-        EXPECT_EQ(letters(), expected);
-    }
-}
-
 } // namespace
