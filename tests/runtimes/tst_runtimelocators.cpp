@@ -2,9 +2,9 @@
 
 #include "support/RegistryKey.h"
 
+#include "common/PcTest.h"
 #include "common/PluginUnderTest.h"
 #include "common/QtPrinters.h"
-#include "common/PcTest.h"
 #include "platform/Registry.h"
 
 #include <QDir>
@@ -29,43 +29,44 @@ TestKey lumavex(char16_t dash, RootKey root = RootKey::CurrentUser) {
 
 constexpr char16_t controlCharacter = 0x0096;
 
-using RuntimeLocatorsTest = PcTest;
+class RuntimeLocatorsTest : public PcTest {
+protected:
+    void installAll() {
+        pc.value(varjo, "InstallDir", "C:\\Program Files\\Varjo");
+        pc.value(openXr, "ActiveRuntime", manifest);
+        pc.value(lumavex(controlCharacter), "", "D:\\Lumavex");
+        pc.environment("OculusBase", "C:\\Oculus");
+        pc.file(oculusLibrary);
+    }
+
+    /// Varjo's, OpenXR's, Lumavex's and Oculus'.
+    static QStringList told() {
+        return {Runtimes::varjoRuntimeFolder(), Runtimes::openXrActiveRuntime(), Runtimes::lumavexStandaloneLocation(),
+                Runtimes::oculusRuntimeFolder()};
+    }
+
+    const QStringList all{"C:\\Program Files\\Varjo", manifest, "D:\\Lumavex", "C:\\Oculus/Support/oculus-runtime"};
+    const QStringList none{"", "", "", ""};
+};
 
 TEST_F(RuntimeLocatorsTest, TellTheInstalledRuntimes) {
-    pc.value(varjo, "InstallDir", "C:\\Program Files\\Varjo");
-    pc.value(openXr, "ActiveRuntime", manifest);
-    pc.value(lumavex(controlCharacter), "", "D:\\Lumavex");
-    pc.environment("OculusBase", "C:\\Oculus");
-    pc.file(oculusLibrary);
-    EXPECT_EQ(Runtimes::varjoRuntimeFolder(), "C:\\Program Files\\Varjo");
-    EXPECT_EQ(Runtimes::openXrActiveRuntime(), manifest) << "though there is no such file";
-    EXPECT_EQ(Runtimes::lumavexStandaloneLocation(), "D:\\Lumavex");
-    EXPECT_EQ(Runtimes::oculusRuntimeFolder(), "C:\\Oculus/Support/oculus-runtime");
-}
-
-TEST_F(RuntimeLocatorsTest, TellNothingWhenNothingIsInstalled) {
-    EXPECT_EQ(Runtimes::varjoRuntimeFolder(), "");
-    EXPECT_EQ(Runtimes::openXrActiveRuntime(), "");
-    EXPECT_EQ(Runtimes::lumavexStandaloneLocation(), "");
-    EXPECT_EQ(Runtimes::oculusRuntimeFolder(), "");
+    EXPECT_EQ(told(), none);
+    installAll();
+    EXPECT_EQ(told(), all) << "though there is no such manifest";
 }
 
 TEST_F(RuntimeLocatorsTest, KeysWithoutTheirValuesTellNothing) {
     for (const TestKey& key : {varjo, openXr, lumavex(controlCharacter)}) {
         pc.value(key, "Other", "C:\\Other");
     }
-    EXPECT_EQ(Runtimes::varjoRuntimeFolder(), "");
-    EXPECT_EQ(Runtimes::openXrActiveRuntime(), "");
-    EXPECT_EQ(Runtimes::lumavexStandaloneLocation(), "");
+    EXPECT_EQ(told(), none);
 }
 
 TEST_F(RuntimeLocatorsTest, BlanksAroundAValueGoAndATrailingSeparatorStays) {
     pc.value(varjo, "InstallDir", " \t C:\\Program Files\\Varjo\\ \r\n");
     pc.value(openXr, "ActiveRuntime", "  " + manifest + ' ');
     pc.value(lumavex(controlCharacter), "", "\tD:/Lumavex/ ");
-    EXPECT_EQ(Runtimes::varjoRuntimeFolder(), "C:\\Program Files\\Varjo\\");
-    EXPECT_EQ(Runtimes::openXrActiveRuntime(), manifest);
-    EXPECT_EQ(Runtimes::lumavexStandaloneLocation(), "D:/Lumavex/");
+    EXPECT_EQ(told(), (QStringList{"C:\\Program Files\\Varjo\\", manifest, "D:/Lumavex/", ""}));
 }
 
 TEST_F(RuntimeLocatorsTest, OnlyTheirOwnRootAndViewAreAsked) {
@@ -78,9 +79,7 @@ TEST_F(RuntimeLocatorsTest, OnlyTheirOwnRootAndViewAreAsked) {
         pc.value(key, "ActiveRuntime", "C:\\Wrong");
     }
     pc.value(lumavex(controlCharacter, RootKey::LocalMachine), "", "C:\\Wrong");
-    EXPECT_EQ(Runtimes::varjoRuntimeFolder(), "");
-    EXPECT_EQ(Runtimes::openXrActiveRuntime(), "");
-    EXPECT_EQ(Runtimes::lumavexStandaloneLocation(), "");
+    EXPECT_EQ(told(), none);
 }
 
 TEST_F(RuntimeLocatorsTest, AValueThatIsNotTextReadsAsTheRegistryStringDoes) {
@@ -140,17 +139,12 @@ TEST_F(RuntimeLocatorsTest, WithoutTheOculusBaseNoLibraryIsLookedFor) {
 }
 
 TEST_F(RuntimeLocatorsTest, TheFactoryForwardsTheQuestions) {
-    pc.value(varjo, "InstallDir", " C:\\Program Files\\Varjo ");
-    pc.value(openXr, "ActiveRuntime", manifest);
-    pc.value(lumavex(controlCharacter), "", "D:\\Lumavex");
-    pc.environment("OculusBase", "C:\\Oculus");
-    pc.file(oculusLibrary);
+    installAll();
     const PluginUnderTest plugin;
     const auto factory = plugin.create();
-    EXPECT_EQ(factory->varjoRuntimeFolder(), "C:\\Program Files\\Varjo");
-    EXPECT_EQ(factory->openXrActiveRuntime(), manifest);
-    EXPECT_EQ(factory->lumavexStandaloneLocation(), "D:\\Lumavex");
-    EXPECT_EQ(factory->oculusRuntimeFolder(), "C:\\Oculus/Support/oculus-runtime");
+    EXPECT_EQ((QStringList{factory->varjoRuntimeFolder(), factory->openXrActiveRuntime(),
+                           factory->lumavexStandaloneLocation(), factory->oculusRuntimeFolder()}),
+              all);
     EXPECT_THAT(pc.messages("Quorvan.Finders"), IsEmpty());
 }
 

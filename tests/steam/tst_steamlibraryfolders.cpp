@@ -109,17 +109,6 @@ TEST_F(SteamLibraryFoldersTest, ListsALibraryAsOftenAsTheFileDoes) {
                 ElementsAre("D:/SteamLibrary/steamapps", "D:/SteamLibrary/steamapps"));
 }
 
-TEST_F(SteamLibraryFoldersTest, AFolderInPlaceOfTheFileListsNone) {
-    pc.folder(path);
-    EXPECT_THAT(parseLibraryFolders(path), IsEmpty());
-}
-
-TEST_F(SteamLibraryFoldersTest, AFileInPlaceOfALibraryIsPassedOver) {
-    pc.file("D:\\file");
-    EXPECT_THAT(parse("\"path\" \"D:\\\\file\"\n\"path\" \"D:\\\\SteamLibrary\"\n"),
-                ElementsAre("D:/SteamLibrary/steamapps"));
-}
-
 TEST_F(SteamLibraryFoldersTest, AFileIsReadToItsEndHoweverLargeItIs) {
     const QByteArray library = "\"path\" \"D:\\\\SteamLibrary\"\n";
     EXPECT_THAT(parse(QByteArray(17 * 1024 * 1024, ' ') + '\n' + library), ElementsAre("D:/SteamLibrary/steamapps"));

@@ -1,12 +1,10 @@
 #include "steam/SteamVrAlternativeFinder.h"
 
-#include "support/Logger.h"
 #include "support/RegistryKey.h"
 
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
 #include "common/TraceLog.h"
-#include "core/Locations.h"
+#include "core/FinderTest.h"
 #include "platform/Registry.h"
 #include "steam/MessageLog.h"
 
@@ -21,27 +19,34 @@ using ::testing::IsEmpty;
 const QString steamVr = "C:\\Program Files (x86)\\Steam\\steamapps\\common\\SteamVR\\";
 const QString server = steamVr + "bin\\win64\\vrserver.exe";
 
-class SteamVrAlternativeFinderTest : public ::testing::Test {
+class SteamVrAlternativeFinderTest : public FinderTest {
 protected:
     void registerCommand(const QString& scheme, const QString& command) {
         pc.value({Platform::RootKey::ClassesRoot, scheme + "\\Shell\\Open\\Command", View::view32}, "", command);
     }
 
-    bool find() { return Finders::SteamVrAlternativeFinder(&logger).find(location); }
+    void install() {
+        pc.file(server);
+        registerCommand("vrmonitor", monitor);
+    }
 
-    TestPc pc;
+    Answer find() { return ask(Finders::SteamVrAlternativeFinder(&logger)); }
+
+    /// The same for a location that is new, which it does not reset.
+    Answer findFromScratch() {
+        Answer answer;
+        answer.found = Finders::SteamVrAlternativeFinder(&logger).find(answer.location);
+        return answer;
+    }
+
     const MessageLog log;
-    Logger logger = Logger::create("Test");
-    GameLocation location;
+    const QString monitor = '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"";
 };
 
 TEST_F(SteamVrAlternativeFinderTest, FindsSteamVrByItsMonitor) {
-    pc.file(server);
-    const QString monitor = '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"";
+    install();
     registerCommand("steamvr", "\"C:\\Steam\\steam.exe\" \"%1\"");
-    registerCommand("vrmonitor", monitor);
-    EXPECT_TRUE(find());
-    EXPECT_EQ(location, foundIn(steamVr, {server}).location);
+    EXPECT_EQ(findFromScratch(), foundIn(steamVr, {server}));
     EXPECT_THAT(log.messages(), ElementsAre("info: VrUrlHandler Path: \"C:\\Steam\\steam.exe\" \"%1\"",
                                             "info: VrMonitor Path: " + monitor));
     EXPECT_THAT(pc.messages("Test"), IsEmpty()) << "nothing goes to the finders' log";
@@ -50,9 +55,7 @@ TEST_F(SteamVrAlternativeFinderTest, FindsSteamVrByItsMonitor) {
 TEST_F(SteamVrAlternativeFinderTest, The32BitMonitorLeadsToThe64BitServer) {
     pc.file(server);
     registerCommand("vrmonitor", '"' + steamVr + "bin\\win32\\vrmonitor.exe\" \"%1\"");
-    EXPECT_TRUE(find());
-    EXPECT_EQ(location.executablePath, server);
-    EXPECT_EQ(location.installFolder, steamVr);
+    EXPECT_EQ(findFromScratch(), foundIn(steamVr, {server}));
 }
 
 TEST_F(SteamVrAlternativeFinderTest, The32BitMonitorIsLookedForFirst) {
@@ -72,55 +75,44 @@ TEST_F(SteamVrAlternativeFinderTest, AnUnquotedCommandIsTakenAsWell) {
 }
 
 TEST_F(SteamVrAlternativeFinderTest, WithoutAMonitorNothingIsFound) {
-    location = usedLocation();
-    EXPECT_FALSE(find());
-    EXPECT_EQ(location, usedLocation());
+    EXPECT_EQ(find(), leftAlone());
     EXPECT_THAT(log.messages(), ElementsAre("info: VrUrlHandler Path: ", "info: VrMonitor Path: "));
 }
 
 TEST_F(SteamVrAlternativeFinderTest, TheMonitorsNameRespectsCase) {
     pc.file(server);
-    location = usedLocation();
     const TraceLog trace;
     for (const char* name : {"bin\\Win64\\vrmonitor.exe", "bin/win64/vrmonitor.exe", "bin\\win64\\vrmonitor", ""}) {
         registerCommand("vrmonitor", '"' + steamVr + name + "\" \"%1\"");
-        EXPECT_FALSE(find()) << name;
-        EXPECT_EQ(location, usedLocation()) << name;
+        EXPECT_EQ(find(), leftAlone()) << name;
     }
     EXPECT_EQ(trace.texts("exists", "path"), QStringList()) << "no server is looked for";
 }
 
 TEST_F(SteamVrAlternativeFinderTest, WithoutTheServerNothingIsFound) {
     pc.file(steamVr + "bin\\win32\\vrserver.exe");
-    registerCommand("vrmonitor", '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"");
-    location = usedLocation();
-    EXPECT_FALSE(find());
-    EXPECT_EQ(location, usedLocation());
+    registerCommand("vrmonitor", monitor);
+    EXPECT_EQ(find(), leftAlone());
 }
 
 TEST_F(SteamVrAlternativeFinderTest, AMonitorOfTheMakersOwnIsRejected) {
     pc.file("C:\\VelTrane\\bin\\win64\\vrserver.exe");
-    const QString monitor = "\"C:\\VelTrane\\bin\\win64\\vrmonitor.exe\" \"%1\"";
-    registerCommand("vrmonitor", monitor);
-    location = usedLocation();
-    EXPECT_FALSE(find());
-    EXPECT_EQ(location, usedLocation());
+    const QString ownMonitor = "\"C:\\VelTrane\\bin\\win64\\vrmonitor.exe\" \"%1\"";
+    registerCommand("vrmonitor", ownMonitor);
+    EXPECT_EQ(find(), leftAlone());
     EXPECT_THAT(log.messages(),
-                ElementsAre("info: VrUrlHandler Path: ", "critical: VrMonitor Incorrect Path: " + monitor));
+                ElementsAre("info: VrUrlHandler Path: ", "critical: VrMonitor Incorrect Path: " + ownMonitor));
 }
 
 TEST_F(SteamVrAlternativeFinderTest, TheUrlHandlerOnlyServesTheLog) {
-    pc.file(server);
+    install();
     registerCommand("steamvr", "C:\\veltrane\\handler.exe");
-    registerCommand("vrmonitor", '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"");
     EXPECT_TRUE(find());
     EXPECT_EQ(log.messages().first(), "critical: VrUrlHandler Incorrect Path: C:\\veltrane\\handler.exe");
 }
 
 TEST_F(SteamVrAlternativeFinderTest, AddsToALocationWithoutResettingIt) {
-    pc.file(server);
-    registerCommand("vrmonitor", '"' + steamVr + "bin\\win64\\vrmonitor.exe\" \"%1\"");
-    location = usedLocation();
+    install();
     EXPECT_TRUE(find());
     EXPECT_EQ(location, (GameLocation{"steam://launch/1",
                                       "C:\\Old\\old.exe",

@@ -149,6 +149,7 @@ TEST_F(EpicManifestIndexTest, OnlyFilesNamedItemAreManifests) {
         addEpicApp(pc, name, {"Plum", "Plum", "D:\\Plum"});
     }
     pc.folder(manifestFolder + "\\e.item");
+    pc.folder(manifestFolder + "\\0.item\\x");
     pc.file(manifestFolder + "\\Pending\\f.item", manifestOf({"Plum", "Plum", "D:\\Plum"}));
     EXPECT_THAT(appNames(), ElementsAre("Kiwi"));
     EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine(), "A:   App: Kiwi | Kiwi"));
@@ -209,14 +210,6 @@ TEST_F(EpicManifestIndexTest, AManifestLargerThanAnyRealOneIsSkipped) {
     const qint64 peak = TestPc::peakMemory();
     EXPECT_GT(peak, largest);
     EXPECT_LT(peak, qint64{1024} * 1024 * 1024) << "less than the third has";
-}
-
-TEST_F(EpicManifestIndexTest, AFolderNamedLikeAManifestIsNone) {
-    addEpicApp(pc, "2.item", {"Plum", "Plum", "D:\\Plum"});
-    pc.folder(manifestFolder + "\\1.item");
-    pc.folder(manifestFolder + "\\3.item\\x");
-    EXPECT_THAT(appNames(), ElementsAre("Plum"));
-    EXPECT_THAT(pc.messages(logName), ElementsAre(folderLine(), "A:   App: Plum | Plum"));
 }
 
 TEST_F(EpicManifestIndexTest, AFileInPlaceOfTheFolderHasNoManifests) {
