@@ -76,35 +76,25 @@ TEST_F(PcJsonTest, DoesWithNothing) {
     const Pc pc = read("{}");
     EXPECT_THAT(problems, IsEmpty());
     EXPECT_FALSE(pc.packages);
+    EXPECT_TRUE(read(R"({"packages": []})").packages) << "none is installed";
     EXPECT_EQ(pc.hostVersion, 0U);
 }
 
-TEST_F(PcJsonTest, KnowsAPcWithoutPackagesFromOneThatCannotHaveAny) {
-    EXPECT_TRUE(read(R"({"packages": []})").packages);
-}
+// Each way in which a description can be wrong.
 
-// One test for each way in which a description can be wrong.
-
-TEST_F(PcJsonTest, ReportsBrokenJson) {
-    read("{\n\"volumes\": {\n  \"C\" \"x\"\n}}");
-    EXPECT_THAT(problems, ElementsAre("3: \":\" is expected"));
-    read("");
-    EXPECT_THAT(problems, ElementsAre("1: a value is expected"));
-}
-
-TEST_F(PcJsonTest, ReportsABackslashThatIsNotDoubled) {
-    read("{\"host\": {\n\"executable\": \"C:\\Host\\host.exe\"}}");
-    EXPECT_THAT(problems, ElementsAre("2: a backslash in a string must be doubled"));
-}
-
-TEST_F(PcJsonTest, ReportsABackslashThatMakesAControlCharacter) {
-    EXPECT_EQ(read("{\"host\": {\n\"executable\": \"C:\\new\"}}").hostExecutable, "");
-    EXPECT_THAT(problems, ElementsAre("2: host.executable: a control character; are all backslashes doubled?"));
-}
-
-TEST_F(PcJsonTest, ReportsSomethingElseThanAnObject) {
-    read("[]");
-    EXPECT_THAT(problems, ElementsAre("1: an object is expected"));
+TEST_F(PcJsonTest, ReportsAFaultWithItsLine) {
+    const std::vector<std::pair<QByteArray, QString>> faults{
+        {"{\n\"volumes\": {\n  \"C\" \"x\"\n}}", "3: \":\" is expected"},
+        {"", "1: a value is expected"},
+        {"{\"host\": {\n\"executable\": \"C:\\Host\\host.exe\"}}", "2: a backslash in a string must be doubled"},
+        {"{\"host\": {\n\"executable\": \"C:\\new\"}}",
+         "2: host.executable: a control character; are all backslashes doubled?"},
+        {"[]", "1: an object is expected"},
+        {"{\n\"hidden\": [\"Games\"]}", "2: hidden: \"Games\" has no drive letter"}};
+    for (const auto& [json, problem] : faults) {
+        EXPECT_EQ(read(json).hostExecutable, "");
+        EXPECT_THAT(problems, ElementsAre(problem)) << json.toStdString();
+    }
 }
 
 TEST_F(PcJsonTest, ReportsUnknownNames) {
@@ -149,11 +139,6 @@ TEST_F(PcJsonTest, ReportsAPackageWithoutItsNames) {
     EXPECT_THAT(problems, ElementsAre("2: packages[0]: a \"family\" and a \"fullName\" are expected",
                                       "2: packages[1]: an object is expected"));
     EXPECT_EQ(pc.packages->size(), 1U);
-}
-
-TEST_F(PcJsonTest, ReportsAPathWithoutADrive) {
-    read("{\n\"hidden\": [\"Games\"]}");
-    EXPECT_THAT(problems, ElementsAre("2: hidden: \"Games\" has no drive letter"));
 }
 
 TEST_F(PcJsonTest, ReportsACodePageThatNobodyKnows) {
