@@ -6,14 +6,19 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 
+#include <ostream>
 #include <vector>
+
+/// So that a failed expectation shows the event.
+inline void PrintTo(const QJsonObject& event, std::ostream* stream) {
+    *stream << QJsonDocument(event).toJson(QJsonDocument::Compact).toStdString();
+}
 
 /// Has the library under test, linked into the test, tell its trace as long as this lives.
 class TraceLog {

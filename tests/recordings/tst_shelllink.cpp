@@ -15,7 +15,6 @@ namespace {
 using Recordings::parseShellLink;
 using Recordings::ShellLink;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 QByteArray number(quint32 value) {
     return {reinterpret_cast<const char*>(&value), sizeof value};

@@ -1,18 +1,19 @@
 #include "support/RegistryKey.h"
 
+#include "common/PcTest.h"
 #include "common/QtPrinters.h"
-#include "common/TestPc.h"
 #include "platform/Registry.h"
+#include "recordings/RegValues.h"
+#include "recordings/Utf16Text.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstring>
-
 namespace {
 
 using Platform::RootKey;
+using Recordings::storedText;
+using Recordings::toUtf16;
 using ::testing::ElementsAre;
 
 constexpr quint32 regExpandSz = 2;
@@ -22,19 +23,18 @@ constexpr quint32 regQword = 11;
 
 const QString path = "Software\\TestMaker\\Röhre"; // below HKEY_LOCAL_MACHINE unless a test says otherwise
 
-QByteArray utf16(const QString& text) {
-    return {reinterpret_cast<const char*>(text.utf16()), text.size() * 2};
-}
-
 QByteArray littleEndian(quint32 number) {
     return {reinterpret_cast<const char*>(&number), sizeof number};
 }
 
-class RegistryKeyTest : public ::testing::Test {
+class RegistryKeyTest : public PcTest {
 protected:
+    /// The test's key.
+    static RegistryKey open() { return RegistryKey::open(path, Hive::localMachine, View::view64); }
+
     /// What readString gives for the one value of the test's key, or "(false)".
     static QString read(const QString& valueName = "V") {
-        RegistryKey key = RegistryKey::open(path, Hive::localMachine, View::view64);
+        RegistryKey key = open();
         QString text = "untouched";
         if (!key.readString(valueName, text)) {
             EXPECT_EQ(text, "untouched");
@@ -44,7 +44,15 @@ protected:
         return text;
     }
 
-    TestPc pc;
+    /// The names of its sub-keys, behind one that is there already.
+    static QStringList subKeys() {
+        RegistryKey key = open();
+        QStringList names{"before"};
+        EXPECT_TRUE(key.subKeyNames(names));
+        EXPECT_EQ(key.status(), Platform::errorSuccess);
+        return names;
+    }
+
     const TestKey testKey{RootKey::LocalMachine, path};
 };
 
@@ -71,8 +79,8 @@ TEST_F(RegistryKeyTest, ReadsANumberAsDecimalDigits) {
 }
 
 TEST_F(RegistryKeyTest, ReadsEveryOtherTypeAsAQuestionMark) {
-    pc.value(testKey, "expand", regExpandSz, utf16("%ProgramFiles%\\X") + QByteArray(2, '\0'));
-    pc.value(testKey, "multi", regMultiSz, utf16("one") + QByteArray(4, '\0'));
+    pc.value(testKey, "expand", regExpandSz, storedText("%ProgramFiles%\\X"));
+    pc.value(testKey, "multi", regMultiSz, toUtf16("one") + QByteArray(4, '\0'));
     pc.value(testKey, "binary", regBinary, "abc");
     pc.value(testKey, "qword", regQword, QByteArray(8, '\1'));
     EXPECT_EQ(read("expand"), "?");
@@ -95,7 +103,7 @@ TEST_F(RegistryKeyTest, ReadsTextOf64KiBAndOf1MiB) {
         const QString text = QString(bytes / 2 - 2, u'x') + u'y';
         pc.value(testKey, "V", text);
         EXPECT_EQ(read(), text) << bytes;
-        pc.value(testKey, "V", Platform::regSz, utf16(text + u'z'));
+        pc.value(testKey, "V", Platform::regSz, toUtf16(text + u'z'));
         EXPECT_EQ(read(), text + u'z') << bytes << " without an end";
         pc.value(testKey, "V", regBinary, QByteArray(bytes, 'x'));
         EXPECT_EQ(read(), "(false)") << bytes;
@@ -107,16 +115,14 @@ TEST_F(RegistryKeyTest, HalvesOfSurrogatePairsStayAsTheyAre) {
     pc.value(testKey, halves, halves);
     EXPECT_EQ(read(halves), halves);
     pc.value({RootKey::LocalMachine, path + '\\' + halves}, "V", "in a key");
-    QStringList names;
-    EXPECT_TRUE(RegistryKey::open(path, Hive::localMachine, View::view64).subKeyNames(names));
-    EXPECT_THAT(names, ElementsAre(halves));
+    EXPECT_THAT(subKeys(), ElementsAre("before", halves));
     EXPECT_EQ(readRegistryString(path + '\\' + halves, Hive::localMachine, View::view64, "V"), "in a key");
 }
 
 TEST_F(RegistryKeyTest, ReadsTextThatLacksItsEnd) {
     for (const int length : {1, 254, 255, 256, 300}) {
         const QString text(length, 'x');
-        pc.value(testKey, "V", Platform::regSz, utf16(text));
+        pc.value(testKey, "V", Platform::regSz, toUtf16(text));
         EXPECT_EQ(read(), text) << length;
     }
 }
@@ -126,8 +132,8 @@ TEST_F(RegistryKeyTest, ReadsPlainTextAlone) {
     pc.value(testKey, "long", QString(300, 'x'));
     pc.value(testKey, "question mark", "?");
     pc.number(testKey, "number", 42);
-    pc.value(testKey, "expand", regExpandSz, utf16("%ProgramFiles%\\X") + QByteArray(2, '\0'));
-    RegistryKey key = RegistryKey::open(path, Hive::localMachine, View::view64);
+    pc.value(testKey, "expand", regExpandSz, storedText("%ProgramFiles%\\X"));
+    RegistryKey key = open();
     EXPECT_EQ(key.text("short"), "Röhre");
     EXPECT_EQ(key.text("long"), QString(300, 'x'));
     EXPECT_EQ(key.text("question mark"), "?");
@@ -138,14 +144,14 @@ TEST_F(RegistryKeyTest, ReadsPlainTextAlone) {
 }
 
 TEST_F(RegistryKeyTest, CutsTextAtItsFirstZero) {
-    pc.value(testKey, "short", Platform::regSz, utf16("ab") + QByteArray(2, '\0') + utf16("cd") + QByteArray(2, '\0'));
-    pc.value(testKey, "long", Platform::regSz, utf16("ab") + QByteArray(2, '\0') + utf16(QString(400, 'c')));
+    pc.value(testKey, "short", Platform::regSz, storedText("ab") + storedText("cd"));
+    pc.value(testKey, "long", Platform::regSz, storedText("ab") + toUtf16(QString(400, 'c')));
     EXPECT_EQ(read("short"), "ab");
     EXPECT_EQ(read("long"), "ab");
 }
 
 TEST_F(RegistryKeyTest, DropsHalfACharacterAtTheEndOfText) {
-    pc.value(testKey, "V", Platform::regSz, utf16("ab") + 'c');
+    pc.value(testKey, "V", Platform::regSz, toUtf16("ab") + 'c');
     EXPECT_EQ(read(), "ab");
 }
 
@@ -155,7 +161,7 @@ TEST_F(RegistryKeyTest, ReadsAValueOfNoBytesAsEmptyText) {
 }
 
 TEST_F(RegistryKeyTest, DeliversNoLongValueOfAnotherType) {
-    pc.value(testKey, "expand", regExpandSz, utf16(QString(300, 'x')));
+    pc.value(testKey, "expand", regExpandSz, toUtf16(QString(300, 'x')));
     pc.value(testKey, "binary", regBinary, QByteArray(511, 'x'));
     pc.value(testKey, "fits", regBinary, QByteArray(510, 'x'));
     EXPECT_EQ(read("expand"), "(false)");
@@ -165,7 +171,7 @@ TEST_F(RegistryKeyTest, DeliversNoLongValueOfAnotherType) {
 
 TEST_F(RegistryKeyTest, KeepsTheErrorCodeOfAFailedRead) {
     pc.key(testKey);
-    RegistryKey key = RegistryKey::open(path, Hive::localMachine, View::view64);
+    RegistryKey key = open();
     EXPECT_EQ(key.status(), Platform::errorSuccess);
     QString text;
     EXPECT_FALSE(key.readString("missing", text));
@@ -254,28 +260,18 @@ TEST_F(RegistryKeyTest, ListsSubKeysInTheRegistrysOrder) {
         pc.key({RootKey::LocalMachine, path + '\\' + name});
     }
     pc.key({RootKey::LocalMachine, path + "\\alpha\\below"});
-    RegistryKey key = RegistryKey::open(path, Hive::localMachine, View::view64);
-    QStringList names{"before"};
-    EXPECT_TRUE(key.subKeyNames(names));
-    EXPECT_EQ(key.status(), Platform::errorSuccess);
-    EXPECT_THAT(names, ElementsAre("before", "alpha", "Beta", "GAMMA", "zebra", "Ärger"));
+    EXPECT_THAT(subKeys(), ElementsAre("before", "alpha", "Beta", "GAMMA", "zebra", "Ärger"));
 }
 
 TEST_F(RegistryKeyTest, AKeyWithoutSubKeysListsNone) {
     pc.key(testKey);
-    RegistryKey key = RegistryKey::open(path, Hive::localMachine, View::view64);
-    QStringList names;
-    EXPECT_TRUE(key.subKeyNames(names));
-    EXPECT_TRUE(names.isEmpty());
+    EXPECT_THAT(subKeys(), ElementsAre("before"));
 }
 
 TEST_F(RegistryKeyTest, ListsTheLongestNameThatTheRegistryHolds) {
     const QString longest(255, 'n');
     pc.key({RootKey::LocalMachine, path + '\\' + longest});
-    RegistryKey key = RegistryKey::open(path, Hive::localMachine, View::view64);
-    QStringList names;
-    EXPECT_TRUE(key.subKeyNames(names));
-    EXPECT_THAT(names, ElementsAre(longest));
+    EXPECT_THAT(subKeys(), ElementsAre("before", longest));
 }
 
 TEST_F(RegistryKeyTest, ReadsANumberOfAnyType) {
@@ -285,7 +281,7 @@ TEST_F(RegistryKeyTest, ReadsANumberOfAnyType) {
     RegistryKey key = RegistryKey::open("Software\\TestMaker", Hive::localMachine, View::view64);
     EXPECT_TRUE(key.isOpen()) << "by the narrow functions";
 
-    RegistryKey wideKey = RegistryKey::open(path, Hive::localMachine, View::view64);
+    RegistryKey wideKey = open();
     quint32 number = 0;
     EXPECT_TRUE(wideKey.readDword("dword", number));
     EXPECT_EQ(number, 5U);
@@ -299,7 +295,7 @@ TEST_F(RegistryKeyTest, ReadsANumberOfAnyType) {
 TEST_F(RegistryKeyTest, ANumberThatIsNotThereLeavesTheCallersAlone) {
     pc.value(testKey, "long", regQword, QByteArray(8, '\1'));
     pc.value(testKey, "empty", regBinary, QByteArray());
-    RegistryKey key = RegistryKey::open(path, Hive::localMachine, View::view64);
+    RegistryKey key = open();
     quint32 number = 9;
     EXPECT_FALSE(key.readDword("missing", number));
     EXPECT_EQ(key.status(), Platform::errorFileNotFound);

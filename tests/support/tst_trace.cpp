@@ -11,7 +11,7 @@
 #include "support/Logger.h"
 #include "support/RegistryKey.h"
 
-#include <QDir>
+#include <QJsonArray>
 
 #include <new>
 #include <thread>
@@ -25,37 +25,42 @@ QJsonObject only(const std::vector<QJsonObject>& events) {
     return events.empty() ? QJsonObject() : events.front();
 }
 
+/// The event of a question for a value of the test's key.
+QJsonObject valueEvent(const QString& name, QJsonObject fields) {
+    fields.insert("event", "value");
+    fields.insert("root", "HKEY_CURRENT_USER");
+    fields.insert("view", 64);
+    fields.insert("key", testKey.path);
+    fields.insert("name", name);
+    return fields;
+}
+
 using TraceTest = PcTest;
 
 TEST_F(TraceTest, TellsWhichKeyWasOpenedInWhichView) {
     pc.key(testKey);
     const TraceLog trace;
     RegistryKey::open(testKey.path, Hive::currentUser, View::view64);
-    const QJsonObject event = only(trace.events("key"));
-    EXPECT_EQ(event["root"].toString(), "HKEY_CURRENT_USER");
-    EXPECT_EQ(event["view"].toInt(), 64);
-    EXPECT_EQ(event["key"].toString(), "Software\\Luruludri Test");
-    EXPECT_EQ(event["error"].toInt(-1), 0);
+    EXPECT_EQ(only(trace.events("key")),
+              (QJsonObject{
+                  {"event", "key"}, {"root", "HKEY_CURRENT_USER"}, {"view", 64}, {"key", testKey.path}, {"error", 0}}));
 }
 
 TEST_F(TraceTest, TellsThatAKeyIsNotThere) {
     const TraceLog trace;
-    RegistryKey::open("Software\\Luruludri Test\\Nothing", Hive::localMachine, View::view32);
-    const QJsonObject event = only(trace.events("key"));
-    EXPECT_EQ(event["root"].toString(), "HKEY_LOCAL_MACHINE");
-    EXPECT_EQ(event["view"].toInt(), 32);
-    EXPECT_EQ(event["error"].toInt(), 2);
+    const QString key = "Software\\Luruludri Test\\Nothing";
+    RegistryKey::open(key, Hive::localMachine, View::view32);
+    EXPECT_EQ(
+        only(trace.events("key")),
+        (QJsonObject{{"event", "key"}, {"root", "HKEY_LOCAL_MACHINE"}, {"view", 32}, {"key", key}, {"error", 2}}));
 }
 
 TEST_F(TraceTest, TellsAValueByteByByte) {
     pc.value(testKey, "Ordner", "D:\\ä");
     const TraceLog trace;
     RegistryKey::open(testKey.path, Hive::currentUser, View::view64).text("Ordner");
-    const QJsonObject event = only(trace.events("value"));
-    EXPECT_EQ(event["key"].toString(), "Software\\Luruludri Test");
-    EXPECT_EQ(event["name"].toString(), "Ordner");
-    EXPECT_EQ(event["type"].toInt(), 1);
-    EXPECT_EQ(event["data"].toString(), "44003a005c00e4000000");
+    EXPECT_EQ(only(trace.events("value")),
+              valueEvent("Ordner", {{"error", 0}, {"type", 1}, {"data", "44003a005c00e4000000"}}));
 }
 
 TEST_F(TraceTest, TellsALongValueOnce) {
@@ -69,10 +74,7 @@ TEST_F(TraceTest, TellsThatAValueIsNotThereWithoutData) {
     pc.key(testKey);
     const TraceLog trace;
     RegistryKey::open(testKey.path, Hive::currentUser, View::view64).text("Nothing");
-    const QJsonObject event = only(trace.events("value"));
-    EXPECT_EQ(event["error"].toInt(), 2);
-    EXPECT_FALSE(event.contains("type"));
-    EXPECT_FALSE(event.contains("data"));
+    EXPECT_EQ(only(trace.events("value")), valueEvent("Nothing", {{"error", 2}}));
 }
 
 TEST_F(TraceTest, TellsTheSubKeys) {
@@ -126,10 +128,8 @@ TEST_F(TraceTest, TellsShellFoldersAndTheEnvironment) {
 TEST_F(TraceTest, TellsTheLinesOfTheLogs) {
     const TraceLog trace;
     Logger::create("Quorvan.Test").logError("Käfer %d", 7);
-    const QJsonObject event = only(trace.events("log"));
-    EXPECT_EQ(event["logger"].toString(), "Quorvan.Test");
-    EXPECT_EQ(event["level"].toString(), "E");
-    EXPECT_EQ(event["text"].toString(), "Käfer 7");
+    EXPECT_EQ(only(trace.events("log")),
+              (QJsonObject{{"event", "log"}, {"logger", "Quorvan.Test"}, {"level", "E"}, {"text", "Käfer 7"}}));
 }
 
 TEST_F(TraceTest, TellsNotesAndLists) {

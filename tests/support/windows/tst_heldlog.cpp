@@ -3,7 +3,6 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
