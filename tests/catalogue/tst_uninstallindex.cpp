@@ -4,6 +4,7 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "platform/Registry.h"
+#include "recordings/RegValues.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -115,8 +116,7 @@ TEST_F(UninstallIndexTest, AnEntryNeedsANameAndAPlaceOfTwoCharacters) {
 TEST_F(UninstallIndexTest, AValueThatIsNotTextIsEmpty) {
     constexpr quint32 regExpandSz = 2;
     constexpr quint32 regBinary = 3;
-    const QString text = "%ProgramFiles%\\X";
-    const QByteArray expandable(reinterpret_cast<const char*>(text.utf16()), text.size() * 2 + 2);
+    const QByteArray expandable = Recordings::storedText("%ProgramFiles%\\X");
     setRaw("InstallLocation", Platform::regDword, QByteArray(4, '\7'));
     EXPECT_THAT(entries(), ElementsAre(uninstallKeyPath + "\\X | X |  | C:\\X\\u.exe"));
 

@@ -3,7 +3,6 @@
 #include "common/QtPrinters.h"
 #include "core/FinderTest.h"
 
-#include <QCoreApplication>
 #include <QDir>
 
 #include <gmock/gmock.h>

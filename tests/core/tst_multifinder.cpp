@@ -13,7 +13,6 @@ namespace {
 
 using Finders::MultiFinder;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 using Eleven = std::array<std::unique_ptr<IGameFinder>, 11>;
 

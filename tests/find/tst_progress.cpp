@@ -1,5 +1,4 @@
 #include "find/terminal/Progress.h"
-#include "find/terminal/TextWidth.h"
 
 #include "common/QtPrinters.h"
 

@@ -1,4 +1,3 @@
-#include "find/terminal/OneLine.h"
 #include "find/terminal/Table.h"
 #include "find/terminal/TextWidth.h"
 

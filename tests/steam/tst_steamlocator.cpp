@@ -7,6 +7,7 @@
 #include "common/TestPc.h"
 #include "platform/Folders.h"
 #include "platform/Registry.h"
+#include "recordings/RegValues.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -174,7 +175,7 @@ TEST_F(SteamLocatorTest, AnExpandableCommandIsCheckedAsItReads) {
     const QString command = "C:\\Steam\\steam.exe";
     pc.file(command);
     pc.value({RootKey::ClassesRoot, "steam\\Shell\\Open\\Command", View::view32}, "", 2,
-             QByteArray(reinterpret_cast<const char*>(command.utf16()), command.size() * 2 + 2));
+             Recordings::storedText(command));
     EXPECT_EQ(find(), "");
     EXPECT_EQ(pc.messages("Test").first(), "A: SteamExeFinder: Checking ?");
 }

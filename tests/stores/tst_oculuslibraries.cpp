@@ -8,6 +8,7 @@
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "platform/Registry.h"
+#include "recordings/RegValues.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -68,12 +69,8 @@ TEST_F(OculusLibrariesTest, LibrariesKeepTheRegistrysOrder) {
     EXPECT_THAT(oculusLibraryFolders(logger), ElementsAre("E:/3/Manifests", "D:/2/Manifests", "C:/1/Manifests"));
 }
 
-TEST_F(OculusLibrariesTest, WithoutTheKeyThereAreNone) {
+TEST_F(OculusLibrariesTest, WithoutTheKeyOrBelowItThereAreNone) {
     EXPECT_THAT(oculusLibraryFolders(logger), IsEmpty());
-    EXPECT_THAT(pc.messages("Test"), IsEmpty());
-}
-
-TEST_F(OculusLibrariesTest, AKeyWithoutLibrariesHasNone) {
     pc.key({RootKey::CurrentUser, oculusKeyPath, View::view64});
     EXPECT_THAT(oculusLibraryFolders(logger), IsEmpty());
     EXPECT_THAT(pc.messages("Test"), IsEmpty());
@@ -171,8 +168,7 @@ TEST_F(OculusLibrariesTest, APathOfAnotherTypeIsTakenAsItReads) {
     const QString path = "D:\\Apps";
     makeOculusFolders(pc, path);
     pc.number({RootKey::CurrentUser, oculusKeyPath + "\\1", View::view64}, "Path", 42);
-    pc.value({RootKey::CurrentUser, oculusKeyPath + "\\2", View::view64}, "Path", 2,
-             QByteArray(reinterpret_cast<const char*>(path.utf16()), path.size() * 2 + 2));
+    pc.value({RootKey::CurrentUser, oculusKeyPath + "\\2", View::view64}, "Path", 2, Recordings::storedText(path));
     EXPECT_THAT(oculusLibraryFolders(logger), IsEmpty());
     EXPECT_THAT(pc.messages("Test"), ElementsAre(rejected("42", "42", "0, 0, 0"), rejected("?", "?", "0, 0, 0")));
 }

@@ -11,7 +11,6 @@
 namespace {
 
 using ::testing::Contains;
-using ::testing::HasSubstr;
 using ::testing::Not;
 
 const QString raceFolder = "D:\\Spiele\\Rennen";
