@@ -53,13 +53,13 @@ std::optional<QString> PcFromInput::file(Complaint& fault) {
     if (!m_file.isEmpty()) {
         return m_file;
     }
-    fault = {inputName, 0, 0, message};
+    fault = {inputName(), 0, 0, message};
     return std::nullopt;
 }
 
 Complaint PcFromInput::shown(Complaint complaint) const {
     if (complaint.file == m_file && !m_file.isEmpty()) {
-        complaint.file = inputName;
+        complaint.file = inputName();
     }
     return complaint;
 }

@@ -12,7 +12,9 @@
 namespace Find {
 
 /// What a user calls standard input.
-constexpr QLatin1String inputName("standard input");
+inline QString inputName() {
+    return QStringLiteral("standard input");
+}
 
 /// All of standard input. No value when it cannot be read; `fault` then says why.
 std::optional<QByteArray> readInput(QString& fault);

@@ -114,7 +114,7 @@ CommandLine understood(const CommandTree& tree) {
 } // namespace
 
 QString shownName(const QString& file) {
-    return file == standardInput() ? QString(inputName) : file;
+    return file == standardInput() ? inputName() : file;
 }
 
 CommandLine parseCommandLine(const QStringList& arguments) {

@@ -20,7 +20,7 @@ Recordings::Recording readFrom(const QString& file) {
     }
     Recordings::Recording none;
     if (const std::optional<QByteArray> input = readInput(none.fault)) {
-        return Recordings::parseRecording(*input, inputName);
+        return Recordings::parseRecording(*input, inputName());
     }
     return none;
 }
