@@ -37,6 +37,13 @@ protected:
         pc.file("C:\\Steam\\steamapps\\libraryfolders.vdf", "\"path\" \"D:\\\\Library\"\n");
     }
 
+    /// The app 440 in the client's library.
+    void installGame() {
+        installSteam();
+        pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
+        pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    }
+
     /// The entry that the client writes.
     void addEntry(const QString& appId, const QString& folder, const QString& uninstaller = "steam uninstaller") {
         addProgram(pc, {"Steam App " + appId, "A game", folder, uninstaller});
@@ -67,9 +74,7 @@ TEST_F(SteamFinderTest, FindsAGameInALibrary) {
 }
 
 TEST_F(SteamFinderTest, TheUninstallEntryComesBeforeTheLibraries) {
-    installSteam();
-    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
-    pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    installGame();
     pc.file("E:\\Game\\game.exe");
     addEntry("440", "E:\\Game");
     EXPECT_TRUE(find("440", "Game", {"game.exe"}));
@@ -84,9 +89,7 @@ TEST_F(SteamFinderTest, AnEntryWithoutAnUninstallerIsIgnored) {
 }
 
 TEST_F(SteamFinderTest, AnEntryThatLeadsNowhereIsPassedOver) {
-    installSteam();
-    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
-    pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    installGame();
     pc.folder("E:\\Empty");
     for (const char* gone : {"E:\\Gone", "E:\\Empty", "", "  "}) {
         addEntry("440", gone);
@@ -104,9 +107,7 @@ TEST_F(SteamFinderTest, TheSecondEntryOfAKeyIsTriedAsWell) {
 }
 
 TEST_F(SteamFinderTest, IdentifiersAreComparedAsText) {
-    installSteam();
-    pc.file("D:\\Library\\steamapps\\appmanifest_440.acf");
-    pc.file("D:\\Library\\steamapps\\common\\Game\\game.exe");
+    installGame();
     pc.file("E:\\Game\\game.exe");
     addEntry("440a", "E:\\Game");
     for (const char* id : {"0440", "44", "440 ", "440A", ""}) {

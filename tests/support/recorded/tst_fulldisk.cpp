@@ -2,34 +2,14 @@
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
+#include "common/recorded/FileLimit.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace {
-
-/// No file may grow beyond `size` bytes while this lives, as on a disk that is full.
-class FullDisk {
-public:
-    explicit FullDisk(qint64 size) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit full{static_cast<rlim_t>(size), m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &full);
-    }
-
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-
-private:
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-    rlimit m_before{};
-};
 
 TEST(FullDiskTest, KeepsWhatWasWrittenAndTakesLinesAgainWhenItHasRoom) {
     const TestPc pc;
@@ -37,7 +17,7 @@ TEST(FullDiskTest, KeepsWhatWasWrittenAndTakesLinesAgainWhenItHasRoom) {
         Logger logger = Logger::create("Test");
         logger.logAlways("before");
         {
-            const FullDisk disk(QFileInfo(pc.logPath("Test")).size());
+            const FileLimit disk(QFileInfo(pc.logPath("Test")).size());
             for (int line = 0; line < 100; ++line) {
                 logger.logAlways("while it is full %d", line);
             }
@@ -55,7 +35,7 @@ TEST(FullDiskTest, ALoggerThatIsMadeAndGoesOnItWritesNothing) {
     const TestPc pc;
     ASSERT_TRUE(QDir().mkpath(pc.logFolder()));
     {
-        const FullDisk disk(0);
+        const FileLimit disk(0);
         Logger::create("Test").logAlways("lost");
     }
     EXPECT_EQ(pc.log("Test"), "");
