@@ -12,7 +12,6 @@
 #include <QDir>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

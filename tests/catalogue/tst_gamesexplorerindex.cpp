@@ -8,7 +8,6 @@
 #include "platform/Registry.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

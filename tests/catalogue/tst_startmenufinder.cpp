@@ -7,7 +7,6 @@
 #include "platform/Folders.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

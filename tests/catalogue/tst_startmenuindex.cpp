@@ -8,7 +8,6 @@
 #include <QDir>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -7,7 +7,6 @@
 #include "recordings/RegValues.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -5,7 +5,6 @@
 #include "core/ScriptedFinder.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <array>
 

@@ -6,7 +6,6 @@
 #include "common/TraceLog.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -5,7 +5,6 @@
 #include <QStringList>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

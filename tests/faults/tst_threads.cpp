@@ -6,7 +6,6 @@
 #include "faults/EveryFinder.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>

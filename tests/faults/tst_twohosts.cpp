@@ -9,7 +9,6 @@
 #include <QSettings>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include "recordings/ShellLink.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 

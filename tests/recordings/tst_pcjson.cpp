@@ -4,7 +4,6 @@
 #include "platform/Folders.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -7,7 +7,6 @@
 #include "recordings/Recording.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 

@@ -6,7 +6,6 @@
 #include "recordings/PcFile.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>

@@ -5,7 +5,6 @@
 #include "common/QtPrinters.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

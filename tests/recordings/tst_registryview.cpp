@@ -2,7 +2,6 @@
 #include "platform/recorded/RegistryQuestions.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

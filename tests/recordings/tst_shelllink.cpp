@@ -8,7 +8,6 @@
 #include <QFileInfo>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -10,7 +10,6 @@
 #include <QDir>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

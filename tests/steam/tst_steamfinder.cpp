@@ -10,7 +10,6 @@
 #include "platform/Registry.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

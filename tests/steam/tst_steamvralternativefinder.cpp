@@ -9,7 +9,6 @@
 #include "steam/MessageLog.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -9,7 +9,6 @@
 #include "core/FinderTest.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -11,7 +11,6 @@
 #include "recordings/RegValues.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -5,7 +5,6 @@
 #include "common/TestPc.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -3,7 +3,6 @@
 #include "stores/FakePackages.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

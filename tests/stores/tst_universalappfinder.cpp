@@ -5,7 +5,6 @@
 #include "core/FinderTest.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -4,7 +4,6 @@
 #include "support/CriticalSection.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <atomic>
 #include <functional>

@@ -1,10 +1,9 @@
 #include "platform/Listing.h"
 
-#include "common/QtPrinters.h"
 #include "common/PcTest.h"
+#include "common/QtPrinters.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <map>
 

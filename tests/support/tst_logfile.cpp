@@ -13,7 +13,6 @@
 #include <QRegularExpression>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -10,7 +10,6 @@
 #include <QDir>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <atomic>
 #include <type_traits>

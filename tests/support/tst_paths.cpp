@@ -1,7 +1,7 @@
 #include "support/Paths.h"
 
-#include "common/QtPrinters.h"
 #include "common/PcTest.h"
+#include "common/QtPrinters.h"
 
 #include <QDir>
 

@@ -7,7 +7,6 @@
 #include "recordings/Utf16Text.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

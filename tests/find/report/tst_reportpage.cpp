@@ -5,7 +5,6 @@
 #include "recordings/PcPage.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QCryptographicHash>
 #include <QRegularExpression>

@@ -10,7 +10,6 @@
 #include <QStringList>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 

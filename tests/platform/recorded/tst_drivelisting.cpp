@@ -7,7 +7,6 @@
 #include <QFileInfo>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <filesystem>
 

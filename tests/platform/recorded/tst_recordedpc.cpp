@@ -13,7 +13,6 @@
 #include <QStandardPaths>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <array>
 #include <cstring>

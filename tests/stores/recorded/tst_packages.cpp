@@ -8,7 +8,6 @@
 #include "core/Locations.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,15 +1,14 @@
 #include "stores/EpicManifestIndex.h"
 
 #include "common/EpicLauncher.h"
-#include "common/QtPrinters.h"
 #include "common/PcTest.h"
+#include "common/QtPrinters.h"
 #include "recordings/Recording.h"
 #include "support/Files.h"
 
 #include <QFile>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

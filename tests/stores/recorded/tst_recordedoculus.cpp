@@ -8,7 +8,6 @@
 #include "common/recorded/RecordingFolder.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

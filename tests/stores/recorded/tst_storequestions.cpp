@@ -9,7 +9,6 @@
 #include "common/recorded/QuestionsTest.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

@@ -10,7 +10,6 @@
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 

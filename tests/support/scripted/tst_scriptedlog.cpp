@@ -5,7 +5,6 @@
 #include <QDir>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cstring>
 #include <future>

@@ -3,7 +3,6 @@
 #include "support/scripted/ScriptedLog.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <utility>

@@ -4,7 +4,6 @@
 #include "support/scripted/ScriptedSystem.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstring>
