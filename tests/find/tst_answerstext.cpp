@@ -44,18 +44,20 @@ TEST(OneLine, OnlyWhatLeavesTheLineIsReplaced) {
     EXPECT_EQ(oneLine("a\u202Eb\u202C\u2066c\u2069"), "a b  c ") << "which would turn the line";
 }
 
+const std::string runtimesAndCount = "\n"
+                                     "Runtime           Where\n"
+                                     "Varjo             C:\\Varjo\n"
+                                     "OpenXR            not found\n"
+                                     "Oculus libraries  C:/a\n"
+                                     "                  D:/b\n"
+                                     "\n"
+                                     "1 of 2 found\n";
+
 TEST(RenderTables, GamesFirstThenRuntimes) {
     EXPECT_EQ(renderTables(someAnswers()).toStdString(), "Game         Found  Folder    Started by\n"
                                                          "Käferrennen  yes    D:\\Käfer  steam://launch/42/VR\n"
-                                                         "Wal          no\n"
-                                                         "\n"
-                                                         "Runtime           Where\n"
-                                                         "Varjo             C:\\Varjo\n"
-                                                         "OpenXR            not found\n"
-                                                         "Oculus libraries  C:/a\n"
-                                                         "                  D:/b\n"
-                                                         "\n"
-                                                         "1 of 2 found\n");
+                                                         "Wal          no\n" +
+                                                             runtimesAndCount);
 }
 
 TEST(RenderTables, WhatIsFoundAndWhatIsNotDifferInColourToo) {
@@ -79,15 +81,8 @@ TEST(RenderTables, OnANarrowTerminalTheGamesStandAboveTheirPlaces) {
                                                                    "Käferrennen  yes\n"
                                                                    "    D:\\Käfer\n"
                                                                    "    steam://launch/42/VR\n"
-                                                                   "Wal          no\n"
-                                                                   "\n"
-                                                                   "Runtime           Where\n"
-                                                                   "Varjo             C:\\Varjo\n"
-                                                                   "OpenXR            not found\n"
-                                                                   "Oculus libraries  C:/a\n"
-                                                                   "                  D:/b\n"
-                                                                   "\n"
-                                                                   "1 of 2 found\n");
+                                                                   "Wal          no\n" +
+                                                                       runtimesAndCount);
 }
 
 TEST(RenderTables, WithoutGamesThereIsNoTableOfGames) {

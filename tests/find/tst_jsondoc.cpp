@@ -1,7 +1,6 @@
 #include "FindTest.h"
 
 #include "common/QtPrinters.h"
-#include "find/pc/System.h"
 
 #include <gtest/gtest.h>
 
@@ -35,12 +34,11 @@ QStringList shapeOf(const QJsonObject& object) {
     return shape;
 }
 
-TEST(JsonDoc, ItsExamplesAreWhatTheProgramPrintsOfTheSamplePc) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
+using JsonDoc = FindTest;
+using JsonDocOfTheSamplePc = RecordingFindTest;
+
+TEST_F(JsonDocOfTheSamplePc, ItsExamplesAreWhatTheProgramPrints) {
     ASSERT_EQ(examples().size(), 3);
-    FindProgram program;
     const QStringList common = {"--pc", LURULUDRI_SAMPLES "/pc", "--json"};
     const FindRun games =
         program.runBare(common + QStringList{"--game", "Lantern Harbour", "--game", "Nordlicht Tactics",
@@ -52,8 +50,7 @@ TEST(JsonDoc, ItsExamplesAreWhatTheProgramPrintsOfTheSamplePc) {
     EXPECT_EQ(runtimes.exitStatus, 0);
 }
 
-TEST(JsonDoc, ItsFieldsAreThoseThatTheProgramPrints) {
-    const FindProgram program;
+TEST_F(JsonDoc, ItsFieldsAreThoseThatTheProgramPrints) {
     const QString catalogue = program.file("games.json", R"({"games": [
         {"name": "Käferrennen", "finders": [{"type": "universalApp", "packageFamily": "installed"}]},
         {"name": "Wal", "finders": []}]})");
@@ -67,13 +64,12 @@ TEST(JsonDoc, ItsFieldsAreThoseThatTheProgramPrints) {
     }
 }
 
-TEST(JsonDoc, ItsErrorIsWhatTheProgramPrints) {
-    FindProgram program;
+TEST_F(JsonDoc, ItsErrorIsWhatTheProgramPrints) {
     program.file("games.json", QByteArray("\n").repeated(11) + "    \"");
     EXPECT_EQ(program.run({"--json", "games.json"}), printed(2, examples().value(2)));
 }
 
-TEST(JsonDoc, EveryFieldHasALineInItsTables) {
+TEST_F(JsonDoc, EveryFieldHasALineInItsTables) {
     const QString text = docText("json.md");
     const QJsonObject root = objectOf(examples().value(0));
     for (const QJsonObject& object : {root, root["runtimes"].toObject(), root["games"][0].toObject()}) {

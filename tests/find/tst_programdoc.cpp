@@ -1,11 +1,10 @@
 // docs/luruludri-find.md shows what the program really prints.
 
-#include "FindProgram.h"
+#include "FindTest.h"
 
 #include "common/QtPrinters.h"
 #include "common/TestPc.h"
 #include "find/cli/CommandForms.h"
-#include "find/pc/System.h"
 #include "recordings/Recording.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +46,10 @@ void expectShown(const FindProgram& program, const Shown& shown) {
     EXPECT_EQ(shown.output, output) << shown.arguments.join(' ').toStdString();
 }
 
-TEST(ProgramDoc, ShowsTheHelpAndOneOutputOfEachCommand) {
+using ProgramDoc = FindTest;
+using ProgramDocOfTheSamplePc = RecordingFindTest;
+
+TEST_F(ProgramDoc, ShowsTheHelpAndOneOutputOfEachCommand) {
     const std::vector<Shown> commands = shownCommands();
     for (const Find::CommandForm& form : Find::commandForms()) {
         const QString name = form.name;
@@ -63,8 +65,7 @@ TEST(ProgramDoc, ShowsTheHelpAndOneOutputOfEachCommand) {
     }
 }
 
-TEST(ProgramDoc, EveryHelpIsWhatTheProgramPrints) {
-    const FindProgram program;
+TEST_F(ProgramDoc, EveryHelpIsWhatTheProgramPrints) {
     int count = 0;
     for (const Shown& shown : shownCommands()) {
         if (shown.isHelp()) {
@@ -75,11 +76,7 @@ TEST(ProgramDoc, EveryHelpIsWhatTheProgramPrints) {
     EXPECT_EQ(count, static_cast<int>(Find::commandForms().size()) + 1) << "the whole program's, too";
 }
 
-TEST(ProgramDoc, EveryOutputOfTheSamplePcIsWhatTheProgramPrints) {
-    if (Find::isPcItself()) {
-        GTEST_SKIP() << "no recordings here";
-    }
-    FindProgram program;
+TEST_F(ProgramDocOfTheSamplePc, EveryOutputOfTheSamplePcIsWhatTheProgramPrints) {
     program.setVariable(Recordings::environmentVariable, LURULUDRI_SAMPLES "/pc");
     for (const Shown& shown : shownCommands()) {
         if (shown.prompt == "$" && !shown.isHelp()) {
@@ -88,13 +85,12 @@ TEST(ProgramDoc, EveryOutputOfTheSamplePcIsWhatTheProgramPrints) {
     }
 }
 
-TEST(ProgramDoc, EveryOutputOfWindowsIsWhatTheProgramPrints) {
+TEST_F(ProgramDoc, EveryOutputOfWindowsIsWhatTheProgramPrints) {
     if (!Find::isPcItself()) {
         GTEST_SKIP() << "only Windows has a user's settings and drives";
     }
     TestPc pc;
     pc.file("D:\\Eigene Spiele\\Moosgarten\\bin\\Moosgarten.exe");
-    const FindProgram program;
     for (const Shown& shown : shownCommands()) {
         if (shown.prompt == ">") {
             expectShown(program, shown);
