@@ -2,7 +2,6 @@
 
 #include "find/pc/AnsweringPc.h"
 #include "find/record/PcFacts.h"
-#include "find/record/RegistryRecord.h"
 #include "find/record/UsedParts.h"
 #include "find/terminal/Progress.h"
 #include "recordings/ShellLink.h"

@@ -1,6 +1,6 @@
 #include "TestTrace.h"
 
-#include "find/record/RegistryRecord.h"
+#include "find/record/PcFacts.h"
 #include "recordings/RegFileWriter.h"
 #include "recordings/Utf16Text.h"
 
