@@ -2,7 +2,6 @@
 
 #include "find/terminal/OneLine.h"
 #include "find/terminal/TextWidth.h"
-#include "find/terminal/WrapText.h"
 
 #include <QLatin1String>
 

@@ -1,5 +1,4 @@
 #include "find/terminal/TextWidth.h"
-#include "find/terminal/WrapText.h"
 
 #include "common/QtPrinters.h"
 
