@@ -2,7 +2,6 @@
 
 #include "find/catalogue/CatalogueReader.h"
 #include "find/pc/System.h"
-#include "recordings/Json.h"
 
 #include <QFile>
 
@@ -38,9 +37,7 @@ std::optional<Catalogue> parseCatalogue(const QByteArray& json, CatalogueFaults&
         faults = {{fault.line, fault.column, fault.message}};
         return std::nullopt;
     }
-    CatalogueReader reader;
-    Catalogue catalogue = reader.read(*document);
-    faults = reader.faults();
+    Catalogue catalogue = readCatalogue(*document, faults);
     return faults.empty() ? std::optional<Catalogue>(std::move(catalogue)) : std::nullopt;
 }
 
