@@ -68,13 +68,19 @@ std::vector<RuntimeAnswer> askForRuntimes(IGameFinderFactory& factory) {
     return answers;
 }
 
+void askForGames(IGameFinderFactory& factory, const Catalogue& games, Progress& progress,
+                 const std::function<void(GameAnswer&)>& take) {
+    int number = 0;
+    for (const Game& game : games) {
+        progress.step(++number, static_cast<int>(games.size()), game.name);
+        GameAnswer answer = askForGame(factory, game);
+        take(answer);
+    }
+}
+
 Answers ask(IGameFinderFactory& factory, const Catalogue& games, Progress& progress) {
     Answers answers;
-    const auto total = static_cast<int>(games.size());
-    for (const Game& game : games) {
-        progress.step(static_cast<int>(answers.games.size()) + 1, total, game.name);
-        answers.games.push_back(askForGame(factory, game));
-    }
+    askForGames(factory, games, progress, [&answers](GameAnswer& answer) { answers.games.push_back(answer); });
     answers.runtimes = askForRuntimes(factory);
     return answers;
 }

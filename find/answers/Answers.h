@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <vector>
 
 class IGameFinderFactory;
@@ -37,6 +38,10 @@ struct Answers {
 
 /// Asks for one game. Its finder is gone afterwards.
 GameAnswer askForGame(IGameFinderFactory& factory, const Game& game);
+
+/// Asks for every game, in order, and has `take` take each answer before the next game is asked for.
+void askForGames(IGameFinderFactory& factory, const Catalogue& games, Progress& progress,
+                 const std::function<void(GameAnswer&)>& take);
 
 std::vector<RuntimeAnswer> askForRuntimes(IGameFinderFactory& factory);
 

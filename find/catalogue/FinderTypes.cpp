@@ -1,7 +1,6 @@
 #include "find/catalogue/FinderTypes.h"
 
 #include "core/IGameFinderFactory.h"
-#include "find/catalogue/Inventory.h"
 #include "find/pc/AnsweringPc.h"
 #include "trace/Events.h"
 

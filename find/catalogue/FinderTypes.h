@@ -2,6 +2,9 @@
 
 #include "core/IGameFinder.h"
 #include "find/catalogue/Catalogue.h"
+#include "find/catalogue/InstalledEntries.h"
+
+#include <QStringList>
 
 #include <memory>
 #include <variant>
@@ -11,7 +14,13 @@ class IGameFinderFactory;
 
 namespace Find {
 
-struct Inventory;
+/// What finders can be asked for on a PC, as far as it is known.
+struct Inventory {
+    std::vector<FinderEntry> catalogue; ///< every finder of the catalogue's games, those within multi finders too
+    std::vector<InstalledEntry> installed;
+    QStringList packageFamilies;
+    QStringList userChoiceKeys;
+};
 
 /// One field of a finder in the catalogue: its name, and where its value goes. The value's type follows from that.
 struct FinderField {
