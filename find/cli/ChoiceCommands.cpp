@@ -1,4 +1,4 @@
-#include "find/cli/ChoiceCommands.h"
+#include "find/cli/Commands.h"
 
 #include "core/IGameFinderFactory.h"
 #include "find/answers/UserChoice.h"

@@ -7,17 +7,12 @@
 #include "find/answers/GivenFolder.h"
 #include "find/answers/Plugin.h"
 #include "find/catalogue/Catalogue.h"
-#include "find/cli/ChoiceCommands.h"
 #include "find/cli/CommandForms.h"
 #include "find/cli/CommandLine.h"
+#include "find/cli/Commands.h"
 #include "find/cli/Dialogue.h"
 #include "find/cli/JsonReply.h"
-#include "find/cli/ListCommand.h"
-#include "find/cli/LookUpCommand.h"
-#include "find/cli/RecordCommand.h"
-#include "find/cli/ReportCommand.h"
 #include "find/cli/ShellTexts.h"
-#include "find/cli/UnpackCommand.h"
 #include "find/explain/Explanation.h"
 #include "find/explain/ExplanationText.h"
 #include "find/explain/PluginTrace.h"
@@ -31,6 +26,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 
 namespace Find {
@@ -106,10 +102,17 @@ ExitStatus answer(IGameFinderFactory& factory, const Options& options, const Cat
     return afterPrinting(isPrinted, answers.allGamesFound() ? allFound : someNotFound);
 }
 
-/// `games` holds the one that was named.
-ExitStatus explainGame(IGameFinderFactory& factory, const Options& options, const Catalogue& games,
-                       const PluginTrace& trace) {
-    const Game& game = games.front();
+using Ask = std::function<ExitStatus(IGameFinderFactory& factory)>;
+
+ExitStatus askPlugin(const Options& options, const Ask& ask) {
+    ExitStatus status = failed;
+    QString fault;
+    withPlugin(options.plugin, fault, [&](IGameFinderFactory& factory) { status = ask(factory); });
+    return fault.isEmpty() ? status : fail(fault);
+}
+
+ExitStatus explainWithin(IGameFinderFactory& factory, const Options& options, const Game& game,
+                         const PluginTrace& trace) {
     const GameAnswer answer = askForGame(factory, game);
     const TraceEvents events = trace.events();
     if (events.empty()) {
@@ -125,31 +128,10 @@ ExitStatus explainGame(IGameFinderFactory& factory, const Options& options, cons
     return afterPrinting(printReply(reply), status);
 }
 
-ExitStatus askWithin(IGameFinderFactory& factory, const Options& options, const Catalogue& games,
-                     const PluginTrace* trace) {
-    switch (options.command) {
-    case Command::Locate:
-        return locateGame(factory, options, games);
-    case Command::Forget:
-        return forgetGame(factory, options);
-    case Command::Explain:
-        return explainGame(factory, options, games, *trace);
-    default:
-        return answer(factory, options, games);
-    }
-}
-
-ExitStatus askPlugin(const Options& options, const Catalogue& games) {
-    std::optional<PluginTrace> trace;
-    if (options.command == Command::Explain) {
-        trace.emplace();
-    }
-    ExitStatus status = failed;
-    QString fault;
-    withPlugin(options.plugin, fault, [&](IGameFinderFactory& factory) {
-        status = askWithin(factory, options, games, trace ? &*trace : nullptr);
-    });
-    return fault.isEmpty() ? status : fail(fault);
+ExitStatus explainGame(const Options& options, const Game& game) {
+    const PluginTrace trace;
+    return askPlugin(options,
+                     [&](IGameFinderFactory& factory) { return explainWithin(factory, options, game, trace); });
 }
 
 /// Why the user's choice cannot be changed; empty when it can.
@@ -173,15 +155,19 @@ ExitStatus act(const Options& options, const Chosen& chosen, const Recordings::P
     const Catalogue& games = chosen.games;
     switch (options.command) {
     case Command::Explain:
-        return games.empty() ? lookUp(options, chosen.known) : askPlugin(options, games);
+        return games.empty() ? lookUp(options, chosen.known) : explainGame(options, games.front());
     case Command::List:
         return listPc(options);
     case Command::Record:
         return recordPc(options, games, pc);
     case Command::Report:
         return reportPc(options, games, pc, problems);
+    case Command::Locate:
+        return askPlugin(options, [&](IGameFinderFactory& factory) { return locateGame(factory, options, games); });
+    case Command::Forget:
+        return askPlugin(options, [&](IGameFinderFactory& factory) { return forgetGame(factory, options); });
     default:
-        return askPlugin(options, games);
+        return askPlugin(options, [&](IGameFinderFactory& factory) { return answer(factory, options, games); });
     }
 }
 

@@ -1,4 +1,4 @@
-#include "find/cli/RecordCommand.h"
+#include "find/cli/Commands.h"
 
 #include "find/cli/CommandLine.h"
 #include "find/record/NeutralRecording.h"

@@ -1,4 +1,4 @@
-#include "find/cli/ReportCommand.h"
+#include "find/cli/Commands.h"
 
 #include "find/cli/CommandLine.h"
 #include "find/list/InstalledGames.h"

@@ -1,4 +1,4 @@
-#include "find/cli/UnpackCommand.h"
+#include "find/cli/Commands.h"
 
 #include "find/answers/ChosenRecording.h"
 #include "find/cli/CommandLine.h"
