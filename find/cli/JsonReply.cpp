@@ -36,10 +36,6 @@ bool print(QJsonObject reply, const std::vector<Complaint>& complaints) {
 
 } // namespace
 
-void replyInJson() {
-    Console::keepComplaints();
-}
-
 bool printReply(const QJsonObject& reply) {
     return print(reply, Console::takeComplaints());
 }

@@ -269,7 +269,7 @@ ExitStatus runProgram(const QStringList& arguments) {
     }
     const bool isJson = arguments.contains(QLatin1String("--json"));
     if (isJson) {
-        replyInJson();
+        Console::keepComplaints(); // they are told in the reply
     }
     const ExitStatus status = follow(parseCommandLine(arguments), isJson);
     printLeftComplaints();
