@@ -22,6 +22,10 @@ const Operand catalogue{"CATALOGUE",
                         "The file that lists the games (docs/catalogue.md);\nthe one beside the program unless given; "
                         "- reads it\nfrom standard input.",
                         &Options::catalogue};
+const Operand newFile{"FILE",
+                      "The new file, or the folder for it. Named after the day\nunless given: on the Desktop under "
+                      "Windows, elsewhere\nin the current folder.",
+                      &Options::folder};
 const Operand key{"KEY", "The key of the game's userProvidedLocation finder.", &Options::key, true};
 
 std::vector<CommandForm> makeForms() {
@@ -58,21 +62,13 @@ std::vector<CommandForm> makeForms() {
          "record",
          "Record what finders use of this PC into a new file\n(docs/recorded-pc.md), so that it can be looked "
          "at\nelsewhere.",
-         {{"FILE",
-           "The new file, or the folder for it. Named after the day\nunless given: on the Desktop under "
-           "Windows, elsewhere\nin the current folder.",
-           &Options::folder},
-          catalogue},
+         {newFile, catalogue},
          {&keepNames, &pc, &plugin},
          "luruludri-find record my-pc"},
         {Command::Report,
          "report",
          "Make a page of the answers, a new file for a browser, which\ncarries a recording.",
-         {{"FILE",
-           "The new file, or the folder for it. Named after the day\nunless given: on the Desktop under "
-           "Windows, elsewhere\nin the current folder.",
-           &Options::folder},
-          catalogue},
+         {newFile, catalogue},
          {&keepNames, &pc, &plugin},
          "luruludri-find report my-pc.html"},
         {Command::Unpack,
