@@ -17,18 +17,14 @@ namespace Find {
 
 namespace {
 
-QString quoted(const QString& text) {
-    return QLatin1Char('"') + oneLine(text) + QLatin1Char('"');
-}
-
 QString valueText(const QString& text) {
-    return quoted(text);
+    return QLatin1Char('"') + oneLine(text) + QLatin1Char('"');
 }
 
 QString valueText(const QStringList& texts) {
     QStringList list;
     for (const QString& text : texts) {
-        list.append(quoted(text));
+        list.append(valueText(text));
     }
     return QLatin1Char('[') + list.join(QLatin1String(", ")) + QLatin1Char(']');
 }
