@@ -55,8 +55,8 @@ Mustache::data groupsData(const Items& items, MakeData makeData) {
     return groups;
 }
 
-Mustache::data textsData(const QStringList& texts) {
-    return listData(texts, [](const QString& text) { return Mustache::data("text", textData(text)); });
+Mustache::data textsData(const QStringList& texts, const char* name = "text") {
+    return listData(texts, [name](const QString& text) { return Mustache::data(name, textData(text)); });
 }
 
 /// A path or an address in parts, between which a line may break.
@@ -71,7 +71,8 @@ Mustache::data pathData(const QString& path) {
     return textsData(parts);
 }
 
-Mustache::data numberData(int number) {
+template <class Number>
+Mustache::data numberData(Number number) {
     return std::to_string(number);
 }
 
@@ -136,8 +137,7 @@ Mustache::data gameData(const ReportedGame& game) {
     Mustache::data data("name", textData(game.answer.name));
     data["isFound"] = game.answer.found;
     data["state"] = game.answer.found ? "found" : "missing";
-    data.set("finders",
-             listData(game.finders, [](const QString& name) { return Mustache::data("name", textData(name)); }));
+    data["finders"] = textsData(game.finders, "name");
     if (game.answer.found) {
         data["folder"] = pathData(game.answer.location.installFolder);
         data["launch"] = pathData(game.answer.location.launchCommand);
@@ -191,28 +191,25 @@ Mustache::data amountData(const RecordedAmount& amount) {
 QStringList finderNamesOf(const ReportData& data) {
     QStringList names;
     for (const ReportedGame& game : data.games) {
-        for (const QString& name : game.finders) {
-            if (!names.contains(name)) {
-                names.append(name);
-            }
-        }
+        names += game.finders;
     }
+    names.removeDuplicates();
     names.sort();
     return names;
 }
 
 template <class Items, class IsFound>
 Mustache::data countFound(const Items& items, IsFound isFound) {
-    return numberData(static_cast<int>(std::count_if(items.begin(), items.end(), isFound)));
+    return numberData(std::count_if(items.begin(), items.end(), isFound));
 }
 
 void addSummary(const ReportData& report, Mustache::data& page) {
     page["found"] = countFound(report.games, [](const ReportedGame& game) { return game.answer.found; });
-    page["total"] = numberData(static_cast<int>(report.games.size()));
+    page["total"] = numberData(report.games.size());
     page["runtimesFound"] =
         countFound(report.runtimes, [](const RuntimeAnswer& runtime) { return !runtime.values.isEmpty(); });
-    page["runtimesTotal"] = numberData(static_cast<int>(report.runtimes.size()));
-    page["othersTotal"] = numberData(static_cast<int>(report.others.size()));
+    page["runtimesTotal"] = numberData(report.runtimes.size());
+    page["othersTotal"] = numberData(report.others.size());
     page["faultsTotal"] = numberData(report.faults.size());
     page["faultsWord"] = report.faults.size() == 1 ? "fault" : "faults";
     page["hasFaults"] = !report.faults.isEmpty();
@@ -228,8 +225,7 @@ void addOrigin(const ReportOrigin& origin, Mustache::data& page) {
 
 void addTables(const ReportData& report, Mustache::data& page) {
     page["gameGroups"] = groupsData(report.games, gameData);
-    page["finderNames"] =
-        listData(finderNamesOf(report), [](const QString& name) { return Mustache::data("name", textData(name)); });
+    page["finderNames"] = textsData(finderNamesOf(report), "name");
     page["runtimes"] = listData(report.runtimes, runtimeData);
     page["otherGroups"] = groupsData(report.others, otherData);
     page["faults"] = textsData(report.faults);
