@@ -1,7 +1,6 @@
 #include "platform/TextStream.h"
 
 #include "recordings/DrivePath.h"
-#include "recordings/Utf8Reader.h"
 
 #include <QFile>
 
@@ -43,6 +42,69 @@ private:
     FileHandle m_file;
 };
 
+constexpr char32_t replacement = 0xFFFD;
+
+struct Form {
+    unsigned char mask;
+    unsigned char lead;
+    unsigned short length;
+    char32_t least; // smaller numbers have a shorter form
+};
+
+constexpr Form forms[] = {
+    {0x80, 0x00, 1, 0x0},
+    {0xE0, 0xC0, 2, 0x80},
+    {0xF0, 0xE0, 3, 0x800},
+    {0xF8, 0xF0, 4, 0x10000},
+};
+
+bool isCharacter(char32_t c) {
+    return c <= 0x10FFFF && !(c >= 0xD800 && c <= 0xDFFF);
+}
+
+/// The character of `form` that `text` begins with; `replacement` when it doesn't.
+char32_t decode(std::string_view text, const Form& form) {
+    if (text.size() < form.length) {
+        return replacement;
+    }
+    char32_t character = static_cast<unsigned char>(text.front()) & static_cast<unsigned char>(~form.mask);
+    for (size_t i = 1; i < form.length; ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if ((byte & 0xC0U) != 0x80U) {
+            return replacement;
+        }
+        character = (character << 6U) | (byte & 0x3FU);
+    }
+    return character >= form.least && isCharacter(character) ? character : replacement;
+}
+
+/// Reads UTF-8 character by character without allocating. Each faulty byte reads as U+FFFD.
+class Utf8Reader {
+public:
+    explicit Utf8Reader(std::string_view text)
+        : m_text(text) {}
+
+    bool atEnd() const { return m_text.empty(); }
+
+    /// The next character. Only while not at the end.
+    char32_t next() noexcept {
+        const auto lead = static_cast<unsigned char>(m_text.front());
+        for (const Form& form : forms) {
+            if ((lead & form.mask) != form.lead) {
+                continue;
+            }
+            const char32_t character = decode(m_text, form);
+            m_text.remove_prefix(character == replacement ? 1 : form.length);
+            return character;
+        }
+        m_text.remove_prefix(1);
+        return replacement;
+    }
+
+private:
+    std::string_view m_text;
+};
+
 class Utf16Stream : public TextStream {
 public:
     explicit Utf16Stream(FileHandle file)
@@ -51,7 +113,7 @@ public:
     void writeMark() noexcept { put(0xFEFF); }
 
     void write(std::string_view utf8) noexcept override {
-        Recordings::Utf8Reader reader(utf8);
+        Utf8Reader reader(utf8);
         while (!reader.atEnd()) {
             const char32_t character = reader.next();
             if (character == U'\n') {
