@@ -30,6 +30,14 @@ const RootName rootNames[] = {
     {QLatin1String("HKEY_PERFORMANCE_DATA"), RegKey::Root::Other},
 };
 
+/// Null for what is no root.
+const RootName* findRoot(const QString& name) {
+    const auto* const found = std::find_if(std::begin(rootNames), std::end(rootNames), [&name](const RootName& known) {
+        return name.compare(known.name, Qt::CaseInsensitive) == 0;
+    });
+    return found != std::end(rootNames) ? found : nullptr;
+}
+
 class Parser {
 public:
     Parser(const QString& text, const QString& file, RegFile& result)
@@ -94,12 +102,9 @@ bool Parser::openKey(const QString& line) {
     RegKey key;
     key.isErased = line.startsWith(QLatin1Char('-'));
     const QStringList parts = line.mid(key.isErased ? 1 : 0).split(QLatin1Char('\\'), Qt::SkipEmptyParts);
-    const QString rootName = parts.value(0);
-    const auto* const root = std::find_if(std::begin(rootNames), std::end(rootNames), [&rootName](const RootName& r) {
-        return rootName.compare(r.name, Qt::CaseInsensitive) == 0;
-    });
-    if (root == std::end(rootNames)) {
-        return failHere(QStringLiteral("\"%1\" is no root key, such as HKEY_LOCAL_MACHINE").arg(rootName));
+    const RootName* const root = findRoot(parts.value(0));
+    if (!root) {
+        return failHere(QStringLiteral("\"%1\" is no root key, such as HKEY_LOCAL_MACHINE").arg(parts.value(0)));
     }
     if (parts.size() > deepestKey) {
         return failHere(QStringLiteral("the key is more than %1 levels deep").arg(deepestKey));
@@ -210,10 +215,8 @@ QString rootName(RegKey::Root root) {
 }
 
 RegKey::Root rootNamed(const QString& name) {
-    const auto* const found = std::find_if(std::begin(rootNames), std::end(rootNames), [&name](const RootName& known) {
-        return name.compare(known.name, Qt::CaseInsensitive) == 0;
-    });
-    return found != std::end(rootNames) ? found->root : RegKey::Root::Other;
+    const RootName* const found = findRoot(name);
+    return found ? found->root : RegKey::Root::Other;
 }
 
 RegFile parseRegFile(const QByteArray& bytes, const QString& file) {
