@@ -14,6 +14,15 @@ JsonValue stringsOf(const char* name, const Texts& texts) {
     return array;
 }
 
+template <class Key>
+JsonValue objectOf(const char* name, const QMap<Key, QString>& texts) {
+    JsonValue object = JsonValue::object(QLatin1String(name));
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        object.items.push_back(JsonValue::string(text.key(), text.value()));
+    }
+    return object;
+}
+
 JsonValue shellFoldersOf(const Pc& pc) {
     JsonValue object = JsonValue::object(QStringLiteral("shellFolders"));
     for (const ShellFolderName& known : shellFolders) {
@@ -24,28 +33,12 @@ JsonValue shellFoldersOf(const Pc& pc) {
     return object;
 }
 
-JsonValue volumesOf(const Pc& pc) {
-    JsonValue object = JsonValue::object(QStringLiteral("volumes"));
-    for (auto volume = pc.volumes.begin(); volume != pc.volumes.end(); ++volume) {
-        object.items.push_back(JsonValue::string(volume.key(), volume.value()));
-    }
-    return object;
-}
-
 JsonValue environmentOf(const Pc& pc) {
     JsonValue object = JsonValue::object(QStringLiteral("environment"));
     QStringList names = pc.environment.keys();
     names.sort();
     for (const QString& name : qAsConst(names)) {
         object.items.push_back(JsonValue::string(name, pc.environment.value(name)));
-    }
-    return object;
-}
-
-JsonValue userLocationsOf(const Pc& pc) {
-    JsonValue object = JsonValue::object(QStringLiteral("userLocations"));
-    for (auto location = pc.userLocations.begin(); location != pc.userLocations.end(); ++location) {
-        object.items.push_back(JsonValue::string(location.key(), location.value()));
     }
     return object;
 }
@@ -107,8 +100,8 @@ JsonValue pcJson(const Pc& pc) {
     }
     add(shellFoldersOf(pc));
     add(stringsOf("system", pathsOf(pc.drives, &File::isSystem)));
-    add(userLocationsOf(pc));
-    add(volumesOf(pc));
+    add(objectOf("userLocations", pc.userLocations));
+    add(objectOf("volumes", pc.volumes));
     return root;
 }
 
