@@ -39,31 +39,9 @@ JsonValue truth(QLatin1String name) {
     return value;
 }
 
-class Writer {
-public:
-    explicit Writer(const Drives& drives)
-        : m_drives(drives) {}
+JsonValue entriesOf(const Drives& drives, const QString& name, const DrivePath& folder);
 
-    JsonValue entries(const QString& name, const DrivePath& folder) const;
-
-private:
-    JsonValue entry(const DrivePath& path, const File& file) const;
-
-    const Drives& m_drives;
-};
-
-JsonValue Writer::entries(const QString& name, const DrivePath& folder) const {
-    JsonValue list = JsonValue::array(name);
-    for (const QString& below : m_drives.list(folder)) {
-        const DrivePath path = pathIn(folder, below);
-        if (const File* const file = m_drives.find(path)) {
-            list.items.push_back(entry(path, *file));
-        }
-    }
-    return list;
-}
-
-JsonValue Writer::entry(const DrivePath& path, const File& file) const {
+JsonValue entryOf(const Drives& drives, const DrivePath& path, const File& file) {
     const QByteArray contents = file.contents.read().value_or(QByteArray());
     if (!file.isFolder() && contents.isEmpty() && !file.isHidden && !file.isSystem) {
         return JsonValue::string({}, file.name);
@@ -84,9 +62,20 @@ JsonValue Writer::entry(const DrivePath& path, const File& file) const {
         addContents(contents, object);
     }
     if (file.isFolder()) {
-        object.items.push_back(entries(entriesMember, path));
+        object.items.push_back(entriesOf(drives, entriesMember, path));
     }
     return object;
+}
+
+JsonValue entriesOf(const Drives& drives, const QString& name, const DrivePath& folder) {
+    JsonValue list = JsonValue::array(name);
+    for (const QString& below : drives.list(folder)) {
+        const DrivePath path = pathIn(folder, below);
+        if (const File* const file = drives.find(path)) {
+            list.items.push_back(entryOf(drives, path, *file));
+        }
+    }
+    return list;
 }
 
 class Reader {
@@ -168,7 +157,7 @@ JsonValue drivesJson(const Drives& drives) {
     JsonValue object = JsonValue::object(drivesMember);
     const QStringList letters = drives.letters();
     for (const QString& letter : letters) {
-        object.items.push_back(Writer(drives).entries(letter, rootOf(letter.at(0))));
+        object.items.push_back(entriesOf(drives, letter, rootOf(letter.at(0))));
     }
     return object;
 }
