@@ -33,18 +33,12 @@ inline QString baseName(const QString& fileName, int from = 0) {
 
 // With forward slashes:
 
-/// The folder that `path` is in.
-inline QString absoluteFolderOf(const QString& path) {
-    return Platform::absoluteFolderOf(path);
-}
+/// The folder that a path is in.
+using Platform::absoluteFolderOf;
 
-inline QString absoluteFolder(const QString& folder) {
-    return Platform::absoluteFolder(folder);
-}
+using Platform::absoluteFolder;
 
-/// `name` below `folder`, or by itself when it is a whole path.
-inline QString absoluteFilePath(const QString& folder, const QString& name) {
-    return Platform::absoluteFilePath(folder, name);
-}
+/// A name below a folder, or by itself when it is a whole path.
+using Platform::absoluteFilePath;
 
 } // namespace Paths
