@@ -111,10 +111,9 @@ ExitStatus askPlugin(const Options& options, const Ask& ask) {
     return fault.isEmpty() ? status : fail(fault);
 }
 
-ExitStatus explainWithin(IGameFinderFactory& factory, const Options& options, const Game& game,
-                         const PluginTrace& trace) {
+ExitStatus explainWithin(IGameFinderFactory& factory, const Options& options, const Game& game, PluginTrace& trace) {
     const GameAnswer answer = askForGame(factory, game);
-    const TraceEvents events = trace.events();
+    const TraceEvents events = trace.take();
     if (events.empty()) {
         return fail(QStringLiteral("%1: this plug-in writes no trace").arg(options.plugin));
     }
@@ -129,7 +128,7 @@ ExitStatus explainWithin(IGameFinderFactory& factory, const Options& options, co
 }
 
 ExitStatus explainGame(const Options& options, const Game& game) {
-    const PluginTrace trace;
+    PluginTrace trace;
     return askPlugin(options,
                      [&](IGameFinderFactory& factory) { return explainWithin(factory, options, game, trace); });
 }

@@ -14,12 +14,8 @@ PluginTrace::~PluginTrace() {
     QCoreApplication::instance()->setProperty(Trace::deviceProperty, QVariant());
 }
 
-TraceEvents PluginTrace::events() const {
-    return parseTrace(m_lines.data());
-}
-
 TraceEvents PluginTrace::take() {
-    TraceEvents taken = events();
+    TraceEvents taken = parseTrace(m_lines.data());
     m_lines.buffer().clear();
     m_lines.seek(0);
     return taken;

@@ -15,10 +15,7 @@ public:
     PluginTrace();
     ~PluginTrace();
 
-    /// What was told so far and has not been taken.
-    TraceEvents events() const;
-
-    /// The same, which is then no longer kept.
+    /// What was told so far, each event once.
     TraceEvents take();
 
 private:

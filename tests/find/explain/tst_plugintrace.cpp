@@ -15,12 +15,12 @@ QObject* deviceOfApplication() {
 }
 
 TEST(PluginTrace, TakesWhatIsToldToTheApplicationsDevice) {
-    const Find::PluginTrace trace;
-    EXPECT_TRUE(trace.events().empty()) << "nothing was told yet";
+    Find::PluginTrace trace;
+    EXPECT_TRUE(trace.take().empty()) << "nothing was told yet";
     auto* const device = qobject_cast<QIODevice*>(deviceOfApplication());
     ASSERT_NE(device, nullptr);
     device->write("{\"event\":\"note\",\"text\":\"1\"}\n");
-    const Find::TraceEvents events = trace.events();
+    const Find::TraceEvents events = trace.take();
     ASSERT_EQ(events.size(), 1U);
     EXPECT_EQ(std::get<Trace::Note>(events.front()).text, "1");
 }
