@@ -15,10 +15,6 @@ constexpr const char* registryFolder = "/registry";
 constexpr const char* drivesFolder = "/drives";
 constexpr const char* descriptionFile = "/pc.json";
 
-QString displayed(const QByteArray& path) {
-    return QString::fromUtf8(path);
-}
-
 bool isRecordingFolder(const QByteArray& folder) {
     return HostFiles::isFolder(folder + registryFolder) || HostFiles::isFolder(folder + drivesFolder) ||
            HostFiles::isFile(folder + descriptionFile);
@@ -70,7 +66,7 @@ void FolderReader::readRegistry(const QByteArray& folder) {
             report(path, 0, QStringLiteral("the file cannot be read"));
             continue;
         }
-        const RegFile file = parseRegFile(*bytes, displayed(path));
+        const RegFile file = parseRegFile(*bytes, QString::fromUtf8(path));
         m_recording.pc.registry.apply(file.keys);
         m_recording.problems.insert(m_recording.problems.end(), file.problems.begin(), file.problems.end());
     }
@@ -82,14 +78,14 @@ void FolderReader::readDescription(const QByteArray& file) {
     if (!bytes) {
         report(file, 0, QStringLiteral("the file cannot be read"));
     } else if (const std::optional<JsonValue> json = parseJson(*bytes, fault)) {
-        readPcJson(*json, displayed(file), m_recording.pc, m_recording.problems);
+        readPcJson(*json, QString::fromUtf8(file), m_recording.pc, m_recording.problems);
     } else {
         report(file, fault.line, fault.message);
     }
 }
 
 void FolderReader::report(const QByteArray& path, int line, const QString& message) {
-    m_recording.problems.push_back({displayed(path), line, message});
+    m_recording.problems.push_back({QString::fromUtf8(path), line, message});
 }
 
 QString noRecording() {
@@ -100,7 +96,7 @@ Recording readFile(const QByteArray& path) {
     Recording recording;
     const std::optional<QByteArray> contents = HostFiles::read(path);
     if (contents) {
-        return parseRecording(*contents, displayed(path));
+        return parseRecording(*contents, QString::fromUtf8(path));
     }
     recording.fault = QStringLiteral("the file cannot be read");
     return recording;

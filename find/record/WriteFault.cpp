@@ -10,10 +10,6 @@ namespace Find {
 
 namespace {
 
-QString shown(const QString& path) {
-    return QDir::toNativeSeparators(path);
-}
-
 /// The nearest thing above that is there; empty when not even the drive is.
 QString nearestAbove(const QString& path) {
     QString above = QFileInfo(path).absolutePath();
@@ -34,12 +30,13 @@ QString causeAgainst(const QString& path, bool areFoldersMade) {
         return QStringLiteral("there is no drive %1").arg(parent.left(2));
     }
     if (!QFileInfo(nearest).isDir()) {
-        return QStringLiteral("%1 is not a folder").arg(shown(nearest));
+        return QStringLiteral("%1 is not a folder").arg(QDir::toNativeSeparators(nearest));
     }
     if (nearest != parent && !areFoldersMade) {
-        return QStringLiteral("there is no folder %1").arg(shown(parent));
+        return QStringLiteral("there is no folder %1").arg(QDir::toNativeSeparators(parent));
     }
-    return QFileInfo(nearest).isWritable() ? QString() : QStringLiteral("%1 is read-only").arg(shown(nearest));
+    return QFileInfo(nearest).isWritable() ? QString()
+                                           : QStringLiteral("%1 is read-only").arg(QDir::toNativeSeparators(nearest));
 }
 
 } // namespace

@@ -126,10 +126,6 @@ TableLayout chooseLayout(const CellWidths& cells, std::size_t leading, int width
     return best;
 }
 
-QString blanks(int count) {
-    return QString(count, QLatin1Char(' '));
-}
-
 QStringList linesOf(const TableCell& cell, int width) {
     return hangingLines(oneLine(cell.text), width);
 }
@@ -143,7 +139,7 @@ public:
     /// The next cell of the line, at this column.
     void put(int column, const QString& text, Tone tone) {
         if (!text.isEmpty()) {
-            m_line += blanks(column - m_width) + coloured(text, tone, m_terminal);
+            m_line += QString(column - m_width, QLatin1Char(' ')) + coloured(text, tone, m_terminal);
             m_width = column + displayWidth(text);
         }
     }
