@@ -19,8 +19,8 @@ bool isFullPath(const QString& path) {
 } // namespace
 
 GivenFolder givenFolder(const QString& argument) {
-    const int quote = argument.indexOf(QLatin1Char('"'));
-    if (quote < 0 || QFileInfo::exists(argument)) {
+    const int quote = isPcItself() ? argument.indexOf(QLatin1Char('"')) : -1;
+    if (quote < 0) {
         return {argument, {}};
     }
     return {argument.left(quote), argument.mid(quote + 1).trimmed()};

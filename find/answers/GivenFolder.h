@@ -11,7 +11,7 @@ struct GivenFolder {
 };
 
 /// What was meant. In "D:\Games\X\" Windows takes the last backslash and the quote behind it for a quote within the
-/// text, and goes on to the next quote: no name has one.
+/// text, and goes on to the next quote: no name has one there. Elsewhere names may.
 GivenFolder givenFolder(const QString& argument);
 
 /// Without the separators at its end; a drive's root keeps its own.
