@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Fuzz::require(!names.contains(game.name), "a name once");
         names.insert(game.name);
         check(game.finders);
-        QString unknown;
+        QStringList unknown;
         const auto selected = Find::selectGames(*catalogue, {game.name}, unknown);
         Fuzz::require(selected && selected->size() == 1 && selected->front().name == game.name, "found by its name");
     }
