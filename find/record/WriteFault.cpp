@@ -1,5 +1,7 @@
 #include "find/record/WriteFault.h"
 
+#include "find/pc/System.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -10,7 +12,7 @@ namespace Find {
 
 namespace {
 
-/// The nearest thing above that is there; empty when not even the drive is.
+/// The nearest thing above that is there; empty when not even the share is.
 QString nearestAbove(const QString& path) {
     QString above = QFileInfo(path).absolutePath();
     while (!QFileInfo::exists(above)) {
@@ -25,14 +27,15 @@ QString nearestAbove(const QString& path) {
 
 QString causeAgainst(const QString& path, bool areFoldersMade) {
     const QString parent = QFileInfo(path).absolutePath();
-    const QString nearest = nearestAbove(path);
-    if (nearest.isEmpty()) {
-        return QStringLiteral("there is no drive %1").arg(parent.left(2));
+    const QString drive = missingDrive(parent);
+    if (!drive.isEmpty()) {
+        return QStringLiteral("there is no drive %1").arg(drive);
     }
-    if (!QFileInfo(nearest).isDir()) {
+    const QString nearest = nearestAbove(path);
+    if (!nearest.isEmpty() && !QFileInfo(nearest).isDir()) {
         return QStringLiteral("%1 is not a folder").arg(QDir::toNativeSeparators(nearest));
     }
-    if (nearest != parent && !areFoldersMade) {
+    if (nearest.isEmpty() || (nearest != parent && !areFoldersMade)) {
         return QStringLiteral("there is no folder %1").arg(QDir::toNativeSeparators(parent));
     }
     return QFileInfo(nearest).isWritable() ? QString()

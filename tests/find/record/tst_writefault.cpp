@@ -35,7 +35,9 @@ TEST(WriteFault, NamesTheDriveThatIsMissing) {
         GTEST_SKIP() << "no drives here";
     }
     EXPECT_EQ(causeAgainstFile("Q:\\my\\pc.json"), "there is no drive Q:");
-    EXPECT_EQ(causeAgainstFolder("Q:/my"), "there is no drive Q:");
+    EXPECT_EQ(causeAgainstFolder("q:/my"), "there is no drive Q:");
+    EXPECT_EQ(causeAgainstFile("\\\\nobody\\share\\x.json"), "there is no folder \\\\nobody\\share")
+        << "which is no drive";
 }
 
 TEST(WriteFault, NamesTheFolderThatIsReadOnly) {

@@ -29,7 +29,7 @@ QStringList linesOf(std::initializer_list<Find::TraceEvent> events) {
     return Recordings::fromUtf16(bytes.mid(2)).split("\r\n", Qt::SkipEmptyParts).mid(1);
 }
 
-TEST(RegistryRecord, HasTheKeysThatWereOpenedAndTheirListedOnes) {
+TEST(RegistryFacts, HasTheKeysThatWereOpenedAndTheirListedOnes) {
     const QStringList lines =
         linesOf({key(user, 64, "Software\\X"), key(user, 64, "Software\\Y"), key(user, 64, "Software\\missing", 2),
                  Trace::SubKeys{{user, 64, "Software\\X"}, {"b", "a"}}, exists("C:\\x", true)});
@@ -37,7 +37,7 @@ TEST(RegistryRecord, HasTheKeysThatWereOpenedAndTheirListedOnes) {
                                   "[HKEY_CURRENT_USER\\Software\\Y]"}));
 }
 
-TEST(RegistryRecord, HasTheValuesThatWereRead) {
+TEST(RegistryFacts, HasTheValuesThatWereRead) {
     const QStringList lines = linesOf({text(user, 64, "Software\\X", "Title", "say \"hello\" to C:\\x"),
                                        text(user, 64, "software\\x", "", "Käfer"),
                                        Trace::Value{{user, 64, "Software\\X"}, "none", 2, 0, {}}});
@@ -45,7 +45,7 @@ TEST(RegistryRecord, HasTheValuesThatWereRead) {
                                   "\"Title\"=\"say \\\"hello\\\" to C:\\\\x\""}));
 }
 
-TEST(RegistryRecord, HasOfValuesOnlyWhatFindersUse) {
+TEST(RegistryFacts, HasOfValuesOnlyWhatFindersUse) {
     const QString path = "Software\\X";
     EXPECT_EQ(
         linesOf({value(user, 64, path, "bytes", 3, "secret"), value(user, 64, path, "cut", 1, stored("a").left(3)),
@@ -58,7 +58,7 @@ TEST(RegistryRecord, HasOfValuesOnlyWhatFindersUse) {
                      "\"number\"=dword:04030201", "\"variable\"=hex(2):00,00,00,00", "\"zero\"=\"a\""}));
 }
 
-TEST(RegistryRecord, FilesThe32BitViewWhereWindowsDoes) {
+TEST(RegistryFacts, FilesThe32BitViewWhereWindowsDoes) {
     EXPECT_EQ(linesOf({key(machine, 32, "Software\\X"), key(machine, 64, "SOFTWARE\\X"), key(user, 32, "Software\\X"),
                        key(machine, 32, "Software\\Microsoft\\Windows\\CurrentVersion\\App Paths")}),
               (QStringList{"[HKEY_CURRENT_USER\\Software\\X]",
@@ -66,7 +66,7 @@ TEST(RegistryRecord, FilesThe32BitViewWhereWindowsDoes) {
                            "[HKEY_LOCAL_MACHINE\\Software\\Wow6432Node\\X]", "[HKEY_LOCAL_MACHINE\\Software\\X]"}));
 }
 
-TEST(RegistryRecord, The32BitViewGoesFirstWhereViewsAreShared) {
+TEST(RegistryFacts, The32BitViewGoesFirstWhereViewsAreShared) {
     const auto from64 = text(classes, 64, "steam", "", "64");
     const auto from32 = text(classes, 32, "steam", "", "32");
     const QStringList expected{"[HKEY_LOCAL_MACHINE\\Software\\Classes\\steam]", "@=\"32\""};
