@@ -45,6 +45,7 @@ TEST(ShellTexts, AShellThatIsNotKnownIsRefused) {
     const FindRun run = FindProgram().runBare({"completion", "fish"});
     EXPECT_EQ(run.exitStatus, 2);
     EXPECT_EQ(run.errors, "luruludri-find: completion: there is none for \"fish\", only for bash, zsh, powershell\n");
+    EXPECT_TRUE(FindProgram().runBare({"completion", "bashh"}).errors.endsWith("; did you mean \"bash\"?\n"));
     EXPECT_EQ(Find::completionFor("fish"), "");
 }
 

@@ -156,6 +156,18 @@ TEST(ReportPage, SaysWhatBecameOfPrivateNames) {
                           "folder.\n"));
 }
 
+TEST(ReportPage, TellsThatThereIsNothingToTell) {
+    const std::string empty = page({});
+    EXPECT_THAT(empty, HasSubstr("<p>The catalogue has none.</p>"));
+    EXPECT_THAT(empty, HasSubstr("<p>Nothing.</p>"));
+    EXPECT_EQ(count(empty, "hidden>No game matches."), 1) << "which would mean that the search hides some";
+    EXPECT_EQ(count(empty, "hidden>Nothing matches."), 1);
+
+    ReportData data;
+    data.games.push_back(foundGame("Wal"));
+    EXPECT_THAT(page(data), Not(HasSubstr("The catalogue has none.")));
+}
+
 TEST(ReportPage, TellsFaultsOrThatThereAreNone) {
     ReportData data;
     EXPECT_THAT(page(data), HasSubstr("<p>None: all that finders look at could be read.</p>"));
